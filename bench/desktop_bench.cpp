@@ -1,0 +1,141 @@
+// What a user waits for in the windows, on a screen of 3840 by 2160 pixels.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <cmath>
+#include <filesystem>
+#include <memory>
+
+#include "desktop/look.h"
+#include "desktop/main_window.h"
+#include "desktop/qt_user.h"
+#include "painter/chart_drawing.h"
+
+namespace zandrell {
+namespace {
+
+constexpr int kWidth = 3840, kHeight = 2160;
+
+// The program writes into its data folder; the delivered set must not change.
+std::filesystem::path CopyOfDataSet() {
+    static const QTemporaryDir folder;
+    const std::filesystem::path path = folder.path().toStdString();
+    std::filesystem::copy(ZANDRELL_STAGED_DATA, path,
+                          std::filesystem::copy_options::recursive |
+                              std::filesystem::copy_options::overwrite_existing);
+    return path;
+}
+
+// The program with a plant open, as a user has it before him.
+struct Session {
+    Session() {
+        form.Load();
+        window = std::make_unique<MainWindow>(form, files, user);
+        window->resize(kWidth, kHeight);
+        window->show();
+        window->Start();
+        struct {
+            const char *field, *text;
+        } const inputs[] = {{"tabLuft", "24"},   {"PHIAbluft", "50"}, {"Taus", "32"},
+                            {"PhiAussen", "40"}, {"TZuluft", "18"},   {"PHIZuluft", "50"},
+                            {"tKA", "12"},       {"phiKanal", "95"},  {"vhAnlage", "10000"},
+                            {"aussenAnt", "1"},  {"dtVent1", "1"},    {"dtVent2", "1"}};
+        window->Mirror().Perform([&] {
+            form.UserClick("AnlageButt");
+            for (const auto& input : inputs) form.UserSetText(input.field, input.text);
+            form.UserReturn("vhAnlage");
+        });
+        QApplication::processEvents();
+    }
+
+    DataFiles files{CopyOfDataSet()};
+    QtUser user;
+    MainForm form{user, files, files.DataFolder()};
+    std::unique_ptr<MainWindow> window;
+};
+
+Session& TheSession() {
+    static Session* const session = new Session;  // outlives every other object of the toolkit
+    return *session;
+}
+
+void FullPaint(benchmark::State& state) {
+    const RecordingCanvas& picture = TheSession().form.chart.picture;
+    QImage image(kWidth, kHeight, QImage::Format_RGB32);
+    const ChartView view(picture, QRectF(image.rect()), 1);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        PaintPicture(painter, picture, view);
+        painter.end();
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+BENCHMARK(FullPaint)->Unit(benchmark::kMillisecond);
+
+void SendMouse(ChartWidget& chart, QEvent::Type type, QPointF place) {
+    const bool moves = type == QEvent::MouseMove;
+    QMouseEvent event(type, place, chart.mapToGlobal(place), moves ? Qt::NoButton : Qt::LeftButton,
+                      moves ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&chart, &event);
+}
+
+// Counts the repaints of a widget, so that a figure without a repaint in it is not believed.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(QObject& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++paints;
+        return false;
+    }
+    double paints = 0;
+};
+
+// One move of a carried mark: the plant runs, the panel shows its figures, the window repaints.
+void DragOfAMarkInThePlant(benchmark::State& state) {
+    Session& session = TheSession();
+    ChartWidget& chart = session.window->Chart();
+    const QPointF start = chart.ToWidget(session.form.overlay.PP2.state);
+    SendMouse(chart, QEvent::MouseButtonPress, start);
+    if (session.form.PP2Gefasst != 1) state.SkipWithError("the mark was not picked up");
+    const PaintCounter counter(chart);
+    double turn = 0;
+    for (auto _ : state) {
+        turn += 0.1;
+        SendMouse(chart, QEvent::MouseMove, start + 60 * QPointF(std::cos(turn), std::sin(turn)));
+        QApplication::processEvents();
+    }
+    state.counters["repaints"] =
+        benchmark::Counter(counter.paints, benchmark::Counter::kAvgIterations);
+    SendMouse(chart, QEvent::MouseButtonPress, start);
+}
+BENCHMARK(DragOfAMarkInThePlant)->Unit(benchmark::kMillisecond);
+
+// A move with nothing carried: only the read-out follows.
+void PointerMove(benchmark::State& state) {
+    ChartWidget& chart = TheSession().window->Chart();
+    double turn = 0;
+    for (auto _ : state) {
+        turn += 0.1;
+        SendMouse(chart, QEvent::MouseMove,
+                  QPointF(900, 500) + 60 * QPointF(std::cos(turn), std::sin(turn)));
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(PointerMove)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zandrell
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    zandrell::ApplyLook(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

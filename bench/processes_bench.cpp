@@ -1,0 +1,94 @@
+#include <benchmark/benchmark.h>
+
+#include <array>
+
+#include "base/data_files.h"
+#include "processes/plant_panel.h"
+#include "processes/point_panel.h"
+
+namespace zandrell {
+namespace {
+
+// Both panels without a window; the bars are not bound, so nothing runs nested.
+struct Processes {
+    SharedValues shared;
+    Captions captions;
+    DataFiles files{ZANDRELL_STAGED_DATA};
+    StateSolver solver{files};
+    ChartSettings settings;
+    ChartScale scale;
+    Overlay overlay;
+    ReadOutPanel read_out;
+    ProcessFigures figures;
+    ProcessContext context{shared, captions, solver, settings, scale, overlay, read_out, figures};
+    PointPanel point{context};
+    PlantPanel plant{context};
+
+    Processes() {
+        solver.ChartDruckBar = 1.013;
+        ApplyBaseScale(settings, scale);
+    }
+
+    void SetPlant(const std::array<const char*, 12>& texts) {
+        const std::array<TextField*, 12> fields = {
+            &plant.vhAnlage, &plant.aussenAnt, &plant.tabLuft, &plant.PHIAbluft,
+            &plant.Taus,     &plant.PhiAussen, &plant.TZuluft, &plant.PHIZuluft,
+            &plant.tKA,      &plant.phiKanal,  &plant.dtVent1, &plant.dtVent2};
+        for (std::size_t i = 0; i < fields.size(); ++i) fields[i]->text = texts[i];
+        plant.TakeBarsFromFields();
+    }
+};
+
+void RunPlant(benchmark::State& state, const std::array<const char*, 12>& texts, bool water) {
+    Processes processes;
+    processes.SetPlant(texts);
+    if (water) Choose(processes.plant.Option3D4, processes.plant.Option3D3);
+    // Dragging: the outside temperature changes with every run.
+    const std::array<std::string, 2> outside = {texts[4], std::string(texts[4]) + ".1"};
+    unsigned run = 0;
+    for (auto _ : state) {
+        processes.plant.Taus.text = outside[++run % 2];
+        processes.plant.AnlageBerechnen();
+        benchmark::DoNotOptimize(processes.overlay.PP5.left);
+    }
+    if (processes.plant.Heiz2.text.size() < 4) state.SkipWithError("the plant was not computed");
+}
+
+void PlantSummerSteam(benchmark::State& state) {
+    RunPlant(state, {"10000", "1", "26", "50", "32", "40", "18", "75", "12", "95", "1", "1"},
+             false);
+}
+BENCHMARK(PlantSummerSteam);
+
+void PlantSummerWater(benchmark::State& state) {
+    RunPlant(state, {"10000", "1", "26", "50", "32", "40", "18", "75", "12", "95", "1", "1"}, true);
+}
+BENCHMARK(PlantSummerWater);
+
+void PlantWinterWater(benchmark::State& state) {
+    RunPlant(state, {"10000", "1", "20", "50", "-10", "100", "25", "35", "12", "95", "1", "1"},
+             true);
+}
+BENCHMARK(PlantWinterWater);
+
+void PointMode(benchmark::State& state, int mode) {
+    Processes processes;
+    PointPanel& panel = processes.point;
+    panel.Temp1.text = "20";
+    panel.relF1.text = "50";
+    panel.relF2.text = "60";
+    panel.LuftM1.text = panel.LuftM2.text = "10000";
+    panel.ShowForMode(mode);
+    unsigned run = 0;
+    for (auto _ : state) {
+        panel.Temp2.text = ++run % 2 == 0 ? "15" : "15.1";
+        panel.ZustandRechnen(mode, kMarksFromFields);
+        benchmark::DoNotOptimize(processes.overlay.PP2.left);
+    }
+}
+BENCHMARK_CAPTURE(PointMode, capacity, kCapacity);
+BENCHMARK_CAPTURE(PointMode, mixing, kMixing);
+BENCHMARK_CAPTURE(PointMode, water_humidifier, kWaterHumidifier);
+
+}  // namespace
+}  // namespace zandrell

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zandrell {
+
+struct Captions;
+
+enum class FileStatus { Ok, Missing, Unreadable, Malformed };
+
+// A word for messages: "missing", "unreadable" or "malformed".
+std::string_view StatusWord(FileStatus status);
+
+// The text of a file, decoded to UTF-8; empty unless the status is Ok.
+struct FileText {
+    FileStatus status = FileStatus::Missing;
+    std::string text;
+};
+
+// What can be made again at any time need not wait for the disk.
+enum class Durability { Flushed, Cache };
+
+// Tells whether a file changed since it was last looked at.
+struct FileStamp {
+    std::filesystem::file_time_type time{};
+    std::uintmax_t size = 0;
+    bool operator==(const FileStamp&) const = default;
+};
+
+// Fixed-length records, numbered from 1; a record behind the end is empty.
+class RecordFile {
+  public:
+    RecordFile(FileStatus status, std::string bytes, std::size_t record_length);
+    FileStatus Status() const { return status_; }
+    bool Empty() const { return bytes_.empty(); }
+    std::string_view Record(std::size_t number) const;
+
+  private:
+    FileStatus status_;
+    std::string bytes_;
+    std::size_t record_length_;
+};
+
+// All file access of the program. A bare name stands for a file of the data folder, a name that
+// holds a slash of either kind is a path. Names are looked up without regard to case. Nothing here
+// throws; who calls decides that a missing file means empty.
+class DataFiles {
+  public:
+    // A text file of the suite has some kilobytes; what is larger than this is no such file.
+    static constexpr std::uintmax_t kLargestText = 4U << 20U;
+    static constexpr std::uintmax_t kLargestRecordFile = 64U << 20U;
+
+    explicit DataFiles(std::filesystem::path data_folder) : data_folder_(std::move(data_folder)) {}
+
+    const std::filesystem::path& DataFolder() const { return data_folder_; }
+    void SetDataFolder(std::filesystem::path folder) { data_folder_ = std::move(folder); }
+
+    std::filesystem::path Resolve(std::string_view name) const;
+
+    // Malformed when the file is larger than `largest`. A read-only attribute is cleared on the
+    // way.
+    FileText OpenForInput(std::string_view name, std::uintmax_t largest = kLargestText) const;
+
+    // Replaces the whole file by `text` (encoded as the suite's files are): written beside it,
+    // flushed and renamed, so that the old or the new content stands there, never half.
+    FileStatus OpenForOutput(std::string_view name, std::string_view text,
+                             Durability durability = Durability::Flushed) const;
+
+    // For reading only; a missing file is not created. Record length 0 means 128.
+    RecordFile OpenRandom(std::string_view name, std::size_t record_length) const;
+
+    // Makes a file writable for its owner. Returns whether it is writable now.
+    static bool ClearReadOnly(const std::filesystem::path& path);
+
+    // Deletes a file; one that could not be removed is reported through `warn`, once a run. A
+    // read-only file survives the first try, which clears its attribute: the suite has always done
+    // so.
+    void DeleteDataFile(std::string_view name, const Captions& captions,
+                        const std::function<void(const std::string&)>& warn);
+
+    // Empty when there is no such file.
+    std::optional<FileStamp> Stamp(std::string_view name) const;
+
+  private:
+    std::filesystem::path data_folder_;
+    bool delete_warning_given_ = false;
+};
+
+}  // namespace zandrell

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zandrell {
+
+inline constexpr std::string_view CrLf = "\r\n";
+inline constexpr std::string_view ColonSuffix = " :";
+inline constexpr std::string_view kVersion = "10.11.2";
+
+// The values that every part of one running program shares: the suite's settings, and the small
+// integers by which windows tell each other what has happened. Owned by whoever starts the program.
+struct SharedValues {
+    // From kparam.dat, with the defaults that hold when it says nothing.
+    std::string ProjectFolder;
+    std::string LanguageTag = "ENG";
+    std::string CurrencyTag = "EUR";
+    std::string PrintFontName = "Arial";
+    std::string UserCompany;
+    int HeaderStyle = 0;
+    int SkinNumber = 0;
+    std::string LogoFile;
+    std::string DateFormatCode;
+    std::string LabelFontSize = "12";
+    std::string PaperSize;
+    int PaperOrientation = 1;
+    std::string VersionText = std::string(kVersion);
+    double MainsFrequency = 50;  // Hz
+
+    std::string ModuleTag = "QV";
+    std::string AppTitle = "Zandrell";
+
+    std::string ProjectTitle;
+    std::string ProjectRemark;
+    std::string HandOverTitle;  // what a sibling module adds to the window title
+    std::string ProjektFeldDatei = "QV_ACT.dat";
+    int ProjektArt = 0;
+    double project_pressure_bar = 0;  // the pressure stored with a project of kind 111
+
+    int ZurueckVomDialog = 0;  // not 0: an activation is the echo of a dialog and reloads nothing
+    int DialogMode = 0;
+    int OptionenSignal = 0;  // 77 taken, 88 cancelled
+
+    double AuswahlLeistung = 0;   // kW, noted for a selection dialog
+    double AuswahlLuftstrom = 0;  // m3/h, the same
+};
+
+}  // namespace zandrell

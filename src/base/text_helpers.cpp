@@ -1,0 +1,49 @@
+#include "base/text_helpers.h"
+
+#include <array>
+#include <utility>
+
+#include "base/text_encoding.h"
+
+namespace zandrell {
+
+std::string MakeFileNameSafe(int mode, std::string& text) {
+    if (mode == 1) {
+        const auto quote = text.find('"');
+        if (quote != std::string::npos) text.replace(quote, 1, "''");
+        return text;
+    }
+    for (const char c : std::string_view(".,:-&=! ")) {
+        const auto place = text.find(c);
+        if (place != std::string::npos) text.erase(place, 1);
+    }
+    return text;
+}
+
+int OemCharToAnsi(int code) {
+    constexpr std::array<std::pair<int, int>, 9> kMoved = {{{129, 252},
+                                                            {132, 228},
+                                                            {142, 196},
+                                                            {148, 246},
+                                                            {153, 214},
+                                                            {154, 220},
+                                                            {225, 223},
+                                                            {248, 176},
+                                                            {34, -1}}};
+    for (const auto& [from, to] : kMoved) {
+        if (code == from) return to;
+    }
+    return code;
+}
+
+std::string OemTextToAnsi(std::string_view bytes) {
+    std::string text;
+    for (const char c : bytes) {
+        const int code = OemCharToAnsi(static_cast<unsigned char>(c));
+        if (code < 0) text += "''";
+        if (code > 0) text += DecodeByte(static_cast<unsigned char>(code));
+    }
+    return text;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,138 @@
+#include "chart/chart_engine.h"
+
+#include <cmath>
+
+#include "base/number_text.h"
+#include "canvas/palette.h"
+#include "chart/chart_painting.h"
+
+namespace zandrell {
+namespace {
+
+constexpr std::string_view kSettingsFile = "qv_par.dat";
+constexpr int kProjectWithPressure = 111;
+
+}  // namespace
+
+ChartControls::ChartControls() {
+    ConsPN1.visible = false;
+    ConsPN1.width = 500;
+    ConsPN1.height = 60;
+    ZoomShape.visible = false;
+    Picture1.picture = "pic2.bmp";
+    Picture1.width = 260;
+    Picture1.height = 46;
+    Picture_p.visible = false;
+    Label27.visible = true;
+}
+
+void ChartControls::ListControls(Form& form) {
+    form.Add({&ConsPN1, &ConsPN2, &Picture1, &Picture_p, &Label27, &ZoomShape});
+}
+
+ChartEngine::ChartEngine(const DataFiles& files, SharedValues& shared, const Captions& captions,
+                         StateSolver& solver, Overlay& overlay, ReadOutPanel& read_out)
+    : files_(files),
+      shared_(shared),
+      captions_(captions),
+      solver_(solver),
+      overlay_(overlay),
+      read_out_(read_out),
+      cache_(files) {}
+
+void ChartEngine::DiagrammZeichnen(int modus, double a, double b, double& druck) {
+    if (printing && modus != kPaintPrinter) return;
+    const bool reading = modus == kReadOutWhole || modus == kReadOutAsScaled;
+    ReadSettings(druck);
+    if (modus != kReadOutWhole) ApplyColours();
+    if (modus == kPaintWhole || modus == kReadOutWhole) ApplyBaseScale(settings, scale);
+    if (modus == kPaintZoomed) {
+        const auto& frame = controls.ZoomShape;
+        ApplyZoom({frame.left, frame.top, frame.width, frame.height}, a, b, scale);
+    }
+    if (const std::string pressure = NumberText(druck); !pressure.empty()) {
+        read_out_.AbsDruck.text = pressure;
+    }
+    if (reading) {
+        ShowStateAt(scale.StateAt({a, b}), solver_, read_out_);
+        return;
+    }
+    PlaceLogo();
+    if (modus != kPaintPrinter) {
+        const bool light = settings.Helligkeit == kWhiteGround;
+        const bool grey = shared_.SkinNumber >= 2 && shared_.SkinNumber <= 5;
+        picture.Clear(light ? (grey ? kLightGreyValue : kWhite) : kBlack, light ? kBlack : kWhite);
+        Paint(picture, false);
+    } else if (printer != nullptr) {
+        Paint(*printer, true);
+    }
+}
+
+void ChartEngine::TakeAspect(int width_twips) {
+    if (width_twips <= 0) return;
+    const double tool_column = (width_twips + 2600.0) / width_twips;
+    AssignFinite(scale.CarrierFaktor, (tool_column * BreiteLogisch + 10) / HoeheLogisch);
+}
+
+void ChartEngine::ReadSettings(double& druck) {
+    const auto stamp = files_.Stamp(kSettingsFile);
+    if (stamp != settings_stamp_) {
+        ReadChartSettings(files_, file_settings_);
+        settings_stamp_ = stamp;
+    }
+    settings = file_settings_;
+    if (kind_override) settings.DiagrammArt = *kind_override;
+    // A stored project brings its own pressure; the options' pressure is passed over while it is
+    // open.
+    if (shared_.ProjektArt == kProjectWithPressure)
+        settings.pressure_bar = shared_.project_pressure_bar;
+    druck = settings.pressure_bar;
+    solver_.ChartDruckBar = druck;
+}
+
+void ChartEngine::ApplyColours() {
+    overlay_.SetColour(settings.Helligkeit == kWhiteGround ? kBlack : kYellow);
+}
+
+void ChartEngine::PlaceLogo() {
+    const bool mollier = settings.DiagrammArt == kMollier;
+    auto& logo = controls.Picture1;
+    logo.left = mollier ? 0.82 * BreiteLogisch : 100;
+    logo.top = mollier ? 0.76 * HoeheLogisch : 20;
+    controls.Picture_p.left = logo.left;
+    controls.Picture_p.top = logo.top + logo.height + 5;
+    controls.Label27.left = logo.left;
+    controls.Label27.top = controls.Picture_p.top + controls.Picture_p.height + 5;
+    controls.ConsPN1.left = (BreiteLogisch - controls.ConsPN1.width) / 2;
+    controls.ConsPN1.top = (HoeheLogisch - controls.ConsPN1.height) / 2;
+}
+
+void ChartEngine::Paint(Canvas& canvas, bool on_printer) {
+    controls.ConsPN1.visible = true;
+    ChartPainting painting{canvas,
+                           solver_,
+                           cache_,
+                           settings,
+                           scale,
+                           StepsFor(settings, scale),
+                           static_cast<double>(BreiteLogisch),
+                           static_cast<double>(HoeheLogisch),
+                           on_printer};
+    if (!on_printer) {
+        painting.progress = &controls.ConsPN2;
+        painting.progress_word = captions_.QVCaptList[2];
+    }
+    if (solver_.HasCoefficients()) painting.cache_is_good = cache_.Begin(settings);
+    PaintComfortField(painting);
+    PaintIsotherms(painting);
+    PaintHumidityGrid(painting);
+    if (solver_.HasCoefficients()) {
+        PaintHumidityCurves(painting);
+        PaintEnthalpyLines(painting);
+        PaintDensityLines(painting);
+        cache_.End();
+    }
+    controls.ConsPN1.visible = false;
+}
+
+}  // namespace zandrell

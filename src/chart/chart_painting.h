@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string_view>
+
+#include "canvas/canvas.h"
+#include "chart/chart_scale.h"
+#include "chart/chart_settings.h"
+#include "chart/curve_cache.h"
+#include "forms/control.h"
+#include "kernel/state_solver.h"
+
+namespace zandrell {
+
+// One painting of the chart: what every part of it needs.
+struct ChartPainting {
+    Canvas& canvas;
+    StateSolver& solver;
+    CurveCache& cache;
+    const ChartSettings& settings;
+    const ChartScale& scale;
+    GridSteps steps;
+    double width = 2000, height = 580;  // logical extent of the canvas
+    bool on_printer = false;
+    bool cache_is_good = false;
+    Label* progress = nullptr;  // shows which humidity curve is being painted
+    std::string_view progress_word = {};
+
+    bool Mollier() const { return scale.DiagrammArt == kMollier; }
+    // Both ends are points of the Mollier chart, turned for the chart in force.
+    void Line(CanvasPoint from, CanvasPoint to, int colour) const;
+};
+
+// Whole numbers from `first` to `last`, both to the nearest, that a state can have, by a fixed
+// step. Limits that are no numbers, or that hold nothing, give an empty range.
+struct WholeRange {
+    int first = 0, last = -1;
+};
+WholeRange WholeDegrees(double first, double last, int step);
+
+// The scales (chart_grid.cpp).
+void PaintComfortField(const ChartPainting& painting);
+void PaintIsotherms(const ChartPainting& painting);
+void PaintHumidityGrid(const ChartPainting& painting);
+
+// The curves (chart_curves.cpp).
+void PaintHumidityCurves(const ChartPainting& painting);
+void PaintEnthalpyLines(const ChartPainting& painting);
+void PaintDensityLines(const ChartPainting& painting);
+
+}  // namespace zandrell

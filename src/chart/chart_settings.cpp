@@ -1,0 +1,37 @@
+#include "chart/chart_settings.h"
+
+#include "base/delimited_text.h"
+
+namespace zandrell {
+namespace {
+
+constexpr std::string_view kSettingsFile = "qv_par.dat";
+
+}  // namespace
+
+FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings) {
+    const FileText file = files.OpenForInput(kSettingsFile);
+    if (file.status != FileStatus::Ok) return file.status;
+    DelimitedReader reader(file.text);
+    const bool whole =
+        reader.ReadNumber(settings.pressure_bar) && reader.ReadNumber(settings.ChartTMin) &&
+        reader.ReadNumber(settings.ChartTMax) && reader.ReadNumber(settings.ChartXMin) &&
+        reader.ReadNumber(settings.ChartXMax) && reader.ReadNumber(settings.site_height_m) &&
+        reader.ReadInteger(settings.DiagrammArt) && reader.ReadInteger(settings.Helligkeit);
+    return whole ? FileStatus::Ok : FileStatus::Malformed;
+}
+
+FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings) {
+    DelimitedWriter writer;
+    writer.Number(settings.pressure_bar).EndLine();
+    writer.Number(settings.ChartTMin).EndLine();
+    writer.Number(settings.ChartTMax).EndLine();
+    writer.Number(settings.ChartXMin).EndLine();
+    writer.Number(settings.ChartXMax).EndLine();
+    writer.Number(settings.site_height_m).EndLine();
+    writer.Number(settings.DiagrammArt).EndLine();
+    writer.Number(settings.Helligkeit).EndLine();
+    return files.OpenForOutput(kSettingsFile, writer.Result());
+}
+
+}  // namespace zandrell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "base/data_files.h"
+
+namespace zandrell {
+
+inline constexpr int kMollier = 0, kCarrier = 1;
+inline constexpr int kBlackGround = 0, kWhiteGround = 1;
+
+// The chart's settings as qv_par.dat keeps them.
+struct ChartSettings {
+    double pressure_bar = 1.013;
+    double ChartTMin = -20, ChartTMax = 40;  // degC
+    double ChartXMin = 0, ChartXMax = 40;    // g/kg
+    double site_height_m = 0;
+    int DiagrammArt = kMollier;  // any other value than 0 is the Carrier chart
+    int Helligkeit = kWhiteGround;
+};
+
+// Items that the file lacks keep their value in `settings`.
+FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings);
+FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings);
+
+}  // namespace zandrell

@@ -1,0 +1,219 @@
+#include "command/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <ostream>
+#include <sstream>
+#include <stdexcept>
+
+#include "base/shared_values.h"
+#include "base/text_encoding.h"
+#include "command/table_cells.h"
+
+namespace zandrell {
+namespace {
+
+constexpr int kWrongUse = 2;
+
+constexpr const char* kTableHelp =
+    "The table has comma-separated values and a header line that names the columns, in any order;\n"
+    "other columns are passed through. A row stands on one line, blank lines are skipped. Without "
+    "a\n"
+    "column p the pressure of the settings holds. A row without a result is reported with its "
+    "line\n"
+    "number, has empty result cells, and does not stop the rest.";
+
+constexpr const char* kStateHelp =
+    "Columns in:    t (degC), rh (per cent), p (bar)\n"
+    "Columns added: x_g_per_kg, h_kj_per_kg, h_dry_air_kj_per_kg, p_dry_air_pa, p_vapour_pa,\n"
+    "               density_kg_per_m3, density_dry_air_kg_per_m3, t_boiling_k\n";
+
+constexpr const char* kInvertHelp =
+    "rh-from-x       in: t, x (g/kg), p                             added: rh (per cent)\n"
+    "t-from-h        in: t_start, h (kJ/kg), kind, step (K), rh, x, p\n"
+    "                                                               added: t, step_after, x_last\n"
+    "                kind 1: one-step estimate, at rh\n"
+    "                kind 2: along constant rh\n"
+    "                kind 3: along constant x\n"
+    "t-from-density  in: t_start, density (kg/m3), kind, p          added: t, x_last\n"
+    "                kind 1: dry edge (1 %), kind 2: saturation line\n";
+
+constexpr const char* kFormHelp =
+    "One act a line; # begins a comment, a value runs to the end of the line.\n"
+    "  window WIDTH HEIGHT   set NAME TEXT   return NAME   click NAME   choose NAME\n"
+    "  check NAME on|off   select NAME INDEX   scroll NAME POSITION   key NAME KEY\n"
+    "  pointer move|press|release X Y [left|right]   answer VALUE   activate   close\n"
+    "  dump [NAME ...]       writes one line of JSON\n"
+    "The controls of another window are WINDOW.NAME once it is open.";
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  zandrell-calc state --t 25 --rh 50 --p 1.013\n"
+    "  zandrell-calc state < measured.csv > states.csv\n"
+    "  zandrell-calc invert rh-from-x --json < table.csv\n"
+    "  zandrell-calc chart -o chart.svg --kind carrier --size 1920x1080";
+
+// The options as they were typed; a decimal comma is as good as a point in them.
+struct TypedOptions {
+    std::string data, t, rh, p, kind, size, zoom;
+};
+
+[[noreturn]] void Refuse(const std::string& reason) { throw std::invalid_argument(reason); }
+
+double NumberOf(const std::string& option, const std::string& text) {
+    const auto number = NumberInCell(text);
+    if (!number) Refuse(option + ": no number: \"" + Excerpt(text) + "\"");
+    return *number;
+}
+
+std::vector<double> NumbersOf(const std::string& option, const std::string& text, char separator) {
+    std::vector<double> numbers;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, separator);) {
+        numbers.push_back(NumberOf(option, part));
+    }
+    return numbers;
+}
+
+void TakeState(const TypedOptions& typed, CommandLine& line) {
+    if (typed.t.empty() && typed.rh.empty() && typed.p.empty()) return;
+    if (typed.t.empty() || typed.rh.empty()) Refuse("one state needs both --t and --rh");
+    StateOptions state;
+    state.t = NumberOf("--t", typed.t);
+    state.rh = NumberOf("--rh", typed.rh);
+    if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
+    line.state = state;
+}
+
+int SideOf(double pixels) {
+    if (!(pixels >= 1 && pixels <= ChartRequest::kLargestSide) || pixels != std::floor(pixels)) {
+        Refuse("--size: each side has 1 to " + std::to_string(ChartRequest::kLargestSide) +
+               " whole pixels");
+    }
+    return static_cast<int>(pixels);
+}
+
+void TakeSize(const std::string& text, ChartRequest& chart) {
+    const auto sides = NumbersOf("--size", text, 'x');
+    if (sides.size() != 2) Refuse("--size: WIDTHxHEIGHT in pixels, as in 1600x900");
+    chart.width = SideOf(sides[0]);
+    chart.height = SideOf(sides[1]);
+}
+
+void TakeZoom(const std::string& text, ChartRequest& chart) {
+    const auto frame = NumbersOf("--zoom", text, ',');
+    if (frame.size() != 4) Refuse("--zoom: LEFT,TOP,WIDTH,HEIGHT in canvas units");
+    // As narrow or as far out as nobody can draw it with the pointer.
+    constexpr double kFarthest = 32767;
+    if (!(frame[2] >= 1 && frame[3] >= 1)) Refuse("--zoom: width and height are 1 or more");
+    if (std::any_of(frame.begin(), frame.end(), [](double f) { return std::abs(f) > kFarthest; })) {
+        Refuse("--zoom: the frame lies far outside the chart");
+    }
+    chart.zoom = ZoomFrame{frame[0], frame[1], frame[2], frame[3]};
+}
+
+void TakeChart(const TypedOptions& typed, ChartRequest& chart) {
+    const auto ends = [&](std::string_view ending) {
+        return chart.output.size() > ending.size() &&
+               EqualIgnoringCase(
+                   std::string_view(chart.output).substr(chart.output.size() - ending.size()),
+                   ending);
+    };
+    if (!ends(".svg") && !ends(".png") && !ends(".pdf")) {
+        Refuse(chart.output + ": a chart file ends in .svg, .png or .pdf");
+    }
+    if (!typed.kind.empty()) chart.kind = typed.kind == "carrier" ? kCarrier : kMollier;
+    if (!typed.size.empty()) TakeSize(typed.size, chart);
+    if (!typed.zoom.empty()) TakeZoom(typed.zoom, chart);
+}
+
+void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
+    auto* verb = app.add_subcommand("state", "States of humid air, for a table or for one state");
+    verb->add_option("FILE", line.input, "the table; without it the standard input");
+    verb->add_option("--t", typed.t, "one state instead of a table: temperature in degC");
+    verb->add_option("--rh", typed.rh, "its relative humidity in per cent");
+    verb->add_option("--p", typed.p, "its total pressure in bar; without it that of the settings");
+    verb->add_flag("--json", line.json, "one JSON object a line");
+    verb->footer(std::string(kStateHelp) + kTableHelp);
+    verb->callback([&] {
+        line.verb = Verb::State;
+        TakeState(typed, line);
+        if (line.state && line.input != "-") Refuse("either --t and --rh or a table, not both");
+    });
+}
+
+void AddInvert(CLI::App& app, CommandLine& line) {
+    auto* verb =
+        app.add_subcommand("invert", "Searches: humidity or temperature from other figures");
+    verb->add_option("SEARCH", line.search, "rh-from-x, t-from-h or t-from-density")
+        ->required()
+        ->check(CLI::IsMember({"rh-from-x", "t-from-h", "t-from-density"}));
+    verb->add_option("FILE", line.input, "the table; without it the standard input");
+    verb->add_flag("--json", line.json, "one JSON object a line");
+    verb->footer(std::string(kInvertHelp) + kTableHelp);
+    verb->callback([&] { line.verb = Verb::Invert; });
+}
+
+void AddForm(CLI::App& app, CommandLine& line) {
+    auto* verb = app.add_subcommand("form", "Drives the main form as a user would");
+    verb->add_option("SCRIPT", line.input, "the script; - is the standard input")->required();
+    verb->footer(kFormHelp);
+    verb->callback([&] { line.verb = Verb::Form; });
+}
+
+void AddChart(CLI::App& app, TypedOptions& typed, CommandLine& line) {
+    auto* verb = app.add_subcommand("chart", "Writes the chart as it stands to a file");
+    verb->add_option("-o,--output", line.chart.output, "the file: .svg, .png or .pdf")->required();
+    verb->add_option("--kind", typed.kind, "mollier or carrier; without it as in the settings")
+        ->check(CLI::IsMember({"mollier", "carrier"}));
+    verb->add_option("--size", typed.size, "WIDTHxHEIGHT in pixels; 1600x900 without it");
+    verb->add_option("--zoom", typed.zoom, "LEFT,TOP,WIDTH,HEIGHT of a frame in canvas units");
+    verb->add_option("--form", line.chart.script,
+                     "a script as of the verb form, whose process is drawn; - is the standard "
+                     "input");
+    verb->callback([&] {
+        line.verb = Verb::Chart;
+        TakeChart(typed, line.chart);
+    });
+}
+
+std::string OneLine(std::string text) {
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
+}  // namespace
+
+std::optional<int> ReadCommandLine(int count, const char* const* arguments, CommandLine& line,
+                                   std::ostream& out, std::string& error) {
+    CLI::App app("Zandrell without a window: states of humid air, searches, charts, forms.",
+                 "zandrell-calc");
+    TypedOptions typed;
+    app.add_option("--data", typed.data, "the data folder; without it the one of the program");
+    app.set_version_flag("--version", std::string(kVersion));
+    app.footer(kExamples);
+    app.require_subcommand(0, 1);  // the library would not name a word that is no verb
+    app.fallthrough();
+    AddState(app, typed, line);
+    AddInvert(app, line);
+    AddForm(app, line);
+    AddChart(app, typed, line);
+    try {
+        app.parse(count, arguments);
+    } catch (const CLI::ParseError& stop) {
+        if (stop.get_exit_code() == 0) return app.exit(stop, out, out);
+        error = OneLine(stop.what());
+        return kWrongUse;
+    } catch (const std::invalid_argument& wrong) {
+        error = OneLine(wrong.what());
+        return kWrongUse;
+    }
+    if (app.get_subcommands().empty()) {
+        error = "a verb is needed: state, invert, form or chart; --help says more";
+        return kWrongUse;
+    }
+    if (!typed.data.empty()) line.data = typed.data;
+    return std::nullopt;
+}
+
+}  // namespace zandrell

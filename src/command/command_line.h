@@ -1,0 +1,47 @@
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "chart/chart_scale.h"
+#include "command/single_state.h"
+#include "shell/start_up.h"
+
+namespace zandrell {
+
+// What to draw, and where to.
+struct ChartRequest {
+    static constexpr int kLargestSide = 20000;  // pixels
+
+    std::string output;
+    std::string script;       // a file, "-" for the standard input, empty for none
+    std::optional<int> kind;  // kMollier or kCarrier; empty as in the settings
+    std::optional<ZoomFrame> zoom;
+    int width = 1600, height = 900;  // pixels
+};
+
+// One state that is asked for on the command line; without p the pressure of the settings.
+struct StateOptions {
+    double t = 0, rh = 0;
+    std::optional<double> p;
+};
+
+enum class Verb { State, Invert, Form, Chart };
+
+struct CommandLine {
+    Verb verb = Verb::State;
+    NamedFolder data;
+    bool json = false;
+    std::string input = "-";  // the table or script; "-" is the standard input
+    std::string search;       // of the verb invert
+    std::optional<StateOptions> state;
+    ChartRequest chart;
+};
+
+// Reads the arguments of the program. An exit status means that there is nothing left to do: help
+// was written to `out`, or `error` says in one line what is wrong.
+std::optional<int> ReadCommandLine(int count, const char* const* arguments, CommandLine& line,
+                                   std::ostream& out, std::string& error);
+
+}  // namespace zandrell

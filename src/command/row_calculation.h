@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace zandrell {
+
+// What a table must hold of a column.
+enum class ColumnNeed {
+    Always,         // the column, and a number in each row
+    ColumnMayLack,  // a number in each row, if there is the column
+    NumberMayLack   // neither column nor number, unless the calculation asks for it
+};
+
+struct InputColumn {
+    std::string_view name;
+    ColumnNeed need = ColumnNeed::Always;
+};
+
+// A calculation that adds columns to a table, row by row.
+class RowCalculation {
+  public:
+    virtual ~RowCalculation() = default;
+
+    virtual std::span<const InputColumn> Inputs() const = 0;
+    virtual std::span<const std::string_view> Results() const = 0;
+
+    // `inputs` and `results` stand in the order of the two lists. False, with the reason in a few
+    // words, when there is no result. Requires: numbers where the need of the column says so.
+    virtual bool Calculate(std::span<const std::optional<double>> inputs, std::span<double> results,
+                           std::string& reason) = 0;
+};
+
+}  // namespace zandrell

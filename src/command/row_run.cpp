@@ -1,0 +1,235 @@
+#include "command/row_run.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include "command/table_cells.h"
+
+namespace zandrell {
+namespace {
+
+constexpr std::size_t kNoColumn = static_cast<std::size_t>(-1);
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool Fail(std::string& error, std::string reason) {
+    error = std::move(reason);
+    return false;
+}
+
+std::string Quoted(std::string_view text) { return '"' + Excerpt(text) + '"'; }
+
+std::string LineName(std::uint64_t number) { return "line " + std::to_string(number) + ": "; }
+
+class RowRun {
+  public:
+    RowRun(RowCalculation& calculation, RowFormat format, const RowStreams& streams)
+        : calculation_(calculation),
+          columns_(calculation.Inputs()),
+          json_(format == RowFormat::Json),
+          output_(streams.output),
+          reports_(streams.reports),
+          // Before the next bytes are waited for, what is done is handed over.
+          reader_([this, &streams](std::span<char> block) {
+              Flush();
+              return streams.input(block);
+          }),
+          inputs_(columns_.size()),
+          results_(calculation.Results().size()) {}
+
+    bool Run(std::string& error) {
+        LineReader::Line line;
+        if (reader_.Next(line) && !TakeHeader(line, error)) return false;
+        if (line.number == 1 && places_.empty() && !reader_.Failed()) {
+            return Fail(error, "the input is empty: its first line must name the columns");
+        }
+        while (!output_.Failed() && reader_.Next(line)) {
+            if (line.too_long || !line.text.empty()) TakeRow(line);
+        }
+        Flush();
+        if (reader_.Failed()) return Fail(error, "the input cannot be read");
+        if (output_.Failed()) return Fail(error, "the output cannot be written");
+        return true;
+    }
+
+  private:
+    bool TakeHeader(const LineReader::Line& line, std::string& error);
+    bool FindColumns(std::string& error);
+    bool NamesAreFitForJson(std::string& error) const;
+    void TakeRow(const LineReader::Line& line);
+    bool ReadCells(const LineReader::Line& line, std::string& reason);
+    bool ReadNumbers(std::string& reason);
+    bool FindResults(std::string& reason);
+    void WriteCsvRow(std::string_view text, bool found);
+    void WriteJsonRow(bool found);
+    void AppendJsonInput(std::string& json, std::size_t column) const;
+
+    void Flush() {
+        output_.Flush();
+        reports_.Flush();
+    }
+
+    RowCalculation& calculation_;
+    std::span<const InputColumn> columns_;
+    bool json_;
+    BufferedSink output_, reports_;
+    LineReader reader_;
+    std::vector<std::string> names_;   // of all columns of the table
+    std::vector<std::size_t> places_;  // of the inputs among them
+    std::vector<std::string_view> cells_;
+    std::vector<std::optional<double>> inputs_;
+    std::vector<double> results_;
+};
+
+bool RowRun::TakeHeader(const LineReader::Line& line, std::string& error) {
+    std::string_view text = line.text;
+    if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+    if (line.too_long || !SplitCells(text, cells_)) {
+        return Fail(error, "line 1: no header line that names the columns");
+    }
+    for (const auto cell : cells_) {
+        std::string name = CellText(cell);
+        const auto first = name.find_first_not_of(" \t");
+        name.erase(0, std::min(first, name.size()));
+        name.erase(name.find_last_not_of(" \t") + 1);
+        names_.push_back(std::move(name));
+    }
+    if (!FindColumns(error)) return false;
+    if (json_) return NamesAreFitForJson(error);
+    output_.buffer += line.text;
+    for (const auto result : calculation_.Results()) output_.buffer.append(",").append(result);
+    output_.EndLine();
+    return true;
+}
+
+bool RowRun::FindColumns(std::string& error) {
+    for (const auto& column : columns_) {
+        const auto found = std::find(names_.begin(), names_.end(), column.name);
+        if (found == names_.end() && column.need == ColumnNeed::Always) {
+            return Fail(error, "line 1: there is no column " + std::string(column.name));
+        }
+        if (found != names_.end() &&
+            std::find(found + 1, names_.end(), column.name) != names_.end()) {
+            return Fail(error, "line 1: there are two columns " + std::string(column.name));
+        }
+        places_.push_back(found == names_.end() ? kNoColumn
+                                                : static_cast<std::size_t>(found - names_.begin()));
+    }
+    return true;
+}
+
+// An object whose members share a name would lose one of them.
+bool RowRun::NamesAreFitForJson(std::string& error) const {
+    std::set<std::string_view> taken(calculation_.Results().begin(), calculation_.Results().end());
+    for (const auto& name : names_) {
+        if (taken.insert(name).second) continue;
+        return Fail(error, "line 1: a JSON object cannot hold two members " + Quoted(name));
+    }
+    return true;
+}
+
+void RowRun::TakeRow(const LineReader::Line& line) {
+    std::string reason;
+    std::fill(inputs_.begin(), inputs_.end(), std::nullopt);
+    const bool readable = ReadCells(line, reason);
+    const bool found = readable && ReadNumbers(reason) && FindResults(reason);
+    if (!found) {
+        reports_.buffer.append(LineName(line.number)).append(reason);
+        reports_.EndLine();
+    }
+    if (json_) {
+        WriteJsonRow(found);
+    } else {
+        // A row that cannot be taken apart would take its neighbours along in the next program.
+        WriteCsvRow(cells_.empty() ? std::string_view() : line.text, found);
+    }
+    output_.EndLine();
+}
+
+bool RowRun::ReadCells(const LineReader::Line& line, std::string& reason) {
+    if (line.too_long || !SplitCells(line.text, cells_)) {
+        cells_.clear();
+        return Fail(reason, line.too_long ? "the line is longer than " +
+                                                std::to_string(LineReader::kLongestLine) + " bytes"
+                                          : "a quoted cell does not end where it should");
+    }
+    if (cells_.size() == names_.size()) return true;
+    return Fail(reason, std::to_string(cells_.size()) + " cells, but the header has " +
+                            std::to_string(names_.size()));
+}
+
+bool RowRun::ReadNumbers(std::string& reason) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        if (places_[i] == kNoColumn) continue;
+        const std::string_view cell = cells_[places_[i]];
+        inputs_[i] = NumberInCell(cell);
+        const bool blank = cell.find_first_not_of(" \t\"") == std::string_view::npos;
+        if (inputs_[i] || (blank && columns_[i].need == ColumnNeed::NumberMayLack)) continue;
+        const std::string name(columns_[i].name);
+        return Fail(reason,
+                    blank ? name + " is empty" : name + " is no number: " + Quoted(CellText(cell)));
+    }
+    return true;
+}
+
+bool RowRun::FindResults(std::string& reason) {
+    if (!calculation_.Calculate(inputs_, results_, reason)) return false;
+    const bool finite = std::all_of(results_.begin(), results_.end(),
+                                    [](double value) { return std::isfinite(value); });
+    return finite || Fail(reason, "the result is no finite number");
+}
+
+void RowRun::WriteCsvRow(std::string_view text, bool found) {
+    std::string& buffer = output_.buffer;
+    buffer += text;
+    // A row that is too short is filled up, so that later columns stay below their names.
+    const std::size_t cells = std::max<std::size_t>(cells_.size(), 1);
+    if (cells < names_.size()) buffer.append(names_.size() - cells, ',');
+    for (const double value : results_) {
+        buffer += ',';
+        if (found) AppendNumber(buffer, value);
+    }
+}
+
+void RowRun::AppendJsonInput(std::string& json, std::size_t column) const {
+    if (column >= cells_.size()) {
+        json += "null";
+        return;
+    }
+    const auto input = std::find(places_.begin(), places_.end(), column);
+    const auto value = input == places_.end() ? std::nullopt : NumberInCell(cells_[column]);
+    if (value) {
+        AppendNumber(json, *value);
+    } else {
+        AppendJsonCell(json, cells_[column]);
+    }
+}
+
+void RowRun::WriteJsonRow(bool found) {
+    std::string& buffer = output_.buffer;
+    char mark = '{';
+    for (std::size_t i = 0; i < names_.size(); ++i, mark = ',') {
+        buffer += mark;
+        AppendJsonString(buffer, names_[i]);
+        buffer += ':';
+        AppendJsonInput(buffer, i);
+    }
+    for (std::size_t i = 0; i < results_.size(); ++i) {
+        buffer.append(",\"").append(calculation_.Results()[i]).append("\":");
+        if (found) {
+            AppendNumber(buffer, results_[i]);
+        } else {
+            buffer += "null";
+        }
+    }
+    buffer += '}';
+}
+
+}  // namespace
+
+bool RunRows(RowCalculation& calculation, RowFormat format, const RowStreams& streams,
+             std::string& error) {
+    return RowRun(calculation, format, streams).Run(error);
+}
+
+}  // namespace zandrell

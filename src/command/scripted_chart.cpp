@@ -1,0 +1,46 @@
+#include "command/scripted_chart.h"
+
+namespace zandrell {
+
+ScriptedChart::ScriptedChart(const CommandLine& line, const std::string& script,
+                             std::ostream& dumps)
+    : request_(line.chart),
+      script_(script),
+      user_(script_, dumps),
+      files_(PrepareDataFolder(line.data, false)),
+      form_(user_, files_, line.data) {
+    form_.chart.kind_override = request_.kind;
+}
+
+bool ScriptedChart::Run(std::string& error) {
+    if (!RunScript(error)) return false;
+    if (!form_.solver.HasCoefficients()) {
+        error = files_.Resolve("qvdata.dat").string() + ": " +
+                std::string(StatusWord(form_.solver.CoefficientStatus()));
+        return false;
+    }
+    return !request_.zoom || Zoom(*request_.zoom, error);
+}
+
+bool ScriptedChart::RunScript(std::string& error) {
+    if (user_.Run(form_, error, {request_.width, request_.height})) return true;
+    error.insert(0, request_.script + ": ");
+    return false;
+}
+
+// The frame that a user would draw, and the click into it.
+bool ScriptedChart::Zoom(const ZoomFrame& zoom, std::string& error) {
+    auto& frame = form_.chart.controls.ZoomShape;
+    frame.left = zoom.left;
+    frame.top = zoom.top;
+    frame.width = zoom.width;
+    frame.height = zoom.height;
+    form_.PanelZustand = kInsideFrame;
+    form_.PointerPress(PointerButton::Left,
+                       {zoom.left + zoom.width / 2, zoom.top + zoom.height / 2});
+    if (form_.PanelZustand == kZoomed) return true;
+    error = "no zoom while the script leaves a mark hanging on the pointer";
+    return false;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,95 @@
+#include "command/single_state.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "command/row_calculations.h"
+#include "command/table_cells.h"
+
+namespace zandrell {
+namespace {
+
+struct Quantity {
+    std::string_view name, unit;
+};
+
+constexpr std::array<Quantity, 3> kGiven{
+    {{"Temperature", "degC"}, {"Relative humidity", "%"}, {"Total pressure", "bar"}}};
+constexpr std::array<Quantity, kStateResults> kFound{{{"Humidity ratio", "g/kg dry air"},
+                                                      {"Enthalpy", "kJ/kg dry air"},
+                                                      {"Enthalpy of the dry air", "kJ/kg dry air"},
+                                                      {"Partial pressure of the dry air", "Pa"},
+                                                      {"Partial pressure of the vapour", "Pa"},
+                                                      {"Density", "kg/m3"},
+                                                      {"Density of dry air", "kg/m3"},
+                                                      {"Boiling temperature of water", "K"}}};
+constexpr std::size_t kNameWidth = 32, kValueWidth = 13;
+
+std::string SevenDigits(double value) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                   std::chars_format::general, 7)
+                         .ptr;
+    return {digits.data(), end};
+}
+
+void AppendRow(std::string& text, const Quantity& quantity, double value) {
+    const std::string digits = SevenDigits(value);
+    text += quantity.name;
+    text.append(kNameWidth - quantity.name.size(), ' ');
+    text.append(kValueWidth - std::min(digits.size(), kValueWidth), ' ');
+    text.append(digits).append("  ").append(quantity.unit).append("\n");
+}
+
+// Replaces humidity and pressure in the question by those that were used.
+bool FindState(const WaterAirTables& tables, StateQuestion& question, AirState& state,
+               std::string& reason) {
+    double relF = question.rh / 100;
+    ClampArguments(relF, question.p);
+    const auto found = EvaluateState(tables, relF, question.t, question.p);
+    if (!found) {
+        reason = NoStateReason(question.t, question.p);
+        return false;
+    }
+    if (relF != question.rh / 100) question.rh = relF * 100;
+    state = *found;
+    return true;
+}
+
+}  // namespace
+
+bool StateAsTable(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
+                  std::string& reason) {
+    StateQuestion used = question;
+    AirState state;
+    if (!FindState(tables, used, state, reason)) return false;
+    const std::array<double, kGiven.size()> given{used.t, used.rh, used.p};
+    const auto results = ResultsOf(state);
+    for (std::size_t i = 0; i < given.size(); ++i) AppendRow(text, kGiven[i], given[i]);
+    for (std::size_t i = 0; i < results.size(); ++i) AppendRow(text, kFound[i], results[i]);
+    return true;
+}
+
+bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
+                 std::string& reason) {
+    StateQuestion used = question;
+    AirState state;
+    if (!FindState(tables, used, state, reason)) return false;
+    char mark = '{';
+    const auto member = [&](std::string_view name, double value) {
+        text += mark;
+        text.append("\"").append(name).append("\":");
+        AppendNumber(text, value);
+        mark = ',';
+    };
+    member("t", question.t);
+    member("rh", question.rh);
+    member("p", question.p);
+    const auto results = ResultsOf(state);
+    for (std::size_t i = 0; i < results.size(); ++i) member(kStateResultNames[i], results[i]);
+    text += "}\n";
+    return true;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "kernel/humid_air_state.h"
+#include "kernel/water_air_tables.h"
+
+namespace zandrell {
+
+// What a state is asked for: degC, per cent, bar.
+struct StateQuestion {
+    double t = 0, rh = 0, p = 0;
+};
+
+// One state as an aligned table for people: names, values of seven digits, units. It shows the
+// humidity and pressure that were used, after the clamps of the state function. False, with the
+// reason, where there is no state.
+bool StateAsTable(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
+                  std::string& reason);
+
+// The same as one JSON object with the question's own figures and full digits.
+bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
+                 std::string& reason);
+
+}  // namespace zandrell

@@ -1,0 +1,91 @@
+#include "command/verbs.h"
+
+#include <istream>
+#include <ostream>
+
+#include "chart/chart_settings.h"
+#include "command/row_calculations.h"
+#include "command/single_state.h"
+#include "shell/form_script.h"
+
+namespace zandrell {
+namespace {
+
+constexpr std::string_view kCoefficientFile = "qvdata.dat";
+
+// What the tables need of the data folder.
+struct CalculationData {
+    DataFiles files;
+    ChartSettings settings;
+    WaterAirTables tables;
+
+    explicit CalculationData(const NamedFolder& named) : files(PrepareDataFolder(named, false)) {
+        SharedValues shared;
+        ReadSuiteParameters(named, files, shared);
+        ReadChartSettings(files, settings);  // without the file its defaults hold
+    }
+
+    bool ReadTables(std::string& error) {
+        const FileText file = files.OpenForInput(kCoefficientFile);
+        error = files.Resolve(kCoefficientFile).string() + ": ";
+        if (file.status != FileStatus::Ok) {
+            error += StatusWord(file.status);
+            return false;
+        }
+        tables = ReadWaterAirTables(file.text);
+        if (!tables.Complete()) {
+            error += "malformed, " + std::to_string(tables.numbers_read) + " numbers of " +
+                     std::to_string(kCoefficientCount) + " can be read";
+            return false;
+        }
+        error.clear();
+        return true;
+    }
+};
+
+bool ShowOneState(const CalculationData& data, const CommandLine& line, const ByteSink& output,
+                  std::string& error) {
+    const StateQuestion question{line.state->t, line.state->rh,
+                                 line.state->p.value_or(data.settings.pressure_bar)};
+    std::string text;
+    const auto show = line.json ? StateAsJson : StateAsTable;
+    if (!show(data.tables, question, text, error)) return false;
+    if (output(text)) return true;
+    error = "the output cannot be written";
+    return false;
+}
+
+RowFormat FormatOf(const CommandLine& line) { return line.json ? RowFormat::Json : RowFormat::Csv; }
+
+}  // namespace
+
+bool RunState(const CommandLine& line, const RowStreams& streams, std::string& error) {
+    CalculationData data(line.data);
+    if (!data.ReadTables(error)) return false;
+    if (line.state) return ShowOneState(data, line, streams.output, error);
+    const auto calculation = MakeStateCalculation(data.tables, data.settings.pressure_bar);
+    return RunRows(*calculation, FormatOf(line), streams, error);
+}
+
+bool RunInvert(const CommandLine& line, const RowStreams& streams, std::string& error) {
+    CalculationData data(line.data);
+    if (!data.ReadTables(error)) return false;
+    const auto calculation =
+        MakeInverseCalculation(line.search, data.files, data.settings.pressure_bar);
+    if (calculation) return RunRows(*calculation, FormatOf(line), streams, error);
+    error = "there is no search " + line.search;
+    return false;
+}
+
+bool RunForm(const CommandLine& line, std::istream& script, std::ostream& dumps,
+             std::string& error) {
+    DataFiles files(PrepareDataFolder(line.data, false));
+    ScriptedUser user(script, dumps);
+    MainForm form(user, files, line.data);
+    if (!user.Run(form, error)) return false;
+    if (dumps.flush()) return true;
+    error = "the output cannot be written";
+    return false;
+}
+
+}  // namespace zandrell

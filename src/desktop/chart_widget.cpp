@@ -1,0 +1,312 @@
+#include "desktop/chart_widget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/form_mirror.h"
+#include "desktop/look.h"
+#include "painter/shades.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kLogoOpacity = 0.55;
+constexpr double kGrabRadiusShare = 1.6;  // of a mark's radius; a hand is not exact
+
+QRectF Centred(QPointF centre, QSizeF size) {
+    return {centre - QPointF(size.width() / 2, size.height() / 2), size};
+}
+
+Qt::CursorShape ShapeOf(int pointer_kind) {
+    switch (pointer_kind) {
+        case kCrossPointer:
+            return Qt::CrossCursor;
+        case kMovePointer:
+            return Qt::SizeAllCursor;
+        case kBusyPointer:
+            return Qt::WaitCursor;
+        default:
+            return Qt::ArrowCursor;
+    }
+}
+
+// The logo is drawn for white paper; on a dark ground only its shape is kept.
+QPixmap InOneColour(QPixmap picture, const QColor& ink) {
+    if (picture.isNull()) return picture;
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), ink);
+    return picture;
+}
+
+void AddGrown(QRegion& region, const QRectF& rect) {
+    region += rect.adjusted(-2, -2, 2, 2).toAlignedRect();
+}
+
+}  // namespace
+
+ChartWidget::ChartWidget(MainForm& form, Pictures& pictures, QWidget* parent)
+    : QWidget(parent), form_(form), pictures_(pictures) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumSize(480, 320);
+    setObjectName(QStringLiteral("chart"));
+}
+
+// The view counts in pixels of the screen, so that the kept picture and what is painted over it lie
+// on each other exactly at every density.
+const ChartView& ChartWidget::View() const {
+    if (!view_) {
+        const double density = devicePixelRatioF();
+        const QRectF target(0, 0, std::round(width() * density), std::round(height() * density));
+        view_.emplace(form_.chart.picture, target, density);
+    }
+    return *view_;
+}
+
+QPointF ChartWidget::ToWidget(CanvasPoint point) const {
+    return View().ToDevice(point) / devicePixelRatioF();
+}
+
+CanvasPoint ChartWidget::ToCanvas(QPointF point) const {
+    return View().ToCanvas(point * devicePixelRatioF());
+}
+
+void ChartWidget::RenderPicture() {
+    const QSize size = View().Target().size().toSize();
+    // A picture of the right size is painted over: fresh memory costs more than the painting.
+    if (picture_.size() != size) picture_ = QImage(size, QImage::Format_RGB32);
+    picture_.setDevicePixelRatio(1);
+    QPainter painter(&picture_);
+    PaintPicture(painter, form_.chart.picture, View());
+    PaintLogo(painter);
+    painter.end();
+    picture_.setDevicePixelRatio(devicePixelRatioF());
+    shown_revision_ = form_.chart.picture.Revision();
+}
+
+void ChartWidget::PaintLogo(QPainter& painter) const {
+    const auto& controls = form_.chart.controls;
+    const auto& logo = controls.Picture1;
+    painter.setOpacity(kLogoOpacity);
+    const int ground = form_.chart.picture.Background();
+    const QColor ink = ShadeFor(form_.chart.picture.Foreground(), StrokeRole::Text, ground).colour;
+    QPixmap picture = pictures_.OnGround(logo.picture);
+    if (IsDarkGround(ground)) picture = InOneColour(picture, ink);
+    if (logo.visible && !picture.isNull()) {
+        const QPointF corner = View().ToDevice({logo.left, logo.top});
+        const QPointF end = View().ToDevice({logo.left + logo.width, logo.top + logo.height});
+        const QSizeF room(end.x() - corner.x(), end.y() - corner.y());
+        const QSizeF size = QSizeF(picture.size()).scaled(room, Qt::KeepAspectRatio);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        const QPointF place = corner + QPointF(0, room.height() - size.height());
+        painter.drawPixmap(QRectF(place, size), picture, QRectF(picture.rect()));
+    }
+    const auto& line = controls.Label27;
+    if (line.visible) {
+        QFont font = View().Font();
+        font.setPixelSize(std::max(8, font.pixelSize() * 5 / 6));
+        painter.setFont(font);
+        painter.setPen(ink);
+        const QString text = ShownText(line.text);
+        const double width = QFontMetricsF(font).horizontalAdvance(text);
+        QPointF place = View().ToDevice({line.left, line.top}) + QPointF(0, font.pixelSize());
+        place.setX(std::min(place.x(), View().Target().right() - width - font.pixelSize()));
+        painter.drawText(place, text);
+    }
+    painter.setOpacity(1);
+}
+
+void ChartWidget::Sync() {
+    const bool resized = picture_.size() != View().Target().size().toSize();
+    if (resized || shown_revision_ != form_.chart.picture.Revision()) {
+        view_.reset();
+        RenderPicture();
+        shown_overlay_ = VisibleItems(form_.overlay);
+        shown_frames_ = FramesOfForm();
+        update();
+    } else {
+        SyncOverlay();
+        SyncFrames();
+    }
+    SyncPointer();
+}
+
+void ChartWidget::SyncOverlay() {
+    OverlayDrawing wanted = VisibleItems(form_.overlay);
+    if (wanted == shown_overlay_) return;
+    UpdateDevice(TouchedBy(shown_overlay_, View()));
+    UpdateDevice(TouchedBy(wanted, View()));
+    shown_overlay_ = std::move(wanted);
+}
+
+void ChartWidget::UpdateDevice(const std::vector<QRectF>& touched) {
+    QRegion region;
+    const double density = devicePixelRatioF();
+    for (const QRectF& rect : touched) {
+        AddGrown(region, QRectF(rect.topLeft() / density, rect.size() / density));
+    }
+    if (covered) region -= covered();
+    update(region);
+}
+
+ChartWidget::Frames ChartWidget::FramesOfForm() const {
+    Frames frames;
+    const auto& zoom = form_.chart.controls.ZoomShape;
+    if (zoom.visible) {
+        frames.zoom = QRectF(ToWidget({zoom.left, zoom.top}),
+                             ToWidget({zoom.left + zoom.width, zoom.top + zoom.height}));
+    }
+    const auto& outline = form_.controls.Shape3;
+    if (outline.visible && outline_size_) {
+        frames.outline = QRectF(ToWidget({outline.left, outline.top}), QSizeF(*outline_size_));
+    }
+    if (form_.chart.controls.ConsPN1.visible) {
+        frames.progress = Centred(QRectF(rect()).center(), QSizeF(320, 44));
+    }
+    return frames;
+}
+
+void ChartWidget::SyncFrames() {
+    const Frames wanted = FramesOfForm();
+    if (wanted == shown_frames_) return;
+    QRegion region;
+    for (const Frames& frames : {shown_frames_, wanted}) {
+        for (const auto& frame : {frames.zoom, frames.outline, frames.progress}) {
+            if (frame) AddGrown(region, *frame);
+        }
+    }
+    shown_frames_ = wanted;
+    update(region);
+}
+
+void ChartWidget::SyncPointer() {
+    if (shown_pointer_ == form_.MousePointer) return;
+    shown_pointer_ = form_.MousePointer;
+    setCursor(ShapeOf(shown_pointer_));
+}
+
+void ChartWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(QPointF(0, 0), picture_);
+    const double density = devicePixelRatioF();
+    painter.save();
+    painter.scale(1 / density, 1 / density);
+    PaintOverlay(painter, shown_overlay_, View(), form_.chart.picture.Background());
+    painter.restore();
+    PaintFrames(painter);
+}
+
+void ChartWidget::PaintFrames(QPainter& painter) const {
+    QColor tint = AccentColour();
+    if (IsDarkGround(form_.chart.picture.Background())) tint = tint.lighter(220);
+    QColor fill = tint;
+    fill.setAlphaF(0.12F);
+    painter.setBrush(fill);
+    if (shown_frames_.zoom) {
+        painter.setPen(QPen(tint, 1.4, Qt::DashLine));
+        painter.drawRect(*shown_frames_.zoom);
+    }
+    painter.setPen(QPen(tint, 2));
+    if (shown_frames_.outline) painter.drawRoundedRect(*shown_frames_.outline, 8, 8);
+    if (shown_frames_.progress) {
+        painter.setBrush(PanelColour());
+        painter.drawRoundedRect(*shown_frames_.progress, 8, 8);
+        painter.drawText(*shown_frames_.progress, Qt::AlignCenter,
+                         ShownText(form_.chart.controls.ConsPN2.text));
+    }
+}
+
+void ChartWidget::resizeEvent(QResizeEvent*) {
+    view_.reset();
+    Sync();
+}
+
+// A mark is a ring of some pixels, while the form looks for the pointer in a box of canvas units,
+// which is narrow on most screens: a press on a ring counts as one on its centre.
+CanvasPoint ChartWidget::SnappedToMark(QPointF place) const {
+    const auto& overlay = form_.overlay;
+    const bool carries =
+        form_.PP1Gefasst + form_.PP2Gefasst + form_.PP5Gefasst + form_.PP6Gefasst > 0;
+    const bool panel_open =
+        form_.PanelZustand == kPlantPanelOpen || form_.PanelZustand == kPointPanelOpen;
+    const CanvasPoint exact = ToCanvas(place);
+    if (carries || !panel_open) return exact;
+    const double reach = kGrabRadiusShare * MarkRadius(View()) / devicePixelRatioF();
+    for (const Mark* mark : {&overlay.PP1, &overlay.PP2, &overlay.PP6, &overlay.PP5}) {
+        const QPointF away = ToWidget(mark->state) - place;
+        if (mark->visible && std::hypot(away.x(), away.y()) <= reach) return mark->state;
+    }
+    return exact;
+}
+
+void ChartWidget::mousePressEvent(QMouseEvent* event) {
+    if (IsDragging()) return;
+    const bool right = event->button() == Qt::RightButton;
+    if (!right && event->button() != Qt::LeftButton) return;
+    const CanvasPoint place =
+        right ? ToCanvas(event->position()) : SnappedToMark(event->position());
+    perform([&] { form_.PointerPress(right ? PointerButton::Right : PointerButton::Left, place); });
+}
+
+void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
+    const CanvasPoint place = ToCanvas(event->position());
+    perform([&] {
+        if (IsDragging()) {
+            form_.PanelMove(place);
+        } else {
+            form_.PointerMove(place);
+        }
+    });
+}
+
+void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (IsDragging()) {
+        if (event->button() == Qt::LeftButton) EndDrag();
+        return;
+    }
+    const bool right = event->button() == Qt::RightButton;
+    if (!right && event->button() != Qt::LeftButton) return;
+    const CanvasPoint place = ToCanvas(event->position());
+    perform(
+        [&] { form_.PointerRelease(right ? PointerButton::Right : PointerButton::Left, place); });
+}
+
+// The second press of a quick pair is a press like any other.
+void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+// The right button acts when it is let go; a menu of the toolkit must not come first.
+void ChartWidget::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+
+// Escape drops a zoom frame: the pointer leaves it and is pressed outside.
+void ChartWidget::keyPressEvent(QKeyEvent* event) {
+    const auto& zoom = form_.chart.controls.ZoomShape;
+    if (event->key() != Qt::Key_Escape || !zoom.visible) return QWidget::keyPressEvent(event);
+    const CanvasPoint outside{zoom.left - 1, zoom.top - 1};
+    perform([&] {
+        form_.PointerRelease(PointerButton::Left, outside);
+        form_.PointerMove(outside);
+        form_.PointerPress(PointerButton::Left, outside);
+    });
+}
+
+void ChartWidget::TakeDrag(QSize outline) {
+    outline_size_ = outline;
+    grabMouse();
+}
+
+void ChartWidget::EndDrag() {
+    releaseMouse();
+    perform([&] { form_.PanelRelease(); });
+    outline_size_.reset();
+    Sync();
+}
+
+}  // namespace zandrell

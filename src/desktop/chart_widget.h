@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QImage>
+#include <QRegion>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "desktop/pictures.h"
+#include "painter/chart_drawing.h"
+#include "painter/chart_view.h"
+#include "shell/main_form.h"
+
+namespace zandrell {
+
+// Shows the chart: its picture is kept as pixels and made anew only when it changed; marks, process
+// lines and frames are painted over it.
+class ChartWidget : public QWidget {
+  public:
+    // Both outlive the widget.
+    ChartWidget(MainForm& form, Pictures& pictures, QWidget* parent);
+
+    // Performs an act of the user; set by the window that mirrors the form.
+    std::function<void(const std::function<void()>&)> perform;
+
+    // Brings what is shown in line with the form; repaints no more than what changed.
+    void Sync();
+
+    // Positions of this widget, in device-independent pixels.
+    QPointF ToWidget(CanvasPoint point) const;
+    CanvasPoint ToCanvas(QPointF point) const;
+
+    // While a panel is dragged the chart has the pointer and shows an outline of this size.
+    void TakeDrag(QSize outline);
+    bool IsDragging() const { return outline_size_.has_value(); }
+    // What lies over the chart and needs no repaint under it, in positions of this widget.
+    std::function<QRegion()> covered;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    struct Frames {
+        std::optional<QRectF> zoom, outline, progress;
+        bool operator==(const Frames&) const = default;
+    };
+
+    const ChartView& View() const;
+    void RenderPicture();
+    void PaintLogo(QPainter& painter) const;
+    void PaintFrames(QPainter& painter) const;
+    void SyncOverlay();
+    void SyncFrames();
+    void SyncPointer();
+    Frames FramesOfForm() const;
+    CanvasPoint SnappedToMark(QPointF place) const;
+    void UpdateDevice(const std::vector<QRectF>& touched);
+    void EndDrag();
+
+    MainForm& form_;
+    Pictures& pictures_;
+    QImage picture_;
+    mutable std::optional<ChartView> view_;  // in pixels of the screen
+    int shown_revision_ = -1;
+    OverlayDrawing shown_overlay_;
+    Frames shown_frames_;
+    int shown_pointer_ = -1;
+    std::optional<QSize> outline_size_;
+};
+
+}  // namespace zandrell

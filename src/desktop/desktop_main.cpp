@@ -1,0 +1,115 @@
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QScreen>
+#include <QString>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "desktop/look.h"
+#include "desktop/main_window.h"
+#include "desktop/qt_user.h"
+#include "desktop/script_runner.h"
+#include "shell/start_up.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kShareOfScreen = 0.88;
+constexpr const char* kNoDisplay = "there is no usable display; zandrell-calc works without one";
+
+struct Arguments {
+    std::string data_folder, script, size;
+    int width = 0, height = 0;  // pixels; 0: as the screen allows
+};
+
+int Fail(const std::string& message) {
+    std::fprintf(stderr, "zandrell: %s\n", message.c_str());
+    return EXIT_FAILURE;
+}
+
+// The toolkit itself would abort the process where there is no display.
+bool HasDisplay() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+           !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+// While the application is made, the toolkit's own complaints about displays are left out, and what
+// would abort the process becomes one clear line.
+void FailWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    Fail(kNoDisplay);
+    std::_Exit(EXIT_FAILURE);
+}
+
+bool ReadSize(Arguments& arguments) {
+    if (arguments.size.empty()) return true;
+    const int read =
+        std::sscanf(arguments.size.c_str(), "%5dx%5d", &arguments.width, &arguments.height);
+    return read == 2 && arguments.width >= 400 && arguments.width <= 16000 &&
+           arguments.height >= 300 && arguments.height <= 16000;
+}
+
+NamedFolder DataFolderOf(const Arguments& arguments) {
+    if (arguments.data_folder.empty()) return {};
+    return std::filesystem::absolute(arguments.data_folder);
+}
+
+// Most of the screen, where nobody asks for something else.
+QSize WindowSize(const Arguments& arguments) {
+    if (arguments.width > 0) return {arguments.width, arguments.height};
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    return QSize(1280, 800).expandedTo(screen * kShareOfScreen).boundedTo(screen);
+}
+
+int Run(const Arguments& arguments, QApplication& application) {
+    const NamedFolder named = DataFolderOf(arguments);
+    const std::filesystem::path folder = FindDataFolder(0, named);
+    if (!named) DeliverDataSet(DeliveredDataSet(), folder);
+    const QSize size = WindowSize(arguments);
+    ApplyLook(application, ScaleFor(size.width(), size.height()));
+    DataFiles files(folder);
+    QtUser user;
+    MainForm form(user, files, named);
+    form.Load();
+    MainWindow window(form, files, user);
+    window.resize(size);
+    window.show();
+    window.Start();
+    ScriptRunner script(form, window, user);
+    if (!arguments.script.empty() && !script.Start(arguments.script)) {
+        return Fail(arguments.script + ": can not be read");
+    }
+    const int status = QApplication::exec();
+    return script.Failed() ? EXIT_FAILURE : status;
+}
+
+}  // namespace
+}  // namespace zandrell
+
+int main(int argc, char** argv) {
+    CLI::App command_line{"Humid air: Mollier and Carrier chart, processes of air treatment"};
+    zandrell::Arguments arguments;
+    command_line.add_option("--data", arguments.data_folder, "The data folder")->type_name("DIR");
+    command_line.add_option("--script", arguments.script, "Acts to perform after the start")
+        ->type_name("FILE");
+    command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");
+    CLI11_PARSE(command_line, argc, argv);
+    if (!zandrell::ReadSize(arguments)) {
+        return zandrell::Fail("--size takes a width and a height in pixels, such as 1280x800");
+    }
+    if (!zandrell::HasDisplay()) {
+        return zandrell::Fail(zandrell::kNoDisplay);
+    }
+    qInstallMessageHandler(zandrell::FailWithoutDisplay);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
+    QApplication::setApplicationName(QStringLiteral("Zandrell"));
+    return zandrell::Run(arguments, application);
+}

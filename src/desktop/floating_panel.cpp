@@ -1,0 +1,151 @@
+#include "desktop/floating_panel.h"
+
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "desktop/look.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kRadius = 8;
+constexpr int kStep = 16;  // pixels that an arrow key moves a panel
+
+void PaintShadow(QPainter& painter, const QRectF& body) {
+    painter.setPen(Qt::NoPen);
+    for (int ring = FloatingPanel::kShadow; ring > 0; --ring) {
+        const double fade = 1 - static_cast<double>(ring) / (FloatingPanel::kShadow + 1);
+        painter.setBrush(QColor(20, 35, 45, static_cast<int>(14 * fade * fade)));
+        const QRectF rim = body.adjusted(-ring, -ring + 2, ring, ring);
+        painter.drawRoundedRect(rim, kRadius + ring, kRadius + ring);
+    }
+}
+
+}  // namespace
+
+void PaintPanelGround(QPainter& painter, const QRectF& body, double radius, const Panel& panel,
+                      Pictures& pictures, const QColor& ground) {
+    QPainterPath path;
+    path.addRoundedRect(body, radius, radius);
+    const QPixmap picture = pictures.Opaque(panel.picture);
+    if (picture.isNull()) {
+        painter.fillPath(path, ground);
+        return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setClipPath(path, Qt::IntersectClip);
+    painter.drawPixmap(body, picture, QRectF(picture.rect()));
+    painter.restore();
+}
+
+FloatingPanel::FloatingPanel(MainForm& form, Panel& panel, FormMirror& mirror, ChartWidget& chart,
+                             std::string_view closing_control)
+    : QWidget(&chart),
+      form_(form),
+      panel_(panel),
+      mirror_(mirror),
+      chart_(chart),
+      closing_control_(closing_control) {
+    setCursor(Qt::ArrowCursor);
+    setFocusPolicy(Qt::ClickFocus);
+    mirror.BindPanel(this, panel);
+    hide();
+}
+
+void FloatingPanel::Place() {
+    if (isHidden()) return;
+    if (layout()) {
+        layout()->activate();
+        const QSize wanted = sizeHint().expandedTo(minimumSizeHint());
+        if (size() != wanted) resize(wanted);
+    }
+    const QPoint corner = chart_.ToWidget({panel_.left, panel_.top}).toPoint();
+    const QRect room = chart_.rect().adjusted(-kShadow / 2, -kShadow / 2, kShadow / 2, kShadow / 2);
+    const auto held = [](int place, int least, int most) {
+        return std::max(least, std::min(place, most));
+    };
+    const QPoint place(held(corner.x() - kShadow, room.left(), room.right() + 1 - width()),
+                       held(corner.y() - kShadow, room.top(), room.bottom() + 1 - height()));
+    if (pos() != place) move(place);
+}
+
+QRegion FloatingPanel::Opaque() const {
+    if (isHidden()) return {};
+    const int corner = static_cast<int>(kRadius);
+    const QRect body = Body().translated(pos());
+    return QRegion(body.adjusted(corner, 0, -corner, 0)) +
+           QRegion(body.adjusted(0, corner, 0, -corner));
+}
+
+void FloatingPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF body(Body());
+    PaintShadow(painter, body);
+    PaintPanelGround(painter, body, kRadius, panel_, mirror_.PictureStore(), PanelColour());
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(BorderColour(), 1));
+    painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+}
+
+CanvasPoint FloatingPanel::AsSeenByForm(QPointF place) const {
+    const QPointF shown = QPointF(pos()) + QPointF(kShadow, kShadow);
+    return chart_.ToCanvas(place - shown + chart_.ToWidget({panel_.left, panel_.top}));
+}
+
+void FloatingPanel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !Body().contains(event->pos())) return;
+    const CanvasPoint place = AsSeenByForm(mapToParent(event->position()));
+    const QSize outline = Body().size();
+    // The panel hides while it is dragged, so the chart goes on with the pointer.
+    chart_.TakeDrag(outline);
+    chart_.perform([&] {
+        form_.PanelPress(panel_, place);
+        form_.PanelMove(chart_.ToCanvas(mapToParent(event->position())));
+    });
+}
+
+void FloatingPanel::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
+void FloatingPanel::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
+
+void FloatingPanel::MoveBy(QPointF pixels) {
+    const QPointF grip = QPointF(pos()) + QPointF(kShadow, kShadow);
+    mirror_.Perform([&] {
+        form_.PanelPress(panel_, AsSeenByForm(grip));
+        form_.PanelMove(chart_.ToCanvas(grip + pixels));
+        form_.PanelRelease();
+    });
+}
+
+void FloatingPanel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        mirror_.Click(closing_control_);
+        chart_.setFocus();
+        return;
+    }
+    const bool moves = event->modifiers() & Qt::ControlModifier;
+    QPointF step;
+    if (event->key() == Qt::Key_Left) step = {-kStep, 0};
+    if (event->key() == Qt::Key_Right) step = {kStep, 0};
+    if (event->key() == Qt::Key_Up) step = {0, -kStep};
+    if (event->key() == Qt::Key_Down) step = {0, kStep};
+    if (!moves || step.isNull()) return QWidget::keyPressEvent(event);
+    MoveBy(step);
+}
+
+void InnerPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    PaintPanelGround(painter, body, 6, panel_, pictures_, Qt::white);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(0xE2, 0xE7, 0xEB), 1));
+    painter.drawRoundedRect(body, 6, 6);
+}
+
+}  // namespace zandrell

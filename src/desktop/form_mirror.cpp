@@ -1,0 +1,219 @@
+#include "desktop/form_mirror.h"
+
+#include <QIcon>
+#include <algorithm>
+#include <optional>
+
+#include "desktop/look.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kPointsAtDesign = 10;  // the label size for which the layouts are made
+
+// Which roles of a widget's palette take the colours of its control.
+struct ColourRoles {
+    QPalette::ColorRole text, ground;
+};
+
+ColourRoles RolesOf(const QWidget* widget) {
+    if (qobject_cast<const QLineEdit*>(widget)) return {QPalette::Text, QPalette::Base};
+    if (qobject_cast<const QPushButton*>(widget)) return {QPalette::ButtonText, QPalette::Button};
+    return {QPalette::WindowText, QPalette::Base};
+}
+
+void ApplyColours(QWidget* widget, const Control& control) {
+    const ColourRoles roles = RolesOf(widget);
+    QPalette palette;
+    if (control.foreground) palette.setColor(roles.text, TextColour(*control.foreground));
+    if (control.background) palette.setColor(roles.ground, GroundColour(*control.background));
+    widget->setPalette(palette);
+}
+
+QString Utf8(const std::string& text) { return QString::fromStdString(text); }
+
+QString TipOf(const QWidget* widget, const Control& control) {
+    const QString tip = Utf8(control.tool_tip);
+    const QString key = widget->property("key").toString();
+    if (key.isEmpty()) return tip;
+    return tip + (tip.isEmpty() ? QString() : QStringLiteral("  ")) +
+           QStringLiteral("(%1)").arg(key);
+}
+
+}  // namespace
+
+QString ShownText(const std::string& text) { return Utf8(text).trimmed(); }
+
+void FormMirror::AddColours(QWidget* widget, const Control& control) {
+    struct Colours {
+        std::optional<int> text, ground;
+        bool operator==(const Colours&) const = default;
+    };
+    writers_.push_back([widget, &control, shown = Colours{}]() mutable {
+        const Colours wanted{control.foreground, control.background};
+        if (wanted == shown) return;
+        shown = wanted;
+        ApplyColours(widget, control);
+    });
+}
+
+void FormMirror::AddCommon(QWidget* widget, const Control& control) {
+    widget->setObjectName(
+        QString::fromUtf8(control.name.data(), static_cast<qsizetype>(control.name.size())));
+    writers_.push_back([widget, &control] {
+        if (widget->isHidden() == control.visible) widget->setVisible(control.visible);
+        if (widget->isEnabledTo(widget->parentWidget()) != control.enabled) {
+            widget->setEnabled(control.enabled);
+        }
+        const QString tip = TipOf(widget, control);
+        if (!tip.isEmpty() && widget->toolTip() != tip) widget->setToolTip(tip);
+    });
+}
+
+void FormMirror::Follow(QWidget* widget, const Control& caption) {
+    AddColours(widget, caption);
+    MirrorFont(widget);
+}
+
+// Skins write the captions bold; one language has its own size.
+void FormMirror::MirrorFont(QWidget* widget) {
+    writers_.push_back([this, widget, bold = false, points = 10]() mutable {
+        if (window_.bold_labels == bold && window_.label_font_size == points) return;
+        QFont font = widget->font();
+        font.setPointSizeF(font.pointSizeF() * window_.label_font_size /
+                           (points > 0 ? points : kPointsAtDesign));
+        bold = window_.bold_labels;
+        points = window_.label_font_size;
+        const bool never = widget->objectName() == QStringLiteral("Label19");
+        font.setBold(widget->property("always_bold").toBool() || (bold && !never));
+        widget->setFont(font);
+    });
+}
+
+void FormMirror::Bind(QLabel* label, const Control& control) {
+    AddCommon(label, control);
+    AddColours(label, control);
+    if (dynamic_cast<FigureLabel*>(label) == nullptr) MirrorFont(label);
+    writers_.push_back([label, &control] {
+        const QString text = ShownText(control.text);
+        if (label->text() != text) label->setText(text);
+    });
+}
+
+void FormMirror::Bind(QLineEdit* field, const TextField& control) {
+    AddCommon(field, control);
+    AddColours(field, control);
+    const std::string_view name = control.name;
+    QObject::connect(field, &QLineEdit::textEdited, field, [this, name](const QString& text) {
+        Perform([&] { window_.UserSetText(name, text.toStdString()); });
+    });
+    QObject::connect(field, &QLineEdit::returnPressed, field,
+                     [this, name] { Perform([&] { window_.UserReturn(name); }); });
+    // Writing an equal text would move the cursor.
+    writers_.push_back([field, &control] {
+        const QString text = Utf8(control.text);
+        if (field->text() == text) return;
+        const int cursor = field->cursorPosition();
+        field->setText(text);
+        field->setCursorPosition(std::min<int>(cursor, static_cast<int>(text.size())));
+    });
+}
+
+void FormMirror::Bind(QSlider* bar, const ScrollBar& control) {
+    AddCommon(bar, control);
+    bar->setOrientation(Qt::Horizontal);
+    bar->setPageStep(10);
+    const std::string_view name = control.name;
+    QObject::connect(bar, &QSlider::actionTriggered, bar, [this, bar, name] {
+        const int position = bar->sliderPosition();
+        Perform([&] { window_.UserScroll(name, position); });
+    });
+    writers_.push_back([bar, &control] {
+        const auto [least, most] = std::minmax({control.LowEnd(), control.HighEnd()});
+        if (bar->minimum() != least || bar->maximum() != most) bar->setRange(least, most);
+        if (bar->value() != control.Position() || bar->sliderPosition() != control.Position()) {
+            bar->setValue(control.Position());
+        }
+    });
+}
+
+void FormMirror::Bind(QRadioButton* option, const OptionButton& control) {
+    AddCommon(option, control);
+    Follow(option, control);
+    const std::string_view name = control.name;
+    QObject::connect(option, &QRadioButton::clicked, option,
+                     [this, name] { Perform([&] { window_.UserChoose(name); }); });
+    writers_.push_back([option, &control] {
+        const QString text = ShownText(control.text);
+        if (option->text() != text) option->setText(text);
+        // Of a pair only the one that is on can be written: it puts the other out.
+        if (control.on && !option->isChecked()) option->setChecked(true);
+    });
+}
+
+void FormMirror::Bind(QAction* action, const MenuEntry& control) {
+    const std::string_view name = control.name;
+    QObject::connect(action, &QAction::triggered, action, [this, name] { Click(name); });
+    writers_.push_back([action, &control] {
+        const QString text = Utf8(control.text);
+        if (action->text() != text) action->setText(text);
+        if (action->isEnabled() != control.enabled) action->setEnabled(control.enabled);
+        if (action->isVisible() != control.visible) action->setVisible(control.visible);
+    });
+}
+
+void FormMirror::Bind(QMenu* menu, const MenuEntry& control) {
+    writers_.push_back([menu, &control] {
+        const QString text = Utf8(control.text);
+        if (menu->title() != text) menu->setTitle(text);
+        if (menu->isEnabled() != control.enabled) menu->setEnabled(control.enabled);
+    });
+}
+
+void FormMirror::Bind(QPushButton* button, const Button& picture, const Control* caption) {
+    AddCommon(button, picture);
+    const bool on_skin =
+        skinned && (button->property("tool").toBool() || button->property("quiet").toBool());
+    // On a white face the texts stay dark, whatever the skin's captions are.
+    if (caption && on_skin) AddColours(button, *caption);
+    MirrorFont(button);
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [this, name = picture.name] { Click(name); });
+    const QPixmap icon =
+        on_skin ? pictures_.Opaque(picture.picture) : pictures_.OnGround(picture.picture);
+    if (!icon.isNull()) button->setIcon(QIcon(icon));
+    const Control& text_control = caption ? *caption : picture;
+    const bool shows_text = !button->property("picture_only").toBool();
+    writers_.push_back([button, shows_text, &text_control] {
+        const QString text = ShownText(text_control.text);
+        if (shows_text && button->text() != text) button->setText(text);
+        const QString name = QString(text).remove(QLatin1Char('&'));
+        if (!name.isEmpty() && button->accessibleName() != name) button->setAccessibleName(name);
+        if (!shows_text && button->toolTip().isEmpty()) button->setToolTip(text);
+    });
+}
+
+void FormMirror::BindPanel(QWidget* panel, const Control& control) { AddCommon(panel, control); }
+
+void FormMirror::Describe(QWidget* widget, const Control& caption, const QString& addition) {
+    writers_.push_back([widget, &caption, addition] {
+        const QString name = (ShownText(caption.text) + QLatin1Char(' ') + addition).trimmed();
+        if (widget->accessibleName() != name) widget->setAccessibleName(name);
+    });
+}
+
+void FormMirror::Perform(const std::function<void()>& act) {
+    act();
+    Mirror();
+    if (after_act) after_act();
+}
+
+void FormMirror::Click(std::string_view control) {
+    Perform([&] { window_.UserClick(control); });
+}
+
+void FormMirror::Mirror() {
+    for (Writer& write : writers_) write();
+}
+
+}  // namespace zandrell

@@ -1,0 +1,49 @@
+#include "desktop/modal_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+
+namespace zandrell {
+
+ModalWindow::ModalWindow(ModalForm& form, Pictures& pictures, QWidget* parent)
+    : QDialog(parent), form_(form), mirror_(form, pictures) {
+    mirror_.after_act = [this] { Refresh(); };
+}
+
+void ModalWindow::Refresh() {
+    mirror_.Mirror();
+    if (form_.closed && isVisible()) done(QDialog::Accepted);
+}
+
+void ModalWindow::Run() {
+    setWindowTitle(ShownText(form_.title));
+    mirror_.Mirror();
+    if (!form_.closed) exec();
+}
+
+void ModalWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        mirror_.Click(form_.cancel_control);
+        return;
+    }
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
+        button->click();
+        return;
+    }
+    // A field with an act of its own has performed it by now; the window stays open.
+    const auto* field = qobject_cast<QLineEdit*>(focusWidget());
+    if (field && form_.acts.Has(field->objectName().toStdString(), ActKind::Return)) return;
+    mirror_.Click(form_.default_control);
+}
+
+void ModalWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!form_.closed) mirror_.Click(form_.cancel_control);
+}
+
+}  // namespace zandrell

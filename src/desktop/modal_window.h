@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDialog>
+
+#include "desktop/form_mirror.h"
+#include "shell/window_form.h"
+
+namespace zandrell {
+
+// A window that its opener waits for. It closes when its form says so; its frame and the Escape key
+// stand for the form's cancel control, Return for its default control.
+class ModalWindow : public QDialog {
+  public:
+    // Both outlive the window.
+    ModalWindow(ModalForm& form, Pictures& pictures, QWidget* parent);
+
+    // Blocks until the form is closed.
+    void Run();
+
+    // Writes what differs, and closes when the form is closed.
+    void Refresh();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+    ModalForm& form_;
+    FormMirror mirror_;
+};
+
+}  // namespace zandrell

@@ -1,0 +1,93 @@
+#include "desktop/panel_builder.h"
+
+#include <QFontMetrics>
+#include <QVBoxLayout>
+
+namespace zandrell {
+namespace {
+
+constexpr double kPanelFontShare = 0.94;
+constexpr int kLeastBarWidth = 64, kIconSize = 20, kQuietSize = 28;  // pixels at scale 1
+
+int WidthOfDigits(const QWidget& widget, int digits) {
+    return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits + Scaled(widget, 18);
+}
+
+QSize IconSize(const QWidget& widget) { return QSize(1, 1) * Scaled(widget, kIconSize); }
+
+}  // namespace
+
+QLabel* PanelBuilder::Caption(const Control& control, bool heading) {
+    auto* label = new QLabel(parent_);
+    if (heading) MakeBold(label);
+    mirror_.Bind(label, control);
+    return label;
+}
+
+QLabel* PanelBuilder::Words(const QString& text, const Control& like) {
+    auto* label = new QLabel(text, parent_);
+    mirror_.Follow(label, like);
+    return label;
+}
+
+QLineEdit* PanelBuilder::Field(const TextField& control, const Control& caption,
+                               const QString& addition, int digits) {
+    auto* field = new FigureField(digits, parent_);
+    field->setAlignment(Qt::AlignRight);
+    field->setMaxLength(40);
+    mirror_.Bind(field, control);
+    mirror_.Describe(field, caption, addition);
+    return field;
+}
+
+FigureLabel* PanelBuilder::Figure(const Label& control, const Control& caption,
+                                  const QString& addition, int digits) {
+    auto* figure = new FigureLabel(parent_);
+    figure->setMinimumWidth(WidthOfDigits(*figure, digits));
+    mirror_.Bind(figure, control);
+    mirror_.Describe(figure, caption, addition);
+    return figure;
+}
+
+QSlider* PanelBuilder::Bar(const ScrollBar& control, const Control& caption,
+                           const QString& addition) {
+    auto* bar = new QSlider(parent_);
+    bar->setMinimumWidth(Scaled(*bar, kLeastBarWidth));
+    bar->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    mirror_.Bind(bar, control);
+    mirror_.Describe(bar, caption, addition);
+    return bar;
+}
+
+QRadioButton* PanelBuilder::Option(const OptionButton& control) {
+    auto* option = new QRadioButton(parent_);
+    mirror_.Bind(option, control);
+    return option;
+}
+
+QPushButton* PanelBuilder::PictureButton(const Button& picture, const Control* caption) {
+    auto* button = new QPushButton(parent_);
+    button->setIconSize(IconSize(*button));
+    button->setAutoDefault(false);
+    mirror_.Bind(button, picture, caption);
+    return button;
+}
+
+QPushButton* PanelBuilder::QuietButton(const Button& picture) {
+    auto* button = new QPushButton(parent_);
+    button->setProperty("quiet", true);
+    button->setProperty("picture_only", true);
+    button->setIconSize(IconSize(*button));
+    button->setAutoDefault(false);
+    button->setFixedSize(QSize(1, 1) * Scaled(*button, kQuietSize));
+    mirror_.Bind(button, picture);
+    return button;
+}
+
+void UsePanelFont(QWidget* panel) {
+    QFont font = panel->font();
+    font.setPointSizeF(kPanelFontShare * font.pointSizeF());
+    panel->setFont(font);
+}
+
+}  // namespace zandrell

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QString>
+#include <QWidget>
+
+#include "desktop/form_mirror.h"
+#include "desktop/look.h"
+
+namespace zandrell {
+
+// Makes the widgets of a panel in reading order, which is the order of the tab key, and ties each
+// to its control.
+class PanelBuilder {
+  public:
+    // Both outlive the builder.
+    PanelBuilder(FormMirror& mirror, QWidget* parent) : mirror_(mirror), parent_(parent) {}
+
+    void SetParent(QWidget* parent) { parent_ = parent; }
+
+    QLabel* Caption(const Control& control, bool heading = false);
+    // Fixed signs, coloured like a caption.
+    QLabel* Words(const QString& text, const Control& like);
+    // `caption` names the field for who can not see the layout.
+    QLineEdit* Field(const TextField& control, const Control& caption, const QString& addition = {},
+                     int digits = 8);
+    FigureLabel* Figure(const Label& control, const Control& caption, const QString& addition = {},
+                        int digits = 8);
+    QSlider* Bar(const ScrollBar& control, const Control& caption, const QString& addition = {});
+    QRadioButton* Option(const OptionButton& control);
+    QPushButton* PictureButton(const Button& picture, const Control* caption = nullptr);
+    // A small button of only a picture.
+    QPushButton* QuietButton(const Button& picture);
+
+  private:
+    FormMirror& mirror_;
+    QWidget* parent_;
+};
+
+// Floating panels are written a little smaller, to leave more of the chart to be seen.
+void UsePanelFont(QWidget* panel);
+
+}  // namespace zandrell

@@ -1,0 +1,57 @@
+#include "desktop/pictures.h"
+
+#include <QImage>
+#include <QImageReader>
+#include <QString>
+#include <algorithm>
+
+namespace zandrell {
+namespace {
+
+constexpr int kLargestSide = 8000;  // pixels; what claims to be larger is no picture of the suite
+
+QImage ReadPicture(const DataFiles& files, std::string_view file_name) {
+    QImageReader reader(QString::fromStdString(files.Resolve(file_name).string()));
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (size.width() > kLargestSide || size.height() > kLargestSide) return {};
+    return reader.read();
+}
+
+// Undoes the blending with white: the darkest channel says how much of the ink covers the ground.
+QRgb WithoutWhite(QRgb pixel) {
+    const int alpha = 255 - std::min({qRed(pixel), qGreen(pixel), qBlue(pixel)});
+    if (alpha == 0) return 0;
+    const auto ink = [alpha](int channel) { return (channel - 255 + alpha) * 255 / alpha; };
+    return qRgba(ink(qRed(pixel)), ink(qGreen(pixel)), ink(qBlue(pixel)), alpha);
+}
+
+QImage WithoutWhiteGround(QImage image) {
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        std::transform(line, line + image.width(), line, WithoutWhite);
+    }
+    return image;
+}
+
+}  // namespace
+
+QPixmap Pictures::Opaque(std::string_view file_name) {
+    if (file_name.empty()) return {};
+    const auto found = opaque_.find(file_name);
+    if (found != opaque_.end()) return found->second;
+    const QPixmap picture = QPixmap::fromImage(ReadPicture(files_, file_name));
+    return opaque_.emplace(file_name, picture).first->second;
+}
+
+QPixmap Pictures::OnGround(std::string_view file_name) {
+    if (file_name.empty()) return {};
+    const auto found = on_ground_.find(file_name);
+    if (found != on_ground_.end()) return found->second;
+    const QImage image = ReadPicture(files_, file_name);
+    const QPixmap picture = QPixmap::fromImage(image.isNull() ? image : WithoutWhiteGround(image));
+    return on_ground_.emplace(file_name, picture).first->second;
+}
+
+}  // namespace zandrell

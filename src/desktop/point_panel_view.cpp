@@ -1,0 +1,122 @@
+#include "desktop/point_panel_view.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "desktop/panel_builder.h"
+
+namespace zandrell {
+namespace {
+
+const QString kFirst = QStringLiteral("1"), kSecond = QStringLiteral("2");
+
+enum Column { kCaptionColumn, kFirstColumn, kSecondColumn, kMixtureColumn };
+
+QHBoxLayout* MakeTitleRow(PointPanel& panel, PanelBuilder& build, FormMirror& mirror) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(build.Caption(panel.Label15, true), 1);
+    auto* close = build.QuietButton(panel.Picture3);
+    close->setText(QStringLiteral("×"));
+    close->setFocusPolicy(Qt::NoFocus);
+    mirror.Follow(close, panel.Label15);
+    row->addWidget(close);
+    return row;
+}
+
+void AddHeads(PointPanel& panel, PanelBuilder& build, QGridLayout& grid) {
+    for (const auto& [column, text] : {std::pair{kFirstColumn, kFirst}, {kSecondColumn, kSecond}}) {
+        auto* head = build.Words(text, panel.Label35);
+        MakeBold(head);
+        grid.addWidget(head, 0, column, Qt::AlignCenter);
+    }
+    grid.addWidget(build.Caption(panel.mixture_label, true), 0, kMixtureColumn, Qt::AlignCenter);
+}
+
+// A row of the two typed figures with their bars, and the figure of the mixture.
+void AddTypedRow(PanelBuilder& build, QGridLayout& grid, int row, const Label& caption,
+                 const TextField& field1, const ScrollBar& bar1, const TextField& field2,
+                 const ScrollBar& bar2, const Label* mixture) {
+    grid.addWidget(build.Caption(caption), row, kCaptionColumn);
+    grid.addWidget(build.Field(field1, caption, kFirst), row, kFirstColumn);
+    grid.addWidget(build.Field(field2, caption, kSecond), row, kSecondColumn);
+    if (mixture) grid.addWidget(build.Figure(*mixture, caption), row, kMixtureColumn);
+    grid.addWidget(build.Bar(bar1, caption, kFirst), row + 1, kFirstColumn);
+    grid.addWidget(build.Bar(bar2, caption, kSecond), row + 1, kSecondColumn);
+}
+
+void AddFigureRow(PanelBuilder& build, QGridLayout& grid, int row, const Label& caption,
+                  const Label& figure1, const Label& figure2, const Label* mixture) {
+    grid.addWidget(build.Caption(caption), row, kCaptionColumn);
+    grid.addWidget(build.Figure(figure1, caption, kFirst), row, kFirstColumn);
+    grid.addWidget(build.Figure(figure2, caption, kSecond), row, kSecondColumn);
+    if (mixture) grid.addWidget(build.Figure(*mixture, caption), row, kMixtureColumn);
+}
+
+QGridLayout* MakeStateGrid(PointPanel& panel, PanelBuilder& build) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(10);
+    grid->setVerticalSpacing(3);
+    AddHeads(panel, build, *grid);
+    AddTypedRow(build, *grid, 1, panel.Label35, panel.Temp1, panel.Tscroll1, panel.Temp2,
+                panel.Tscroll2, &panel.TempM);
+    AddTypedRow(build, *grid, 3, panel.Label36, panel.relF1, panel.FScroll1, panel.relF2,
+                panel.FScroll2, &panel.relFM);
+    AddFigureRow(build, *grid, 5, panel.label37, panel.absF1, panel.absF2, &panel.absFM);
+    AddFigureRow(build, *grid, 6, panel.enthPN, panel.enth1, panel.enth2, nullptr);
+    AddTypedRow(build, *grid, 7, panel.Label33, panel.LuftM1, panel.VScroll1, panel.LuftM2,
+                panel.Vscroll2, nullptr);
+    grid->setColumnStretch(kCaptionColumn, 1);
+    return grid;
+}
+
+QWidget* MakeCapacityPanel(PointPanel& panel, FormMirror& mirror, QWidget* parent) {
+    auto* inner = new InnerPanel(panel.Panel3D9, mirror.PictureStore(), parent);
+    mirror.BindPanel(inner, panel.Panel3D9);
+    PanelBuilder build(mirror, inner);
+    auto* grid = new QGridLayout(inner);
+    grid->setContentsMargins(10, 8, 10, 8);
+    grid->setVerticalSpacing(3);
+    grid->addWidget(build.Caption(panel.capacity_label), 0, 0);
+    grid->addWidget(build.Field(panel.Kleist, panel.capacity_label), 0, 1);
+    auto* volume = build.PictureButton(panel.VolBer, &panel.VolBer_l);
+    grid->addWidget(volume, 0, 2);
+    int row = 1;
+    for (const auto& [caption, figure] : {std::pair{&panel.latent_label, &panel.KLatent},
+                                          {&panel.sensible_label, &panel.Ksensibel},
+                                          {&panel.water_label, &panel.KondW}}) {
+        grid->addWidget(build.Caption(*caption), row, 0);
+        grid->addWidget(build.Figure(*figure, *caption), row, 1);
+        ++row;
+    }
+    grid->setColumnStretch(0, 1);
+    return inner;
+}
+
+QHBoxLayout* MakeFooter(PointPanel& panel, PanelBuilder& build, const MenuEntry& heat_recovery) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(build.PictureButton(panel.wrgButt, &heat_recovery));
+    row->addStretch(1);
+    row->addWidget(build.PictureButton(panel.Command3D4));
+    row->addWidget(build.PictureButton(panel.abbcom));
+    return row;
+}
+
+}  // namespace
+
+FloatingPanel* MakePointPanelView(MainForm& form, FormMirror& mirror, ChartWidget& chart) {
+    PointPanel& panel = form.point_panel;
+    auto* view = new FloatingPanel(form, panel.Anlage1PN, mirror, chart, panel.abbcom.name);
+    UsePanelFont(view);
+    PanelBuilder build(mirror, view);
+    auto* layout = new QVBoxLayout(view);
+    constexpr int kRoom = FloatingPanel::kShadow;
+    layout->setContentsMargins(kRoom + 12, kRoom + 6, kRoom + 12, kRoom + 10);
+    layout->setSpacing(6);
+    layout->addLayout(MakeTitleRow(panel, build, mirror));
+    layout->addLayout(MakeStateGrid(panel, build));
+    layout->addWidget(MakeCapacityPanel(panel, mirror, view));
+    layout->addLayout(MakeFooter(panel, build, form.controls.wrgEinst));
+    return view;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,80 @@
+#include "desktop/qt_user.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QThread>
+#include <algorithm>
+
+#include "desktop/options_window.h"
+#include "painter/chart_file.h"
+
+namespace zandrell {
+namespace {
+
+constexpr int kCopyWidth = 2400, kCopyHeight = 1350;       // pixels of the copied picture
+constexpr int kDrawingWidth = 1200, kDrawingHeight = 675;  // nominal size of the copied drawing
+constexpr int kLongestWait = 2000;                         // ms; a pause never looks like a hang
+
+}  // namespace
+
+void QtUser::Refresh() const {
+    if (opener_.refresh) opener_.refresh();
+}
+
+void QtUser::ShowMessage(const Message& message) {
+    Refresh();
+    if (on_message) on_message(message);
+    const auto icon =
+        message.icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::Information;
+    QWidget* active = QApplication::activeModalWidget();
+    QMessageBox box(icon, QString::fromStdString(message.title),
+                    QString::fromStdString(message.text), QMessageBox::Ok,
+                    active ? active : opener_.window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void QtUser::ShowModal(ModalForm& window) {
+    Refresh();
+    if (auto* options = dynamic_cast<OptionsForm*>(&window); options && opener_.form) {
+        OptionsWindow dialog(*options, opener_.form->captions, opener_.form->chart.picture,
+                             *opener_.pictures, opener_.window);
+        if (on_window) on_window(&window);
+        dialog.Run();
+        if (on_window) on_window(nullptr);
+        return;
+    }
+    window.UserClick(window.cancel_control);
+}
+
+void QtUser::WaitMilliseconds(int milliseconds) {
+    if (milliseconds <= 0) return;
+    QThread::msleep(static_cast<unsigned long>(std::min(milliseconds, kLongestWait)));
+}
+
+void QtUser::CopyChart(MainForm& form) {
+    const auto& picture = form.chart.picture;
+    auto* data = new QMimeData;
+    data->setImageData(ChartImage(picture, form.overlay, kCopyWidth, kCopyHeight));
+    data->setData(QStringLiteral("image/svg+xml"),
+                  ChartSvg(picture, form.overlay, kDrawingWidth, kDrawingHeight));
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
+QPrinter& QtUser::Printer() {
+    if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *printer_;
+}
+
+bool QtUser::ChoosePrinter(const std::string& title) {
+    Refresh();
+    QPrintDialog dialog(&Printer(), opener_.window);
+    dialog.setWindowTitle(QString::fromStdString(title));
+    return dialog.exec() == QDialog::Accepted;
+}
+
+}  // namespace zandrell

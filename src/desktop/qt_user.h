@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPrinter>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "desktop/pictures.h"
+#include "shell/main_form.h"
+#include "shell/user_interface.h"
+
+namespace zandrell {
+
+// Answers the program's questions by windows of the toolkit.
+class QtUser : public UserInterface {
+  public:
+    // The main window, once there is one: dialogs stand over it, and what its form shows is brought
+    // up to date before anybody waits.
+    struct Opener {
+        QWidget* window = nullptr;
+        MainForm* form = nullptr;
+        Pictures* pictures = nullptr;
+        std::function<void()> refresh;
+    };
+    void Attach(Opener opener) { opener_ = std::move(opener); }
+
+    // Who follows what is shown: a window that opens (null when it has closed), a message.
+    std::function<void(ModalForm*)> on_window;
+    std::function<void(const Message&)> on_message;
+
+    void ShowMessage(const Message& message) override;
+    // A form without a window of its own here counts as cancelled: nobody could close it.
+    void ShowModal(ModalForm& window) override;
+    void WaitMilliseconds(int milliseconds) override;
+    void CopyChart(MainForm& form) override;
+    bool ChoosePrinter(const std::string& title) override;
+
+    // The printer chosen last, the system's own before that.
+    QPrinter& Printer();
+
+  private:
+    void Refresh() const;
+
+    Opener opener_;
+    std::unique_ptr<QPrinter> printer_;
+};
+
+}  // namespace zandrell

@@ -1,0 +1,150 @@
+#include "desktop/tool_column.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QPainter>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "desktop/floating_panel.h"
+#include "desktop/panel_builder.h"
+
+namespace zandrell {
+namespace {
+
+constexpr int kLeastWidth = 173;  // pixels at scale 1
+constexpr int kToolIcon = 28;     // pixels at scale 1
+constexpr int kFirstToolKey = Qt::Key_F2;
+
+// A function key for each tool; its name stands behind the tool tip.
+void AddShortcut(QPushButton* button, const Button& picture, int key, FormMirror& mirror) {
+    const QKeySequence sequence{key};
+    auto* shortcut = new QShortcut(sequence, button);
+    QObject::connect(shortcut, &QShortcut::activated, button,
+                     [&mirror, name = picture.name] { mirror.Click(name); });
+    button->setProperty("key", sequence.toString(QKeySequence::NativeText));
+}
+
+}  // namespace
+
+ToolColumn::ToolColumn(MainForm& form, FormMirror& mirror, QWidget* parent)
+    : QWidget(parent), form_(form), mirror_(mirror) {
+    setMinimumWidth(Scaled(*this, kLeastWidth));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    mirror.BindPanel(this, form.controls.FunktButtPn);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(8);
+    layout->addWidget(MakeToolButtons());
+    layout->addStretch(1);
+    layout->addWidget(MakeReadOut());
+    layout->addStretch(1);
+    layout->addWidget(MakeProjectTexts());
+    layout->addWidget(MakeEndButtons());
+}
+
+QWidget* ToolColumn::MakeToolButtons() {
+    auto* group = new QWidget(this);
+    auto* layout = new QVBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    const auto add = [&](const Button& picture, const Button* caption) {
+        auto* button = new QPushButton(group);
+        button->setProperty("tool", true);
+        button->setProperty("skinned", mirror_.skinned);
+        button->setIconSize(QSize(1, 1) * Scaled(*button, kToolIcon));
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        mirror_.Bind(button, picture, caption);
+        layout->addWidget(button);
+        return button;
+    };
+    int key = kFirstToolKey;
+    for (ToolButton* tool : form_.controls.ToolButtons()) {
+        AddShortcut(add(tool->picture, &tool->caption), tool->picture, key++, mirror_);
+    }
+    // Its place is kept while it is hidden, so that nothing jumps when the chart is zoomed.
+    auto* zoom = add(form_.controls.ZOOMMIN, nullptr);
+    QSizePolicy policy = zoom->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    zoom->setSizePolicy(policy);
+    return group;
+}
+
+QWidget* ToolColumn::MakeReadOut() {
+    auto& read_out = form_.read_out;
+    auto& words = form_.controls;
+    auto* panel = new InnerPanel(read_out.Pn1, mirror_.PictureStore(), this);
+    mirror_.BindPanel(panel, read_out.Pn1);
+    QSizePolicy policy = panel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    panel->setSizePolicy(policy);
+    PanelBuilder build(mirror_, panel);
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(6, 6, 6, 6);
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(3);
+    auto* heading = build.Caption(words.Label7);
+    heading->setProperty("role", QStringLiteral("band"));
+    MakeBold(heading);
+    grid->addWidget(heading, 0, 0, 1, 2);
+    int row = 1;
+    for (const auto& [word, figure] : {std::pair{&words.temperature_word, &read_out.Temp},
+                                       {&words.humidity_word, &read_out.relF},
+                                       {&words.ratio_word, &read_out.absF},
+                                       {&words.enthalpy_word, &read_out.EnthL},
+                                       {&words.density_word, &read_out.DichtL},
+                                       {&words.vapour_word, &read_out.DampfDS},
+                                       {&words.pressure_word, &read_out.AbsDruck}}) {
+        grid->addWidget(build.Caption(*word), row, 0);
+        grid->addWidget(build.Figure(*figure, *word, {}, 6), row, 1);
+        ++row;
+    }
+    grid->setColumnStretch(0, 1);
+    return panel;
+}
+
+QWidget* ToolColumn::MakeProjectTexts() {
+    auto& controls = form_.controls;
+    auto* group = new QWidget(this);
+    auto* layout = new QVBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    PanelBuilder build(mirror_, group);
+    for (const auto& [caption, field] :
+         {std::pair{&controls.Label24, &controls.Proj_T}, {&controls.Label25, &controls.Schr_T}}) {
+        layout->addWidget(build.Caption(*caption));
+        auto* edit = build.Field(*field, *caption);
+        edit->setAlignment(Qt::AlignLeft);
+        edit->setMaxLength(255);
+        layout->addWidget(edit);
+    }
+    return group;
+}
+
+QWidget* ToolColumn::MakeEndButtons() {
+    auto& controls = form_.controls;
+    auto* group = new QWidget(this);
+    auto* layout = new QHBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    PanelBuilder build(mirror_, group);
+    auto* vendor = build.Caption(controls.Label19);
+    vendor->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addWidget(vendor, 1);
+    auto* printer = build.QuietButton(controls.mPributt);
+    mirror_.Describe(printer, controls.druckbutt.caption);
+    layout->addWidget(printer);
+    layout->addWidget(build.QuietButton(controls.Command3D7));
+    layout->addWidget(build.QuietButton(controls.Command3D2));
+    return group;
+}
+
+void ToolColumn::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintPanelGround(painter, QRectF(rect()), 0, form_.controls.FunktButtPn, mirror_.PictureStore(),
+                     palette().color(QPalette::Window));
+    painter.fillRect(QRect(0, 0, 1, height()), QColor(0xDF, 0xE5, 0xE9));
+}
+
+}  // namespace zandrell

@@ -1,0 +1,163 @@
+#include "painter/chart_drawing.h"
+
+#include <QFontMetricsF>
+#include <QPen>
+#include <algorithm>
+
+#include "painter/qt_canvas.h"
+#include "painter/shades.h"
+
+namespace zandrell {
+namespace {
+
+bool SamePlace(CanvasPoint a, CanvasPoint b) { return a.x == b.x && a.y == b.y; }
+
+QFont LabelFont(const ChartView& view) {
+    QFont font = view.Font();
+    font.setWeight(QFont::DemiBold);
+    font.setPixelSize(font.pixelSize() + std::max(1, font.pixelSize() / 10));
+    return font;
+}
+
+double LabelBoxHeight(const ChartView& view) { return 1.2 * LabelFont(view).pixelSize(); }
+
+// Beside the ring, not under it.
+QPointF LabelCorner(const OverlayDrawing::Label& label, const ChartView& view) {
+    return view.ToDevice(label.corner) +
+           QPointF(1.4 * MarkRadius(view), -0.25 * view.Font().pixelSize());
+}
+
+void PaintLines(QPainter& painter, const OverlayDrawing& drawing, const ChartView& view,
+                int ground) {
+    const QColor rim = ShadeFor(ground, StrokeRole::Ground, ground).colour;
+    const auto pen = [&view](const QColor& colour, double width) {
+        return QPen(colour, width * view.StrokeUnit(), Qt::SolidLine, Qt::RoundCap);
+    };
+    for (const auto& line : drawing.lines) {
+        QColor halo = rim;
+        halo.setAlphaF(0.75F);
+        painter.setPen(pen(halo, ShadeFor(line.colour, StrokeRole::Process, ground).width + 2.4));
+        painter.drawLine(view.ToDevice(line.part.from), view.ToDevice(line.part.to));
+    }
+    for (const auto& line : drawing.lines) {
+        const Shade shade = ShadeFor(line.colour, StrokeRole::Process, ground);
+        painter.setPen(pen(shade.colour, shade.width));
+        painter.drawLine(view.ToDevice(line.part.from), view.ToDevice(line.part.to));
+    }
+}
+
+void PaintMark(QPainter& painter, const OverlayDrawing::Mark& mark, const ChartView& view,
+               int ground) {
+    const Shade shade = ShadeFor(mark.colour, StrokeRole::Process, ground);
+    const QColor fill = ShadeFor(ground, StrokeRole::Ground, ground).colour;
+    const QPointF centre = view.ToDevice(mark.centre);
+    const double radius = MarkRadius(view);
+    if (mark.carried) {
+        QColor glow = shade.colour;
+        glow.setAlphaF(0.3F);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(glow);
+        painter.drawEllipse(centre, 2 * radius, 2 * radius);
+    }
+    painter.setPen(QPen(shade.colour, 0.8 * shade.width * view.StrokeUnit()));
+    painter.setBrush(fill);
+    painter.drawEllipse(centre, radius, radius);
+    if (mark.carried) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(shade.colour);
+        painter.drawEllipse(centre, 0.45 * radius, 0.45 * radius);
+    }
+}
+
+}  // namespace
+
+bool OverlayDrawing::Line::operator==(const Line& other) const {
+    return SamePlace(part.from, other.part.from) && SamePlace(part.to, other.part.to) &&
+           colour == other.colour;
+}
+
+bool OverlayDrawing::Mark::operator==(const Mark& other) const {
+    return SamePlace(centre, other.centre) && carried == other.carried && colour == other.colour;
+}
+
+bool OverlayDrawing::Label::operator==(const Label& other) const {
+    return SamePlace(corner, other.corner) && text == other.text && colour == other.colour;
+}
+
+void PaintPicture(QPainter& painter, const RecordingCanvas& picture, const ChartView& view) {
+    QtCanvas canvas(painter, view);
+    picture.ReplayOn(canvas);
+    canvas.Finish();
+}
+
+OverlayDrawing VisibleItems(Overlay overlay) {
+    OverlayDrawing drawing;
+    for (const ChartLine* line : overlay.Lines()) {
+        const auto part = ClippedToCanvas({{line->x1, line->y1}, {line->x2, line->y2}});
+        if (line->visible && part) drawing.lines.push_back({*part, line->colour});
+    }
+    for (const Mark* mark : overlay.Marks()) {
+        if (mark->visible && IsOnCanvas(mark->state, 0)) {
+            drawing.marks.push_back({mark->state, mark->shape == 1, mark->colour});
+        }
+    }
+    for (const ChartLabel* label : overlay.Labels()) {
+        const CanvasPoint corner{label->left, label->top};
+        if (label->visible && !label->text.empty() && IsOnCanvas(corner, 0)) {
+            drawing.labels.push_back({corner, label->text, label->colour});
+        }
+    }
+    return drawing;
+}
+
+double MarkRadius(const ChartView& view) { return 5.5 * view.StrokeUnit(); }
+
+void PaintOverlay(QPainter& painter, const OverlayDrawing& drawing, const ChartView& view,
+                  int ground) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintLines(painter, drawing, view, ground);
+    for (const auto& mark : drawing.marks) {
+        if (!mark.carried) PaintMark(painter, mark, view, ground);
+    }
+    for (const auto& mark : drawing.marks) {
+        if (mark.carried) PaintMark(painter, mark, view, ground);
+    }
+    const QColor rim = ShadeFor(ground, StrokeRole::Ground, ground).colour;
+    for (const auto& label : drawing.labels) {
+        PaintHaloedText(painter, LabelCorner(label, view), LabelBoxHeight(view),
+                        QString::fromStdString(label.text), LabelFont(view),
+                        ShadeFor(label.colour, StrokeRole::Process, ground).colour, rim,
+                        1.6 * view.StrokeUnit());
+    }
+}
+
+std::vector<QRectF> TouchedBy(const OverlayDrawing& drawing, const ChartView& view) {
+    std::vector<QRectF> touched;
+    const double reach = 5 * view.StrokeUnit();
+    for (const auto& line : drawing.lines) {
+        const QRectF box(view.ToDevice(line.part.from), view.ToDevice(line.part.to));
+        touched.push_back(box.normalized().adjusted(-reach, -reach, reach, reach));
+    }
+    const double mark_reach = 2 * MarkRadius(view) + reach;
+    for (const auto& mark : drawing.marks) {
+        const QPointF centre = view.ToDevice(mark.centre);
+        touched.push_back(
+            {centre - QPointF(mark_reach, mark_reach), QSizeF(2 * mark_reach, 2 * mark_reach)});
+    }
+    const QFontMetricsF metrics(LabelFont(view));
+    for (const auto& label : drawing.labels) {
+        const double width = metrics.horizontalAdvance(QString::fromStdString(label.text));
+        const QRectF box(LabelCorner(label, view), QSizeF(width, LabelBoxHeight(view)));
+        touched.push_back(box.adjusted(-reach, -reach, reach, reach));
+    }
+    return touched;
+}
+
+QImage RenderPicture(const RecordingCanvas& picture, int width, int height, double density) {
+    QImage image(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
+    QPainter painter(&image);
+    PaintPicture(painter, picture, ChartView(picture, QRectF(image.rect()), density));
+    return image;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QRectF>
+#include <string>
+#include <vector>
+
+#include "canvas/recording_canvas.h"
+#include "chart/overlay.h"
+#include "painter/chart_view.h"
+
+namespace zandrell {
+
+// Paints the chart's grid and curves.
+void PaintPicture(QPainter& painter, const RecordingCanvas& picture, const ChartView& view);
+
+// The visible items of an overlay as they stand, to be painted or compared with a later state.
+struct OverlayDrawing {
+    struct Line {
+        Segment part;
+        int colour = 0;
+        bool operator==(const Line& other) const;
+    };
+    struct Mark {
+        CanvasPoint centre;
+        bool carried = false;  // hangs on the pointer
+        int colour = 0;
+        bool operator==(const Mark& other) const;
+    };
+    struct Label {
+        CanvasPoint corner;
+        std::string text;
+        int colour = 0;
+        bool operator==(const Label& other) const;
+    };
+    std::vector<Line> lines;
+    std::vector<Mark> marks;
+    std::vector<Label> labels;
+
+    bool operator==(const OverlayDrawing&) const = default;
+};
+
+// What of the overlay lies on the canvas. Takes a copy, since the lists of an overlay give out
+// pointers to change its items.
+OverlayDrawing VisibleItems(Overlay overlay);
+
+// Paints process lines, marks and labels over a picture with the ground colour `ground` (palette
+// number or colour value).
+void PaintOverlay(QPainter& painter, const OverlayDrawing& drawing, const ChartView& view,
+                  int ground);
+
+// Rectangles that hold all that PaintOverlay touches, one for each item.
+std::vector<QRectF> TouchedBy(const OverlayDrawing& drawing, const ChartView& view);
+
+// The radius of a mark's ring, in pixels.
+double MarkRadius(const ChartView& view);
+
+// The picture alone on an opaque image of width by height pixels; `density` as in ChartView.
+QImage RenderPicture(const RecordingCanvas& picture, int width, int height, double density);
+
+}  // namespace zandrell

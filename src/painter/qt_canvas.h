@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QString>
+#include <string_view>
+#include <vector>
+
+#include "canvas/canvas.h"
+#include "painter/chart_view.h"
+#include "painter/shades.h"
+
+namespace zandrell {
+
+// Draws `text` with its upper left corner at `corner` and a rim of the ground colour, so that it
+// reads well over lines. `box_height` is the height that the text is centred in.
+void PaintHaloedText(QPainter& painter, QPointF corner, double box_height, const QString& text,
+                     const QFont& font, const QColor& colour, const QColor& ground, double rim);
+
+// A canvas on any of Qt's painters. Lines of one look that follow each other are drawn in one go;
+// texts are kept until Finish, since they stand over all lines.
+class QtCanvas : public Canvas {
+  public:
+    // Both outlive the canvas.
+    QtCanvas(QPainter& painter, const ChartView& view);
+
+    // Fills the whole surface, margins included.
+    void Clear(int background, int foreground) override;
+    void SetLineWidth(int width) override { width_ = width; }
+    // The size of texts follows the surface.
+    void SetFontSize(int) override {}
+    void Line(double x1, double y1, double x2, double y2, int colour) override;
+    void Dot(double x, double y, int colour) override;
+    void Circle(double x, double y, double radius, int colour) override;
+    void Text(double x, double y, std::string_view text) override;
+
+    // Draws what is still kept. Requires: called once after the last stroke.
+    void Finish();
+
+  private:
+    struct KeptText {
+        QPointF corner;
+        QString text;
+    };
+    struct LineLook {
+        int colour = -1;
+        int width = 0;
+        bool straight = false;  // along one axis: a line of a grid
+        bool operator==(const LineLook&) const = default;
+    };
+
+    void FlushLines();
+    void FlushDots();
+    void DrawCurve() const;
+    void DrawGridLine(QPointF from, QPointF to) const;
+    double Thickness(const Shade& shade) const;
+    double BoxHeight() const;
+
+    QPainter& painter_;
+    const ChartView& view_;
+    int ground_ = kWhite, foreground_ = kBlack;
+    int width_ = 1;
+    LineLook look_;
+    QPolygonF polyline_;
+    int dot_colour_ = kGrey;
+    std::vector<QPointF> dots_;
+    std::vector<KeptText> texts_;
+};
+
+}  // namespace zandrell

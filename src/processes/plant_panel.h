@@ -1,0 +1,83 @@
+#pragma once
+
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/scroll_bar.h"
+#include "processes/plant.h"
+#include "processes/plant_drawing.h"
+#include "processes/process_context.h"
+
+namespace zandrell {
+
+// The floating panel of the air-handling plant with a room.
+class PlantPanel {
+  public:
+    explicit PlantPanel(const ProcessContext& context) : context_(context) {}
+
+    Panel Frame1{"Frame1"}, Panel3D10{"Panel3D10"}, Panel3D2{"Panel3D2"};
+    Label Label16{"Label16"};  // title line of the panel
+    TextField vhAnlage{"vhAnlage"}, aussenAnt{"aussenAnt"}, vhinnen{"vhinnen"},
+        vhaussen{"vhaussen"};
+    TextField tabLuft{"tabLuft"}, PHIAbluft{"PHIAbluft"}, Taus{"Taus"}, PhiAussen{"PhiAussen"},
+        TZuluft{"TZuluft"}, PHIZuluft{"PHIZuluft"}, tKA{"tKA"}, phiKanal{"phiKanal"},
+        dtVent1{"dtVent1"}, dtVent2{"dtVent2"};
+    OptionButton Option3D3{"Option3D3", true}, Option3D4{"Option3D4"};  // steam, water
+    ScrollBar taScroll{"taScroll"}, tzuScroll{"tzuScroll"}, tabScroll{"tabScroll"},
+        Phiaussenscroll{"Phiaussenscroll"}, PHIAbscroll{"PHIAbscroll"}, PhiZuscroll{"PhiZuscroll"};
+    Label RaumLeist{"RaumLeist"}, RaumSensLeist{"RaumSensLeist"}, RaumLatLeist{"RaumLatLeist"},
+        RaumWasserLeist{"RaumWasserLeist"}, Kuehl{"Kuehl"}, Heiz2{"Heiz2"}, Bef{"Bef"};
+    // Captions: t and relative humidity beside exhaust, outside and supply air and the coil, and
+    // words.
+    Label Label34{"Label34"}, Label38{"Label38"}, Label39{"Label39"}, Label57{"Label57"},
+        Label43{"Label43"}, Label56{"Label56"}, Label11{"Label11"},
+        coil_temperature_label{"tKALabel"};
+    Label flow_label{"vhAnlageLabel"}, ratio_label{"aussenAntLabel"},
+        inner_flow_label{"vhinnenLabel"}, outer_flow_label{"vhaussenLabel"},
+        exhaust_label{"AbluftLabel"}, outside_label{"AussenLabel"}, supply_label{"ZuluftLabel"},
+        coil_label{"KanalLabel"}, supply_fan_label{"dtVent1Label"},
+        return_fan_label{"dtVent2Label"}, room_label{"RaumLabel"},
+        room_total_label{"RaumLeistLabel"}, room_sensible_label{"RaumSensLeistLabel"},
+        room_latent_label{"RaumLatLeistLabel"}, room_water_label{"RaumWasserLeistLabel"},
+        cooler_label{"KuehlLabel"}, heater_label{"Heiz2Label"}, humidifier_label{"BefLabel"};
+    Button AnlageAbButt{"AnlageAbButt", "abcap.bmp"}, AnlageAbButt_l{"AnlageAbButt_l"},
+        Command3D6{"Command3D6", "OKcap.bmp"}, Command3D6_l{"Command3D6_l"}, Picture12{"Picture12"};
+
+    int AnlageZweig = 0;  // 1: the run before went the way without cooler
+
+    void ListControls(Form& form);
+
+    // Ranges and positions of the bars as the opening of the panel sets them.
+    void TakeBarsFromFields();
+
+    // Splits the plant's flow into inner and outer air by their ratio, cut to whole m3/h. Without a
+    // flow above 0 the shares stay.
+    void VolumenTeilen();
+    // Return in a share: flow and ratio follow from the shares. False unless both are positive.
+    bool TakeFlowFromShares();
+
+    // Reads the panel, corrects what cannot hold together, computes every state, draws the process
+    // and writes the figures. Runs that it starts itself by moving a bar end before it goes on.
+    void AnlageBerechnen();
+
+  private:
+    bool ReadInputs(PlantInputs& inputs);
+    double ReadFanRise(TextField& field);
+    bool CorrectHumidities(PlantRun& run);
+    void HoldSupplyAboveCoil(const PlantInputs& inputs);
+    void MoveHumidityBars(const PlantInputs& inputs);
+    bool MixExhaustAndOutside(PlantRun& run);
+    bool SupplyTheRoom(PlantRun& run);
+    void ShowRoomLoads(const RoomLoads& loads, double factor);
+    bool ChooseTheWay(PlantRun& run);
+    void CoolAndHeat(const PlantRun& run);
+    void HeatOnly(const PlantRun& run);
+    void StartWay(bool without_cooler);
+    void ShowCoolerFigures(const PlantRun& run, const CoolerWay& way);
+    void ShowHeaterFigures(const PlantRun& run, const AirPoint& heated);
+    void ShowHeaterBehindCooler(double capacity_kw, double factor);
+    PlantDrawing Drawing() const;
+
+    ProcessContext context_;
+};
+
+}  // namespace zandrell

@@ -1,0 +1,322 @@
+#include "processes/point_panel.h"
+
+#include <cmath>
+
+#include "base/number_text.h"
+#include "canvas/palette.h"
+#include "processes/figure_text.h"
+#include "processes/state_change.h"
+#include "processes/tools.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kMarkCorner = 6;  // canvas units from a state up and left to its mark's corner
+constexpr double kBarUnitsPerField = 10;
+constexpr int kFlowBarEnd = 200, kFlowBarMiddle = 100;
+constexpr double kSecondsPerHour = 3600;
+constexpr double kKgPerHourOfGramPerSecond = 3.6;
+constexpr double kTrialFlow = 1000;  // m3/h
+
+bool IsTool(int mode) { return mode >= kCooler && mode <= kSteamHumidifier; }
+bool HasCapacity(int mode) { return mode == kCapacity || IsTool(mode); }
+bool IsHumidityInput(double percent) { return percent > 0 && percent <= 100; }
+
+void SetShown(Control& control, bool shown) {
+    control.visible = shown;
+    control.enabled = shown;
+}
+
+void FollowField(ScrollBar& bar, double value) {
+    bar.SetPosition(RoundToInteger(kBarUnitsPerField * value));
+}
+
+// The step is known before the bar moves, since the bar's handler multiplies by it.
+void CentreFlowBar(ScrollBar& bar, double& step, double flow) {
+    step = flow / kFlowBarMiddle;
+    bar.SetHighEnd(kFlowBarEnd);
+    bar.SetPosition(kFlowBarMiddle);
+}
+
+void TakeFlowStep(const TextField& field, ScrollBar& bar, double& step) {
+    const double flow = ParsedNumber(field.text);
+    if (flow > 0) CentreFlowBar(bar, step, flow);
+}
+
+void ShowStateTexts(const AirState& state, Label& absolute, Label& enthalpy) {
+    ShowNumber(absolute, Cut(state.ZustandX, 100));
+    ShowNumber(enthalpy, Cut(state.ZustandH + 0.05, 10));
+}
+
+}  // namespace
+
+void PointPanel::ListControls(Form& form) {
+    form.Add({&Anlage1PN, &Panel3D9, &Label15});
+    form.Add({&Label33, &Label35, &Label36, &label37, &enthPN, &second_flow_label, &mixture_label});
+    form.Add({&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2, &Kleist});
+    form.Add({&absF1, &enth1, &absF2, &enth2, &KLatent, &Ksensibel, &KondW});
+    form.Add({&capacity_label, &latent_label, &sensible_label, &water_label});
+    form.Add({&TempM, &relFM, &absFM});
+    form.Add({&Tscroll1, &FScroll1, &Tscroll2, &FScroll2, &VScroll1, &Vscroll2});
+    form.Add({&VolBer, &VolBer_l, &wrgButt, &Command3D4, &abbcom, &Picture3});
+}
+
+void PointPanel::ShowForMode(int mode) {
+    Overlay& overlay = context_.overlay;
+    overlay.AnlageMarkenLoeschen();
+    overlay.t1Lab.text = "1";
+    overlay.t2lab.text = "2";
+    SetShown(FScroll2, mode != kHeater && mode != kWaterHumidifier);
+    if (mode == kSteamHumidifier) SetShown(Tscroll2, false);
+
+    Panel3D9.visible = HasCapacity(mode);
+    Label33.visible = LuftM1.visible = mode != kStateChange;
+    SetShown(VScroll1, true);  // also with its flow field hidden in mode 1
+    ShowSecondFlow(mode == kMixing);
+
+    const ChartSettings& settings = context_.settings;
+    const auto least = RoundToInteger(kBarUnitsPerField * settings.ChartTMin);
+    const auto most = RoundToInteger(kBarUnitsPerField * settings.ChartTMax);
+    if (least && most) {
+        Tscroll1.SetRange(*least, *most);
+        Tscroll2.SetRange(*least, *most);
+    }
+    Anlage1PN.visible = true;
+}
+
+void PointPanel::ShowSecondFlow(bool shown) {
+    for (Control* control : std::initializer_list<Control*>{
+             &LuftM2, &second_flow_label, &mixture_label, &TempM, &relFM, &absFM}) {
+        control->visible = shown;
+    }
+    SetShown(Vscroll2, shown);
+}
+
+PointPanel::Inputs PointPanel::ReadInputs() const {
+    return {ParsedNumber(Temp1.text), ParsedNumber(Temp2.text),  ParsedNumber(relF1.text),
+            ParsedNumber(relF2.text), ParsedNumber(LuftM1.text), ParsedNumber(LuftM2.text)};
+}
+
+bool PointPanel::WithinChart(const Inputs& inputs) const {
+    const ChartSettings& settings = context_.settings;
+    const auto in_range = [&](double t) {
+        return t >= settings.ChartTMin && t <= settings.ChartTMax;
+    };
+    return IsHumidityInput(inputs.relF1) && IsHumidityInput(inputs.relF2) && in_range(inputs.t1) &&
+           in_range(inputs.t2);
+}
+
+void PointPanel::ZustandRechnen(int mode, int marke) {
+    context_.shared.ZurueckVomDialog = 1;
+    Inputs inputs = ReadInputs();
+    bool states_known = EvaluateStates(inputs);
+    if (IsTool(mode)) {
+        FillInSecondState(mode, inputs);
+        states_known = EvaluateFilledInState(mode, states_known);
+        inputs = ReadInputs();
+    }
+    if (!(ParsedNumber(absF1.text) > 0 && ParsedNumber(absF2.text) > 0)) return;
+    MarkenSetzen(mode, marke);
+    ShowBothMarks();
+    if (!states_known) return;
+    if (mode == kMixing) ShowMixture(mode, inputs);
+    if (HasCapacity(mode)) ShowCapacity(mode, inputs);
+}
+
+// False, with everything as it was, when an input is outside the limits.
+bool PointPanel::EvaluateStates(const Inputs& inputs) {
+    StateSolver& solver = context_.solver;
+    if (!WithinChart(inputs)) return false;
+    if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
+    const AirState first = solver;
+    if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
+    const AirState second = solver;
+    ZustandX1 = first.ZustandX;
+    enthalpy1_ = first.ZustandH;
+    density1_ = first.ZustandDichte;
+    ZustandX2 = second.ZustandX;
+    enthalpy2_ = second.ZustandH;
+    ShowStateTexts(first, absF1, enth1);
+    ShowStateTexts(second, absF2, enth2);
+    return true;
+}
+
+// State 2 anew from the texts that the tool wrote, so that the first capacity shown is the right
+// one. absF2 keeps what the tool wrote, and enth2 too behind the water humidifier. A first state
+// that was passed over because of the old text of the second is made up for.
+bool PointPanel::EvaluateFilledInState(int mode, bool states_known) {
+    const Inputs inputs = ReadInputs();
+    StateSolver& solver = context_.solver;
+    if (!WithinChart(inputs)) return false;
+    if (!states_known) {
+        if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
+        ZustandX1 = solver.ZustandX;
+        enthalpy1_ = solver.ZustandH;
+        density1_ = solver.ZustandDichte;
+        ShowStateTexts(solver, absF1, enth1);
+    }
+    if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
+    ZustandX2 = solver.ZustandX;
+    enthalpy2_ = solver.ZustandH;
+    if (mode != kWaterHumidifier) ShowNumber(enth2, Cut(enthalpy2_ + 0.05, 10));
+    return true;
+}
+
+void PointPanel::FillInSecondState(int mode, const Inputs& inputs) {
+    StateSolver& solver = context_.solver;
+    if (mode == kCooler) KeepHumidity(HumidityBehindCooler(solver, ZustandX1, inputs.t2));
+    if (mode == kHeater) KeepHumidity(HumidityBehindHeater(solver, ZustandX1, inputs.t2));
+    if (mode == kWaterHumidifier) HumidifyWithWater(inputs);
+    if (mode == kSteamHumidifier) HumidifyWithSteam(inputs);
+}
+
+void PointPanel::KeepHumidity(std::optional<double> fraction) {
+    if (!fraction) return;
+    ShowNumber(relF2, std::floor(1000 * *fraction) / 10);
+    // Also at the cooler's cap, where less is left in the air: this is meant.
+    ShowNumber(absF2, Cut(ZustandX1, 100));
+}
+
+void PointPanel::HumidifyWithWater(const Inputs& inputs) {
+    const auto air = BehindWaterHumidifier(context_.solver, enthalpy1_, inputs.t2);
+    if (!air) return;
+    relF2.background = air->impossible ? kLightRed : kWhite;
+    ShowNumber(relF2, Cut(air->rel_percent, 10));
+    ShowNumber(absF2, Cut(air->x, 100));
+    ShowNumber(enth2, Cut(enthalpy1_ + 0.05, 10));
+}
+
+void PointPanel::HumidifyWithSteam(const Inputs& inputs) {
+    const auto x = HumidityBehindSteamHumidifier(context_.solver, inputs.t1, inputs.relF2);
+    if (!x) return;
+    ShowNumber(absF2, Cut(*x, 100));
+    Temp2.text = Temp1.text;
+}
+
+void PointPanel::ShowMixture(int mode, const Inputs& inputs) {
+    if (!(inputs.LuftM1 > 0 && inputs.LuftM2 > 0)) return;
+    const Mixture mixture = MixtureOf(context_.solver, FirstState(inputs.t1), inputs.LuftM1,
+                                      SecondState(inputs.t2), inputs.LuftM2);
+    AssignFinite(context_.figures.MischTemp, mixture.MischTemp);
+    AssignFinite(context_.figures.MischX, mixture.MischX);
+    ShowNumber(TempM, Cut(mixture.MischTemp, 100));
+    ShowNumber(relFM, Cut(mixture.rel_percent, 100));
+    ShowNumber(absFM, Cut(mixture.MischX, 100));
+    MarkenSetzen(mode, kMarksWithMixture);
+}
+
+void PointPanel::ShowCapacity(int mode, const Inputs& inputs) {
+    if (!(inputs.LuftM1 > 0)) return;
+    // The density of state 1 holds for the whole change.
+    const double air_kg_per_s = inputs.LuftM1 * density1_ / kSecondsPerHour;
+    const auto signed_loads =
+        LoadsBetween(context_.solver, FirstState(inputs.t1), SecondState(inputs.t2), air_kg_per_s);
+    if (!signed_loads) return;
+    const Decimals decimals = DecimalsOf(*signed_loads);  // of the signed load also for the tools
+    const Loads loads = LoadsOfTool(mode, *signed_loads);
+    const double total = Cut(loads.total_kw, decimals.capacity);
+    const double latent = Cut(loads.latent_kw, decimals.capacity);
+    const double sensible = Cut(loads.sensible_kw, decimals.capacity);
+    const double water_kg_per_h = kKgPerHourOfGramPerSecond * loads.water_g_per_s;
+
+    ShowNumber(Kleist, total);
+    ShowNumber(KLatent, latent);
+    ShowNumber(Ksensibel, sensible);
+    ShowNumber(KondW, Cut(water_kg_per_h, decimals.water));
+
+    ProcessFigures& figures = context_.figures;
+    AssignFinite(figures.GesamtLeist, total);
+    AssignFinite(figures.LatentLeist, latent);
+    AssignFinite(figures.SensibelLeist, sensible);
+    // Cut with the decimals of the capacity, unlike the text KondW: this is meant.
+    AssignFinite(figures.KondensatWasser, Cut(water_kg_per_h, decimals.capacity));
+    figures.KuehlLeistText = Kleist.text;
+}
+
+void PointPanel::ShowBothMarks() {
+    Overlay& overlay = context_.overlay;
+    for (Control* control : std::initializer_list<Control*>{
+             &overlay.ZAeLine, &overlay.PP1, &overlay.PP2, &overlay.t1Lab, &overlay.t2lab}) {
+        control->visible = true;
+    }
+}
+
+void PointPanel::MarkenSetzen(int mode, int marke) {
+    const bool carried = marke == kFirstMarkCarried || marke == kSecondMarkCarried;
+    const std::string& pointer_t = context_.read_out.Temp.text;
+    if (carried && pointer_t == "-") return;  // to where there is no air
+    const std::string& t1 = marke == kFirstMarkCarried ? pointer_t : Temp1.text;
+    const std::string& t2 = marke == kSecondMarkCarried ? pointer_t : Temp2.text;
+
+    const CanvasPoint point1 = context_.scale.PointOf(ZustandX1, ParsedNumber(t1));
+    CanvasPoint point2 = context_.scale.PointOf(ZustandX2, ParsedNumber(t2));
+    // Heating is drawn as a vertical line whichever chart is on: this is meant.
+    if (mode == kHeater) point2.x = point1.x;
+
+    Overlay& overlay = context_.overlay;
+    overlay.ZAeLine.Run(point1, point2);
+    overlay.PP1.PlaceAt(point1, kMarkCorner);
+    overlay.PP2.PlaceAt(point2, kMarkCorner);
+    overlay.t1Lab.PlaceAt(point1);
+    overlay.t2lab.PlaceAt(point2);
+    if (marke == kMarksWithMixture) PlaceMixture();
+}
+
+void PointPanel::PlaceMixture() {
+    Overlay& overlay = context_.overlay;
+    const ProcessFigures& figures = context_.figures;
+    const CanvasPoint point = context_.scale.PointOf(figures.MischX, figures.MischTemp);
+    overlay.tmLab.text = context_.captions.QVCaptList[6];
+    overlay.tmLab.left = point.x;  // exactly at the point, unlike the other labels: this is meant
+    overlay.tmLab.top = point.y;
+    overlay.PP3.PlaceAt(point, kMarkCorner);
+    overlay.tmLab.visible = overlay.PP3.visible = true;
+}
+
+void PointPanel::SchieberAbgleich() {
+    const ChartSettings& settings = context_.settings;
+    // Each text is read when its turn comes: a bar that moves runs its handler, which may write it.
+    const auto follow_temperature = [&](ScrollBar& bar, const TextField& field) {
+        const double t = ParsedNumber(field.text);
+        if (t > settings.ChartTMin && t < settings.ChartTMax) FollowField(bar, t);
+    };
+    const auto follow_humidity = [](ScrollBar& bar, const TextField& field) {
+        const double percent = ParsedNumber(field.text);
+        if (IsHumidityInput(percent)) FollowField(bar, percent);
+    };
+    follow_temperature(Tscroll1, Temp1);
+    follow_temperature(Tscroll2, Temp2);
+    follow_humidity(FScroll1, relF1);
+    follow_humidity(FScroll2, relF2);
+    if (LuftSchritt1 == 0) TakeFlowStep1();
+    if (LuftSchritt2 == 0) TakeFlowStep2();
+}
+
+void PointPanel::TakeFlowStep1() { TakeFlowStep(LuftM1, VScroll1, LuftSchritt1); }
+void PointPanel::TakeFlowStep2() { TakeFlowStep(LuftM2, Vscroll2, LuftSchritt2); }
+
+// The load is proportional to the flow, so one trial tells the flow.
+void PointPanel::VolStrm_rech(int mode) {
+    const double wanted_kw = ParsedNumber(Kleist.text);
+    LuftM1.text = TrimmedNumberText(kTrialFlow);
+    ZustandRechnen(mode, kMarksFromFields);
+    SchieberAbgleich();
+    const double trial_kw = ParsedNumber(Kleist.text);
+    // A trial without load fails here and leaves the trial flow in the field.
+    ShowNumber(LuftM1, std::floor(kTrialFlow * wanted_kw / trial_kw + 0.5));
+    Kleist.text = TrimmedNumberText(wanted_kw);
+    TakeFlowStep1();
+}
+
+void PointPanel::VolumeFromCapacity(int mode) {
+    const double wanted_kw = ParsedNumber(Kleist.text);
+    VolStrm_rech(mode);
+    ZustandRechnen(mode, kMarksFromFields);
+    double scale = 0;
+    AssignFinite(scale, ParsedNumber(Kleist.text) / wanted_kw);
+    Kleist.text = TrimmedNumberText(wanted_kw);
+    ShowNumber(KLatent, std::floor(100 * ParsedNumber(KLatent.text) / scale) / 100);
+    ShowNumber(Ksensibel, std::floor(100 * ParsedNumber(Ksensibel.text) / scale) / 100);
+}
+
+}  // namespace zandrell

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <optional>
+
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/scroll_bar.h"
+#include "processes/air_point.h"
+#include "processes/process_context.h"
+
+namespace zandrell {
+
+// Which drawing follows a calculation on two states: from the fields, with one of the two states
+// taken from the pointer read-out while its mark is carried, or with the mixing point.
+inline constexpr int kMarksFromFields = 1, kMarksWithMixture = 3, kFirstMarkCarried = 11,
+                     kSecondMarkCarried = 12;
+
+// The floating panel of two air states: state change, capacity, mixing and the four tools.
+class PointPanel {
+  public:
+    explicit PointPanel(const ProcessContext& context) : context_(context) {}
+
+    Panel Anlage1PN{"Anlage1PN"}, Panel3D9{"Panel3D9"};
+    Label Label33{"Label33"}, Label35{"Label35"}, Label36{"Label36"}, label37{"label37"},
+        enthPN{"enthPN"}, second_flow_label{"LuftM2Label"}, mixture_label{"MixtureLabel"};
+    Label Label15{"Label15"};  // title line of the panel
+    TextField Temp1{"Temp1"}, relF1{"relF1"}, Temp2{"Temp2"}, relF2{"relF2"}, LuftM1{"LuftM1"},
+        LuftM2{"LuftM2"}, Kleist{"Kleist"};
+    Label absF1{"absF1"}, enth1{"enth1"}, absF2{"absF2"}, enth2{"enth2"};
+    Label capacity_label{"KleistLabel"}, latent_label{"KLatentLabel"},
+        sensible_label{"KsensibelLabel"}, water_label{"KondWLabel"};
+    Label KLatent{"KLatent"}, Ksensibel{"Ksensibel"}, KondW{"KondW"};
+    Label TempM{"TempM"}, relFM{"relFM"}, absFM{"absFM"};
+    ScrollBar Tscroll1{"Tscroll1"}, FScroll1{"FScroll1"}, Tscroll2{"Tscroll2"},
+        FScroll2{"FScroll2"}, VScroll1{"VScroll1", 0, 200}, Vscroll2{"Vscroll2", 0, 200};
+    Button VolBer{"VolBer", "brcaps.bmp"}, VolBer_l{"VolBer_l"}, wrgButt{"wrgButt"};
+    Button Command3D4{"Command3D4", "OKcap.bmp"}, abbcom{"abbcom", "abcap.bmp"},
+        Picture3{"Picture3"};
+
+    double ZustandX1 = 0, ZustandX2 = 0;        // g/kg, of the two states
+    double LuftSchritt1 = 0, LuftSchritt2 = 0;  // m3/h per unit of the flow bars; 0: not yet known
+
+    void ListControls(Form& form);
+
+    // Shows and hides what the mode needs, takes the bar ranges from the chart and shows the panel.
+    // Tscroll2, hidden by the steam humidifier, is never shown again in a run: this is meant.
+    void ShowForMode(int mode);
+
+    // Reads the six fields, computes both states, lets the tool fill in state 2, draws, and gives
+    // capacity or mixture.
+    void ZustandRechnen(int mode, int marke);
+
+    // Places marks, line and labels of the two states, and with kMarksWithMixture the mixing point.
+    void MarkenSetzen(int mode, int marke);
+    // Brings the bars in line with the fields. A value outside the chart or the bar leaves it.
+    void SchieberAbgleich();
+
+    // The volume flow that gives the wanted capacity in Kleist.
+    void VolStrm_rech(int mode);
+    // The same with the rounding of the flow taken out of the three capacities again.
+    void VolumeFromCapacity(int mode);
+
+    // Return in a flow field: its bar gets the range up to 200 and stands in the middle.
+    void TakeFlowStep1();
+    void TakeFlowStep2();
+
+  private:
+    struct Inputs {
+        double t1 = 0, t2 = 0;          // degC
+        double relF1 = 0, relF2 = 0;    // per cent
+        double LuftM1 = 0, LuftM2 = 0;  // m3/h
+    };
+
+    Inputs ReadInputs() const;
+    bool WithinChart(const Inputs& inputs) const;
+    bool EvaluateStates(const Inputs& inputs);
+    bool EvaluateFilledInState(int mode, bool states_known);
+    AirPoint FirstState(double t1) const { return {t1, ZustandX1, enthalpy1_}; }
+    AirPoint SecondState(double t2) const { return {t2, ZustandX2, enthalpy2_}; }
+
+    void FillInSecondState(int mode, const Inputs& inputs);
+    void KeepHumidity(std::optional<double> fraction);
+    void HumidifyWithWater(const Inputs& inputs);
+    void HumidifyWithSteam(const Inputs& inputs);
+
+    void ShowMixture(int mode, const Inputs& inputs);
+    void ShowCapacity(int mode, const Inputs& inputs);
+    void ShowBothMarks();
+    void PlaceMixture();
+    void ShowSecondFlow(bool shown);
+
+    ProcessContext context_;
+    // Of the two states; kept while the inputs are outside the limits, and so are the figures.
+    double enthalpy1_ = 0, enthalpy2_ = 0;  // kJ/kg
+    double density1_ = 0;                   // kg/m3
+};
+
+}  // namespace zandrell

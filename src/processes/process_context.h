@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+#include "base/captions.h"
+#include "base/shared_values.h"
+#include "chart/chart_scale.h"
+#include "chart/chart_settings.h"
+#include "chart/overlay.h"
+#include "chart/read_out.h"
+#include "kernel/state_solver.h"
+
+namespace zandrell {
+
+// The calculations that the main window shows (`Rechenmodus`).
+inline constexpr int kStateChange = 1, kCapacity = 2, kMixing = 3, kPlant = 5, kCooler = 12,
+                     kHeater = 13, kWaterHumidifier = 14, kSteamHumidifier = 15;
+
+// Whether a mode works on the point panel with two states.
+constexpr bool IsPointMode(int mode) {
+    return (mode >= kStateChange && mode <= kMixing) ||
+           (mode >= kCooler && mode <= kSteamHumidifier);
+}
+
+// Figures that a calculation leaves for the print-out. They outlive a change of mode.
+struct ProcessFigures {
+    std::string KuehlLeistText;
+    double GesamtLeist = 0, LatentLeist = 0, SensibelLeist = 0;  // kW
+    double KondensatWasser = 0;                                  // kg/h
+    double BefeuchterLeist = 0;                                  // kg/h
+    double HeizLeist = 0;                                        // kW
+    double RaumWasser = 0;                                       // kg/h
+    double MischTemp = 0;                                        // degC
+    double MischX = 0;                                           // g/kg
+};
+
+// What the calculations work on. All of it outlives them.
+struct ProcessContext {
+    SharedValues& shared;
+    const Captions& captions;
+    StateSolver& solver;
+    const ChartSettings& settings;
+    const ChartScale& scale;
+    Overlay& overlay;
+    ReadOutPanel& read_out;
+    ProcessFigures& figures;
+};
+
+}  // namespace zandrell

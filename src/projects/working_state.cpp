@@ -1,0 +1,41 @@
+#include "projects/working_state.h"
+
+#include "base/delimited_text.h"
+#include "base/number_text.h"
+
+namespace zandrell {
+namespace {
+
+constexpr std::string_view kUsualCoilHumidity = "95";  // %
+
+}  // namespace
+
+FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
+                              const WorkingStateFields& state) {
+    const FileText file = files.OpenForInput(name);
+    if (file.status != FileStatus::Ok && file.status != FileStatus::Missing) return file.status;
+    DelimitedReader reader(file.text);
+    for (TextField* field : state.fields) {
+        field->text.clear();
+        reader.ReadText(field->text);
+    }
+    reader.ReadBoolean(state.steam->on);
+    reader.ReadBoolean(state.water->on);
+    TextField& coil = *state.coil_humidity;
+    coil.text.clear();
+    reader.ReadText(coil.text);
+    if (ParsedNumber(coil.text) == 0) coil.text = kUsualCoilHumidity;
+    return file.status;
+}
+
+FileStatus ArbeitsfelderSpeichern(const DataFiles& files, std::string_view name,
+                                  const WorkingStateFields& state) {
+    DelimitedWriter writer;
+    for (const TextField* field : state.fields) writer.Text(field->text).EndLine();
+    writer.Boolean(state.steam->on).EndLine();
+    writer.Boolean(state.water->on).EndLine();
+    writer.Text(state.coil_humidity->text).EndLine();
+    return files.OpenForOutput(name, writer.Result());
+}
+
+}  // namespace zandrell

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "base/data_files.h"
+#include "forms/control.h"
+
+namespace zandrell {
+
+// The inputs of the main window that outlive a run, in the order in which their file holds them: 17
+// fields, the two humidifier options, and the humidity behind the cooler.
+struct WorkingStateFields {
+    std::array<TextField*, 17> fields;
+    OptionButton* steam;
+    OptionButton* water;
+    TextField* coil_humidity;
+};
+
+// Sets the controls from a working-state file; runs no calculation. An item that the file lacks
+// empties its field, the options stay, and a coil humidity that is missing or 0 becomes "95".
+// Unless the file could be read, or there is none, nothing is touched.
+FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
+                              const WorkingStateFields& state);
+
+FileStatus ArbeitsfelderSpeichern(const DataFiles& files, std::string_view name,
+                                  const WorkingStateFields& state);
+
+}  // namespace zandrell

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace zandrell {
+
+// What a user can do to a control.
+enum class ActKind { Click, Press, Release, Return, Choose, Check, Change, Select };
+
+// The one list of what a user can do in a window: the windows bind from it, scripts and tests call
+// it.
+class ActTable {
+  public:
+    using Handler = std::function<void()>;
+
+    void Add(std::string_view control, ActKind kind, Handler handler) {
+        handlers_[{std::string(control), kind}] = std::move(handler);
+    }
+    bool Has(std::string_view control, ActKind kind) const {
+        return handlers_.contains({std::string(control), kind});
+    }
+    // Runs the handler if there is one. Returns whether there was.
+    bool Perform(std::string_view control, ActKind kind) const {
+        const auto found = handlers_.find({std::string(control), kind});
+        if (found == handlers_.end()) return false;
+        found->second();
+        return true;
+    }
+    const std::map<std::pair<std::string, ActKind>, Handler>& Handlers() const { return handlers_; }
+
+  private:
+    std::map<std::pair<std::string, ActKind>, Handler> handlers_;
+};
+
+}  // namespace zandrell

@@ -1,0 +1,235 @@
+#include "shell/form_dump.h"
+
+#include <functional>
+#include <utility>
+
+namespace zandrell {
+namespace {
+
+struct ProgramValue {
+    std::string_view name;
+    std::function<Json(MainForm&)> value;
+};
+
+const std::vector<ProgramValue>& ModeValues() {
+    static const std::vector<ProgramValue> values = {
+        {"title", [](MainForm& m) { return Json(m.title); }},
+        {"Rechenmodus", [](MainForm& m) { return Json(m.Rechenmodus); }},
+        {"PanelZustand", [](MainForm& m) { return Json(m.PanelZustand); }},
+        {"MousePointer", [](MainForm& m) { return Json(m.MousePointer); }},
+        {"PP1Gefasst", [](MainForm& m) { return Json(m.PP1Gefasst); }},
+        {"PP2Gefasst", [](MainForm& m) { return Json(m.PP2Gefasst); }},
+        {"PP5Gefasst", [](MainForm& m) { return Json(m.PP5Gefasst); }},
+        {"PP6Gefasst", [](MainForm& m) { return Json(m.PP6Gefasst); }},
+        {"ended", [](MainForm& m) { return Json(m.ended); }},
+        {"ZurueckVomDialog", [](MainForm& m) { return Json(m.shared.ZurueckVomDialog); }},
+        {"DialogMode", [](MainForm& m) { return Json(m.shared.DialogMode); }},
+        {"OptionenSignal", [](MainForm& m) { return Json(m.shared.OptionenSignal); }},
+        {"ProjektArt", [](MainForm& m) { return Json(m.shared.ProjektArt); }},
+        {"DataFolder", [](MainForm& m) { return Json(m.Files().DataFolder().string()); }},
+        {"ProjectFolder", [](MainForm& m) { return Json(m.shared.ProjectFolder); }},
+        {"LanguageTag", [](MainForm& m) { return Json(m.shared.LanguageTag); }},
+        {"CurrencyTag", [](MainForm& m) { return Json(m.shared.CurrencyTag); }},
+        {"PrintFontName", [](MainForm& m) { return Json(m.shared.PrintFontName); }},
+        {"UserCompany", [](MainForm& m) { return Json(m.shared.UserCompany); }},
+        {"HeaderStyle", [](MainForm& m) { return Json(m.shared.HeaderStyle); }},
+        {"SkinNumber", [](MainForm& m) { return Json(m.shared.SkinNumber); }},
+        {"LogoFile", [](MainForm& m) { return Json(m.shared.LogoFile); }},
+        {"DateFormatCode", [](MainForm& m) { return Json(m.shared.DateFormatCode); }},
+        {"LabelFontSize", [](MainForm& m) { return Json(m.shared.LabelFontSize); }},
+        {"PaperSize", [](MainForm& m) { return Json(m.shared.PaperSize); }},
+        {"PaperOrientation", [](MainForm& m) { return Json(m.shared.PaperOrientation); }},
+        {"VersionText", [](MainForm& m) { return Json(m.shared.VersionText); }},
+        {"AppTitle", [](MainForm& m) { return Json(m.shared.AppTitle); }},
+        {"ModuleTag", [](MainForm& m) { return Json(m.shared.ModuleTag); }},
+        {"MainsFrequency", [](MainForm& m) { return Json(m.shared.MainsFrequency); }},
+        {"AuswahlLeistung", [](MainForm& m) { return Json(m.shared.AuswahlLeistung); }},
+        {"AuswahlLuftstrom", [](MainForm& m) { return Json(m.shared.AuswahlLuftstrom); }},
+    };
+    return values;
+}
+
+const std::vector<ProgramValue>& ChartValues() {
+    static const std::vector<ProgramValue> values = {
+        {"MassstabX", [](MainForm& m) { return Json(m.chart.scale.MassstabX); }},
+        {"MassstabT", [](MainForm& m) { return Json(m.chart.scale.MassstabT); }},
+        {"NullpunktX", [](MainForm& m) { return Json(m.chart.scale.NullpunktX); }},
+        {"NullpunktY", [](MainForm& m) { return Json(m.chart.scale.NullpunktY); }},
+        {"VersatzX", [](MainForm& m) { return Json(m.chart.scale.VersatzX); }},
+        {"VersatzT", [](MainForm& m) { return Json(m.chart.scale.VersatzT); }},
+        {"CarrierFaktor", [](MainForm& m) { return Json(m.chart.scale.CarrierFaktor); }},
+        {"spanT", [](MainForm& m) { return Json(m.chart.scale.spanT); }},
+        {"spanX", [](MainForm& m) { return Json(m.chart.scale.spanX); }},
+        {"BreiteLogisch", [](MainForm& m) { return Json(m.chart.BreiteLogisch); }},
+        {"HoeheLogisch", [](MainForm& m) { return Json(m.chart.HoeheLogisch); }},
+        {"DiagrammArt", [](MainForm& m) { return Json(m.chart.settings.DiagrammArt); }},
+        {"Helligkeit", [](MainForm& m) { return Json(m.chart.settings.Helligkeit); }},
+        {"ChartTMin", [](MainForm& m) { return Json(m.chart.settings.ChartTMin); }},
+        {"ChartTMax", [](MainForm& m) { return Json(m.chart.settings.ChartTMax); }},
+        {"ChartXMin", [](MainForm& m) { return Json(m.chart.settings.ChartXMin); }},
+        {"ChartXMax", [](MainForm& m) { return Json(m.chart.settings.ChartXMax); }},
+        {"ChartDruckBar", [](MainForm& m) { return Json(m.solver.ChartDruckBar); }},
+        {"LetzterDruckBar", [](MainForm& m) { return Json(m.solver.LetzterDruckBar); }},
+        {"ZustandX", [](MainForm& m) { return Json(m.solver.ZustandX); }},
+        {"ZustandH", [](MainForm& m) { return Json(m.solver.ZustandH); }},
+        {"ZustandHLuft", [](MainForm& m) { return Json(m.solver.ZustandHLuft); }},
+        {"ZustandPLuft", [](MainForm& m) { return Json(m.solver.ZustandPLuft); }},
+        {"ZustandPDampf", [](MainForm& m) { return Json(m.solver.ZustandPDampf); }},
+        {"ZustandDichte", [](MainForm& m) { return Json(m.solver.ZustandDichte); }},
+        {"ZustandDichteTrocken", [](MainForm& m) { return Json(m.solver.ZustandDichteTrocken); }},
+        {"SiedeTempK", [](MainForm& m) { return Json(m.solver.SiedeTempK); }},
+    };
+    return values;
+}
+
+const std::vector<ProgramValue>& ProcessValues() {
+    static const std::vector<ProgramValue> values = {
+        {"ZustandX1", [](MainForm& m) { return Json(m.point_panel.ZustandX1); }},
+        {"ZustandX2", [](MainForm& m) { return Json(m.point_panel.ZustandX2); }},
+        {"LuftSchritt1", [](MainForm& m) { return Json(m.point_panel.LuftSchritt1); }},
+        {"LuftSchritt2", [](MainForm& m) { return Json(m.point_panel.LuftSchritt2); }},
+        {"AnlageZweig", [](MainForm& m) { return Json(m.plant_panel.AnlageZweig); }},
+        {"MischTemp", [](MainForm& m) { return Json(m.figures.MischTemp); }},
+        {"MischX", [](MainForm& m) { return Json(m.figures.MischX); }},
+        {"KuehlLeistText", [](MainForm& m) { return Json(m.figures.KuehlLeistText); }},
+        {"GesamtLeist", [](MainForm& m) { return Json(m.figures.GesamtLeist); }},
+        {"LatentLeist", [](MainForm& m) { return Json(m.figures.LatentLeist); }},
+        {"SensibelLeist", [](MainForm& m) { return Json(m.figures.SensibelLeist); }},
+        {"KondensatWasser", [](MainForm& m) { return Json(m.figures.KondensatWasser); }},
+        {"BefeuchterLeist", [](MainForm& m) { return Json(m.figures.BefeuchterLeist); }},
+        {"HeizLeist", [](MainForm& m) { return Json(m.figures.HeizLeist); }},
+        {"RaumWasser", [](MainForm& m) { return Json(m.figures.RaumWasser); }},
+    };
+    return values;
+}
+
+const std::vector<const std::vector<ProgramValue>*>& AllValues() {
+    static const std::vector<const std::vector<ProgramValue>*> all = {&ModeValues(), &ChartValues(),
+                                                                      &ProcessValues()};
+    return all;
+}
+
+void AddPlace(const Panel& panel, Json& json) {
+    json["left"] = panel.left;
+    json["top"] = panel.top;
+    json["width"] = panel.width;
+    json["height"] = panel.height;
+}
+
+void AddScrollBar(const ScrollBar& bar, Json& json) {
+    json["value"] = bar.Position();
+    json["min"] = bar.LowEnd();
+    json["max"] = bar.HighEnd();
+}
+
+void AddMark(const Mark& mark, Json& json) {
+    json["left"] = mark.left;
+    json["top"] = mark.top;
+    json["width"] = mark.width;
+    json["height"] = mark.height;
+    json["shape"] = mark.shape;
+    json["colour"] = mark.colour;
+}
+
+void AddLine(const ChartLine& line, Json& json) {
+    json["x1"] = line.x1;
+    json["y1"] = line.y1;
+    json["x2"] = line.x2;
+    json["y2"] = line.y2;
+    json["colour"] = line.colour;
+}
+
+void AddChartLabel(const ChartLabel& label, Json& json) {
+    json["text"] = label.text;
+    json["left"] = label.left;
+    json["top"] = label.top;
+    json["colour"] = label.colour;
+}
+
+void AddOwn(const Control& control, Json& json) {
+    switch (control.kind) {
+        case ControlKind::OptionButton:
+            json["text"] = control.text;
+            json["value"] = static_cast<const OptionButton&>(control).on;
+            break;
+        case ControlKind::CheckBox:
+            json["text"] = control.text;
+            json["value"] = static_cast<const CheckBox&>(control).on;
+            break;
+        case ControlKind::Panel:
+        case ControlKind::Picture:
+            AddPlace(static_cast<const Panel&>(control), json);
+            break;
+        case ControlKind::ScrollBar:
+            AddScrollBar(static_cast<const ScrollBar&>(control), json);
+            break;
+        case ControlKind::Mark:
+            AddMark(static_cast<const Mark&>(control), json);
+            break;
+        case ControlKind::Line:
+            AddLine(static_cast<const ChartLine&>(control), json);
+            break;
+        case ControlKind::ChartLabel:
+            AddChartLabel(static_cast<const ChartLabel&>(control), json);
+            break;
+        case ControlKind::Label:
+        case ControlKind::TextField:
+        case ControlKind::Button:
+        case ControlKind::MenuEntry:
+            json["text"] = control.text;
+            break;
+    }
+}
+
+Json DumpControl(const Control& control) {
+    Json json;
+    json["kind"] = KindWord(control.kind);
+    AddOwn(control, json);
+    json["visible"] = control.visible;
+    json["enabled"] = control.enabled;
+    if (control.foreground) json["foreground"] = *control.foreground;
+    if (control.background) json["background"] = *control.background;
+    if (!control.tool_tip.empty()) json["tool_tip"] = control.tool_tip;
+    return json;
+}
+
+}  // namespace
+
+std::vector<ModalForm*> WindowsOf(MainForm& main) { return {&main.options}; }
+
+Json DumpForm(MainForm& main) {
+    Json json = Json::object();
+    for (const Control* control : main.form.Controls()) {
+        json[std::string(control->name)] = DumpControl(*control);
+    }
+    for (const auto* values : AllValues()) {
+        for (const auto& value : *values) json[std::string(value.name)] = value.value(main);
+    }
+    for (ModalForm* window : WindowsOf(main)) {
+        if (window->closed) continue;
+        for (const Control* control : window->form.Controls()) {
+            json[window->form.Name() + "." + std::string(control->name)] = DumpControl(*control);
+        }
+    }
+    return json;
+}
+
+Json DumpOne(MainForm& main, std::string_view name) {
+    if (const Control* control = main.form.Find(name)) return DumpControl(*control);
+    for (const auto* values : AllValues()) {
+        for (const auto& value : *values) {
+            if (value.name == name) return value.value(main);
+        }
+    }
+    const auto dot = name.find('.');
+    if (dot == std::string_view::npos) return {};
+    for (ModalForm* window : WindowsOf(main)) {
+        if (window->form.Name() != name.substr(0, dot)) continue;
+        if (const Control* control = window->form.Find(name.substr(dot + 1))) {
+            return DumpControl(*control);
+        }
+    }
+    return {};
+}
+
+}  // namespace zandrell

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/main_form.h"
+
+namespace zandrell {
+
+// Carries out one act a line on the main form, or on the window that is open, as a user would.
+class FormScript {
+  public:
+    // Dumps go to `dumps`. Both outlive the script.
+    FormScript(MainForm& form, std::ostream& dumps) : form_(form), dumps_(dumps) {}
+
+    // False when the line cannot be understood, with the reason. Blank lines and comments do
+    // nothing.
+    bool RunLine(std::string_view line, std::string& error);
+
+    // What opened since the last dump.
+    void NoteMessage(const Message& message) { opened_.push_back(message); }
+    // A window is open until WindowClosed; meanwhile the main form takes no input.
+    void WindowOpened(ModalForm& window);
+    void WindowClosed() { window_ = nullptr; }
+
+    // Answers that are waiting for the next dialog or message; empty when there is none.
+    std::string TakeAnswer();
+
+  private:
+    struct Target {
+        WindowForm* window = nullptr;
+        std::string control;
+    };
+    using Words = std::vector<std::string>;
+
+    bool RunWindowAct(const Words& words, std::string& error);
+    bool RunControlAct(const std::string& act, const std::string& name, const std::string& value,
+                       std::string& error);
+    bool RunPointer(const Words& words, std::string& error);
+    bool RunKey(const Target& target, const std::string& key, std::string& error);
+    bool Find(const std::string& name, Target& target, std::string& error);
+    bool Dump(const Words& words, std::string& error);
+
+    MainForm& form_;
+    std::ostream& dumps_;
+    ModalForm* window_ = nullptr;
+    std::vector<Message> opened_;
+    std::vector<std::string> answers_;
+};
+
+// Of the main window, in device-independent pixels.
+struct WindowSize {
+    int width = 1280;
+    int height = 800;
+};
+
+// Runs a whole script and answers for the user on the way: a window that opens takes the following
+// lines until it closes.
+class ScriptedUser : public UserInterface {
+  public:
+    ScriptedUser(std::istream& script, std::ostream& dumps) : script_(script), dumps_(dumps) {}
+
+    // Starts the form like the program (load, resize, activate) and runs the script. False on the
+    // first line that cannot be carried out; `error` says which and why.
+    bool Run(MainForm& form, std::string& error, WindowSize size = {});
+
+    void ShowMessage(const Message& message) override;
+    void ShowModal(ModalForm& window) override;
+    void WaitMilliseconds(int /*milliseconds*/) override {}
+    void CopyChart(MainForm& /*form*/) override {}
+    bool ChoosePrinter(const std::string& title) override;
+
+  private:
+    bool RunNextLine();
+
+    std::istream& script_;
+    std::ostream& dumps_;
+    FormScript* acts_ = nullptr;
+    int line_number_ = 0;
+    std::string error_;
+};
+
+}  // namespace zandrell

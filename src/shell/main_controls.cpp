@@ -1,0 +1,34 @@
+#include "shell/main_controls.h"
+
+namespace zandrell {
+
+MainControls::MainControls() {
+    ZOOMMIN.visible = false;
+    Shape3.visible = false;
+    // Projects and printing are not built yet: what leads to them is off.
+    for (MenuEntry* entry : {&NeuPro, &ProLad, &ProSpeich, &ProSpeichU, &PrinterSetup}) {
+        entry->enabled = false;
+    }
+    for (Button* button : {&druckbutt.picture, &druckbutt.caption, &mPributt, &mPributt_2}) {
+        button->enabled = false;
+    }
+}
+
+std::array<ToolButton*, 8> MainControls::ToolButtons() {
+    return {&optButt, &ZAButt, &MischButt, &BearButt, &AnlageButt, &druckbutt, &PSButt, &PLbutt};
+}
+
+void MainControls::ListControls(Form& form) {
+    form.Add({&FunktButtPn});
+    for (ToolButton* button : ToolButtons()) form.Add({&button->picture, &button->caption});
+    form.Add({&ZOOMMIN, &mPributt, &mPributt_2, &Command3D7, &Command3D2});
+    form.Add({&Label24, &Label25, &Proj_T, &Schr_T});
+    form.Add({&temperature_word, &humidity_word, &ratio_word, &enthalpy_word, &density_word,
+              &vapour_word, &pressure_word, &Label7, &Label19, &Shape3});
+    form.Add({&proj, &NeuPro, &ProLad, &ProSpeich, &ProSpeichU, &PrinterSetup, &Ende});
+    form.Add({&Opt, &qveinst, &wrgEinst});
+    form.Add({&Bearb, &ZustAe, &Misch, &Kleis, &AnlageS, &Leist_Ber, &Heiz_start, &Kuehl_start,
+              &Humid_W_Start, &Humid_D_Start, &kopieren, &Hsich, &Hlad});
+}
+
+}  // namespace zandrell

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+
+#include "forms/control.h"
+#include "forms/form.h"
+
+namespace zandrell {
+
+// A tool button: a picture and the caption that lies on it. A click on either does the same.
+struct ToolButton {
+    Button picture;
+    Button caption;
+};
+
+// The controls of the main window beside its chart and its two floating panels.
+struct MainControls {
+    Panel FunktButtPn{"FunktButtPn"};
+    ToolButton optButt{Button{"optButt", "STcap.bmp"}, Button{"optButt_l"}};
+    ToolButton ZAButt{Button{"ZAButt", "ZAcap.bmp"}, Button{"ZAButt_l"}};
+    ToolButton MischButt{Button{"MischButt", "ZAMcap.bmp"}, Button{"MischButt_l"}};
+    ToolButton BearButt{Button{"BearButt", "ZALcap.bmp"}, Button{"BearButt_l"}};
+    ToolButton AnlageButt{Button{"AnlageButt", "KLcap.bmp"}, Button{"AnlageButt_l"}};
+    ToolButton druckbutt{Button{"druckbutt", "Prcap.bmp"}, Button{"druckbutt_l"}};
+    ToolButton PSButt{Button{"PSButt", "PScap.bmp"}, Button{"PSButt_l"}};
+    ToolButton PLbutt{Button{"PLbutt", "Plcap.bmp"}, Button{"PLbutt_l"}};
+    Button ZOOMMIN{"ZOOMMIN", "Zoomcap.bmp"};
+    Button mPributt{"mPributt", "mprcap.bmp"}, mPributt_2{"mPributt_2", "mprcap.bmp"};
+    Button Command3D7{"Command3D7", "OKcap.bmp"}, Command3D2{"Command3D2", "abcap.bmp"};
+
+    // The project's two texts, below the tool buttons.
+    Label Label24{"Label24"}, Label25{"Label25"};
+    TextField Proj_T{"Proj_T"}, Schr_T{"Schr_T"};
+    // Words of the read-out panel, in the order of its figures.
+    Label temperature_word{"TempLabel"}, humidity_word{"relFLabel"}, ratio_word{"absFLabel"},
+        enthalpy_word{"EnthLLabel"}, density_word{"DichtLLabel"}, vapour_word{"DampfDSLabel"},
+        pressure_word{"AbsDruckLabel"};
+    // Heading of the read-out panel (always white) and the vendor line, never bold.
+    Label Label7{"Label7"}, Label19{"Label19"};
+    Panel Shape3{"Shape3"};  // outline of a panel that is being dragged
+
+    MenuEntry proj{"proj"}, NeuPro{"NeuPro"}, ProLad{"ProLad"}, ProSpeich{"ProSpeich"},
+        ProSpeichU{"ProSpeichU"}, PrinterSetup{"PrinterSetup"}, Ende{"Ende"};
+    MenuEntry Opt{"Opt"}, qveinst{"qveinst"}, wrgEinst{"wrgEinst"};
+    MenuEntry Bearb{"Bearb"}, ZustAe{"ZustAe"}, Misch{"Misch"}, Kleis{"Kleis"}, AnlageS{"AnlageS"},
+        Leist_Ber{"Leist_Ber"}, Heiz_start{"Heiz_start"}, Kuehl_start{"Kuehl_start"},
+        Humid_W_Start{"Humid_W_Start"}, Humid_D_Start{"Humid_D_Start"}, kopieren{"kopieren"},
+        Hsich{"Hsich"}, Hlad{"Hlad"};
+
+    MainControls();
+    std::array<ToolButton*, 8> ToolButtons();
+    void ListControls(Form& form);
+};
+
+// Which entries stand in which menu; an entry with entries of its own opens a menu.
+struct MenuBranch {
+    std::string_view entry;
+    std::string_view parent;  // empty: in the menu bar
+};
+inline constexpr std::array<MenuBranch, 23> kMenuTree = {{
+    {"proj", ""},
+    {"NeuPro", "proj"},
+    {"ProLad", "proj"},
+    {"ProSpeich", "proj"},
+    {"ProSpeichU", "proj"},
+    {"PrinterSetup", "proj"},
+    {"Ende", "proj"},
+    {"Opt", ""},
+    {"qveinst", "Opt"},
+    {"wrgEinst", "Opt"},
+    {"Bearb", ""},
+    {"ZustAe", "Bearb"},
+    {"Misch", "Bearb"},
+    {"Kleis", "Bearb"},
+    {"AnlageS", "Bearb"},
+    {"Leist_Ber", "Bearb"},
+    {"Heiz_start", "Leist_Ber"},
+    {"Kuehl_start", "Leist_Ber"},
+    {"Humid_W_Start", "Leist_Ber"},
+    {"Humid_D_Start", "Leist_Ber"},
+    {"kopieren", "Bearb"},
+    {"Hsich", ""},
+    {"Hlad", ""},
+}};
+
+}  // namespace zandrell

@@ -1,0 +1,168 @@
+#include "shell/options_form.h"
+
+#include <cmath>
+
+#include "base/number_text.h"
+#include "base/unit_texts.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kLowestHeight = -200, kHighestHeight = 3000;  // m, both exclusive
+constexpr int kOptionsTaken = 77, kOptionsCancelled = 88;
+
+// Air pressure in bar at a height in m above sea level: the standard atmosphere with its surface at
+// 15 degC and 1.013 bar.
+double PressureAtHeight(double height_m) {
+    return 0.0005 + 1.013 * std::pow(1 - 0.0065 * height_m / 288, 5.255);
+}
+
+}  // namespace
+
+OptionsForm::OptionsForm(const DataFiles& files, SharedValues& shared, const Captions& captions,
+                         StateSolver& solver, UserInterface& user)
+    : ModalForm("qvopt"),
+      files_(files),
+      shared_(shared),
+      captions_(captions),
+      solver_(solver),
+      user_(user) {
+    cancel_control = Command3D5.name;
+    default_control = Command3D1.name;
+    ListControls();
+    BindActs();
+}
+
+void OptionsForm::ListControls() {
+    form.Add({&OptPNUeb, &absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi});
+    form.Add({&pressure_label, &height_label, &tmin_label, &tmax_label, &xmin_label, &xmax_label});
+    form.Add({&Option3d1, &Option3d2, &Black, &white, &Panel3D12, &Panel3D13});
+    form.Add({&Command3D1, &Command3D1_l, &Command3D5, &Command3D5_l});
+}
+
+void OptionsForm::BindActs() {
+    acts.Add(geoH.name, ActKind::Return, [this] { TakeHeight(); });
+    acts.Add(qvtmaxi.name, ActKind::Return, [this] { FeuchteGrenze(true); });
+    acts.Add(Option3d1.name, ActKind::Choose, [this] { Choose(Option3d1, Option3d2); });
+    acts.Add(Option3d2.name, ActKind::Choose, [this] { Choose(Option3d2, Option3d1); });
+    acts.Add(Black.name, ActKind::Choose, [this] { Choose(Black, white); });
+    acts.Add(white.name, ActKind::Choose, [this] { Choose(white, Black); });
+    acts.Add(Panel3D12.name, ActKind::Click, [this] { Choose(Black, white); });
+    acts.Add(Panel3D13.name, ActKind::Click, [this] { Choose(white, Black); });
+    for (const auto* button : {&Command3D1, &Command3D1_l}) {
+        acts.Add(button->name, ActKind::Click, [this] { Opt_speich(); });
+    }
+    for (const auto* button : {&Command3D5, &Command3D5_l}) {
+        acts.Add(button->name, ActKind::Click, [this] {
+            shared_.OptionenSignal = kOptionsCancelled;
+            closed = true;
+        });
+    }
+}
+
+void OptionsForm::SetCaptions() {
+    const auto& words = captions_.CaptionList;
+    const std::string& temperature = words[171];
+    const std::string& humidity = captions_.QVCaptList[1];
+    title = words[63] + " " + shared_.AppTitle + " " + shared_.VersionText + " " + words[180];
+    OptPNUeb.text = title + " :";
+    Option3d1.text = "Mollier ";
+    Option3d2.text = "Carrier ";
+    Black.text = words[107];
+    white.text = words[108];
+    pressure_label.text = words[172] + " /[" + std::string(UnitBar) + "]:";
+    height_label.text = captions_.QVCaptList[8] + " /[" + std::string(UnitM) + "]:";
+    tmin_label.text = temperature + " min. :";
+    tmax_label.text = temperature + " max. :";
+    xmin_label.text = humidity + " min. :";
+    xmax_label.text = humidity + " max. :";
+    Command3D1_l.text = "O.K.";
+    Command3D5_l.text = words[35];
+    for (auto* panel : {&Panel3D12, &Panel3D13}) panel->tool_tip = words[106];
+}
+
+void OptionsForm::Open() {
+    closed = false;
+    SetCaptions();
+    ChartSettings settings;
+    ReadChartSettings(files_, settings);
+    absD.text = NumberText(settings.pressure_bar);
+    geoH.text = NumberText(settings.site_height_m);
+    qvTmind.text = NumberText(settings.ChartTMin);
+    qvtmaxi.text = NumberText(settings.ChartTMax);
+    Xmini.text = NumberText(settings.ChartXMin);
+    Xmaxi.text = NumberText(settings.ChartXMax);
+    if (settings.DiagrammArt == kMollier) {
+        Choose(Option3d1, Option3d2);
+    } else {
+        Choose(Option3d2, Option3d1);
+    }
+    if (settings.Helligkeit == kWhiteGround) {
+        Choose(white, Black);
+    } else {
+        Choose(Black, white);
+    }
+}
+
+void OptionsForm::TakeHeight() {
+    const double height = ParsedNumber(geoH.text);
+    if (!(height > kLowestHeight && height < kHighestHeight)) return;
+    absD.text = NumberText(Cut(PressureAtHeight(height), 1000));
+}
+
+int OptionsForm::FeuchteGrenze(bool write_field) {
+    const double t = ParsedNumber(qvtmaxi.text);
+    if (!solver_.Evaluate(1, t) || !(solver_.ZustandX > 0)) return 0;
+    const double limit = 1.1 * solver_.ZustandX;
+    const double digit_factor = limit < 10 ? 10 : 1;
+    if (const double shown = Cut(limit, digit_factor); write_field && std::isfinite(shown)) {
+        Xmaxi.text = NumberText(shown);
+    }
+    const double whole = std::floor(limit);
+    return whole < 1e9 ? static_cast<int>(whole) : 0;
+}
+
+bool OptionsForm::PassesTests(const ChartSettings& typed) {
+    const std::string& temperature = captions_.CaptionList[171];
+    const std::string& humidity = captions_.QVCaptList[1];
+    const auto complain = [this](const std::string& text) {
+        user_.ShowMessage({shared_.AppTitle, text, MessageIcon::Stop});
+    };
+    if (typed.ChartTMin < -50) complain(temperature + " minimal  < -50°C !");
+    if (typed.ChartTMin > 0) complain(temperature + " minimal  > 0°C !");
+    if (typed.ChartTMax < 25) complain(temperature + " maximal  < 25°C !");
+    if (typed.ChartTMax > 100) complain(temperature + " maximal  > 100°C !");
+    if (typed.ChartXMin < 0) complain(humidity + " minimal < 0 g/kg !");
+    // Up to 120 degC the values are taken in spite of the message at 100: the limits differ on
+    // purpose.
+    return typed.ChartTMin >= -50 && typed.ChartTMin <= 0 && typed.ChartTMax >= 25 &&
+           typed.ChartTMax <= 120 && typed.ChartXMin >= 0;
+}
+
+void OptionsForm::Opt_speich() {
+    ChartSettings typed;
+    typed.pressure_bar = ParsedNumber(absD.text);
+    typed.ChartTMin = ParsedNumber(qvTmind.text);
+    typed.ChartTMax = ParsedNumber(qvtmaxi.text);
+    typed.ChartXMin = ParsedNumber(Xmini.text);
+    typed.ChartXMax = ParsedNumber(Xmaxi.text);
+    typed.site_height_m = ParsedNumber(geoH.text);
+    // The range spans at least a tenth of the humidity that tmax can hold; the field is not
+    // rewritten.
+    const double least = FeuchteGrenze(false) / 10.0;
+    if (typed.ChartXMax < least) typed.ChartXMax = least;
+    typed.DiagrammArt = Option3d2.on ? kCarrier : kMollier;
+    if (!PassesTests(typed)) return;
+    typed.Helligkeit = white.on ? kWhiteGround : kBlackGround;
+    const FileStatus status = WriteChartSettings(files_, typed);
+    if (status != FileStatus::Ok) {
+        const std::string path = files_.Resolve("qv_par.dat").string();
+        user_.ShowMessage(
+            {shared_.AppTitle, "Can not write file:   - " + path + " - ", MessageIcon::Stop});
+        return;
+    }
+    closed = true;
+    shared_.OptionenSignal = kOptionsTaken;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,66 @@
+#include "shell/window_form.h"
+
+namespace zandrell {
+namespace {
+
+bool TakesInput(const Control& control) { return control.visible && control.enabled; }
+
+bool IsButton(const Control& control) {
+    return control.kind == ControlKind::Button || control.kind == ControlKind::MenuEntry ||
+           control.kind == ControlKind::Panel || control.kind == ControlKind::Picture;
+}
+
+}  // namespace
+
+bool WindowForm::UserClick(std::string_view control_name) {
+    Control* control = form.Find(control_name);
+    if (control == nullptr || !IsButton(*control)) return false;
+    if (!TakesInput(*control)) return true;
+    auto* button = control->kind == ControlKind::Button ? static_cast<Button*>(control) : nullptr;
+    if (button != nullptr) button->pressed = true;
+    acts.Perform(control_name, ActKind::Press);
+    if (button != nullptr) button->pressed = false;
+    acts.Perform(control_name, ActKind::Release);
+    acts.Perform(control_name, ActKind::Click);
+    return true;
+}
+
+bool WindowForm::UserReturn(std::string_view field) {
+    Control* control = form.Find(field);
+    if (control == nullptr || control->kind != ControlKind::TextField) return false;
+    if (TakesInput(*control)) acts.Perform(field, ActKind::Return);
+    return true;
+}
+
+bool WindowForm::UserSetText(std::string_view field, std::string_view text) {
+    Control* control = form.Find(field);
+    if (control == nullptr || control->kind != ControlKind::TextField) return false;
+    if (TakesInput(*control)) control->text = text;
+    return true;
+}
+
+bool WindowForm::UserChoose(std::string_view option) {
+    Control* control = form.Find(option);
+    if (control == nullptr || control->kind != ControlKind::OptionButton) return false;
+    if (TakesInput(*control)) acts.Perform(option, ActKind::Choose);
+    return true;
+}
+
+bool WindowForm::UserCheck(std::string_view box, bool on) {
+    Control* control = form.Find(box);
+    if (control == nullptr || control->kind != ControlKind::CheckBox) return false;
+    if (TakesInput(*control)) {
+        static_cast<CheckBox*>(control)->on = on;
+        acts.Perform(box, ActKind::Check);
+    }
+    return true;
+}
+
+bool WindowForm::UserScroll(std::string_view bar, int position) {
+    Control* control = form.Find(bar);
+    if (control == nullptr || control->kind != ControlKind::ScrollBar) return false;
+    if (TakesInput(*control)) static_cast<ScrollBar*>(control)->SetPosition(position);
+    return true;
+}
+
+}  // namespace zandrell

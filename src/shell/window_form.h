@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/form.h"
+#include "forms/scroll_bar.h"
+#include "shell/act_table.h"
+
+namespace zandrell {
+
+// A window without a toolkit: its controls, what can be done to them, and its title.
+class WindowForm {
+  public:
+    explicit WindowForm(std::string_view window_name) : form(window_name) {}
+    virtual ~WindowForm() = default;
+    WindowForm(const WindowForm&) = delete;
+    WindowForm& operator=(const WindowForm&) = delete;
+
+    Form form;
+    ActTable acts;
+    std::string title;
+    // How the labels and button captions are written; a skin changes it.
+    bool bold_labels = false;
+    int label_font_size = 10;  // points
+
+    // The acts of a user. Each returns false when there is no such control of that kind. A control
+    // that is hidden or off takes no input: the act is passed over.
+    bool UserClick(std::string_view control);
+    bool UserReturn(std::string_view field);
+    bool UserSetText(std::string_view field, std::string_view text);
+    bool UserChoose(std::string_view option);
+    bool UserCheck(std::string_view box, bool on);
+    bool UserScroll(std::string_view bar, int position);
+};
+
+// A window that its opener waits for. It leaves by setting `closed`.
+class ModalForm : public WindowForm {
+  public:
+    using WindowForm::WindowForm;
+    bool closed = true;  // until its opener fills and shows it
+    // What closing the window by its frame or the Escape key stands for: a click on this control.
+    std::string_view cancel_control;
+    std::string_view default_control;  // Return outside a field with an act of its own
+};
+
+}  // namespace zandrell

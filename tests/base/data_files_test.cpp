@@ -1,0 +1,122 @@
+#include "base/data_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "base/captions.h"
+#include "support/test_folder.h"
+
+namespace zandrell {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(DataFiles, ABareNameIsLookedUpInTheDataFolderWithoutRegardToCase) {
+    const TestFolder folder;
+    folder.Write("KParam.DAT", "x");
+    const DataFiles files(folder.Path());
+    EXPECT_EQ(files.OpenForInput("kparam.dat").text, "x");
+    EXPECT_EQ(files.Resolve("new.dat"), folder / "new.dat");
+    EXPECT_EQ(files.Resolve("sub/a.dat"), fs::path("sub/a.dat"));
+    EXPECT_EQ(files.Resolve("sub\\a.dat"), fs::path("sub/a.dat"));
+    EXPECT_EQ(files.OpenForOutput("KPARAM.dat", "y"), FileStatus::Ok);
+    EXPECT_EQ(folder.Read("KParam.DAT"), "y") << "the file keeps its spelling";
+}
+
+TEST(DataFiles, EachFailureIsToldApart) {
+    const TestFolder folder;
+    const DataFiles files(folder.Path());
+    fs::create_directory(folder / "folder.dat");
+    ASSERT_EQ(::mkfifo((folder / "pipe.dat").c_str(), 0644), 0);
+    folder.Write("huge.dat", "");
+    fs::resize_file(folder / "huge.dat", 100U << 20U);
+    const struct {
+        const char* name;
+        FileStatus status;
+    } cases[] = {{"none.dat", FileStatus::Missing},
+                 {"folder.dat", FileStatus::Unreadable},
+                 {"pipe.dat", FileStatus::Unreadable},
+                 {"huge.dat", FileStatus::Malformed}};
+    for (const auto& c : cases) {
+        const FileText file = files.OpenForInput(c.name);
+        EXPECT_EQ(file.status, c.status) << c.name;
+        EXPECT_TRUE(file.text.empty());
+    }
+    EXPECT_EQ(files.OpenForOutput("folder.dat", "x"), FileStatus::Unreadable);
+    EXPECT_EQ(DataFiles(folder / "gone").OpenForOutput("a.dat", "x"), FileStatus::Unreadable);
+}
+
+TEST(DataFiles, AReadOnlyFileIsReplacedAndWritableAfterwards) {
+    const TestFolder folder;
+    folder.Write("a.dat", "old");
+    ASSERT_EQ(::chmod((folder / "a.dat").c_str(), 0444), 0);
+    const DataFiles files(folder.Path());
+    EXPECT_EQ(files.OpenForOutput("a.dat", "new Kühler"), FileStatus::Ok);
+    EXPECT_EQ(folder.Read("a.dat"), "new K\xFChler");
+    EXPECT_EQ(::access((folder / "a.dat").c_str(), W_OK), 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1)
+        << "nothing left beside it";
+    EXPECT_FALSE(DataFiles::ClearReadOnly(folder / "none.dat"));
+}
+
+TEST(DataFiles, ALinkedFileStaysALink) {
+    const TestFolder folder;
+    folder.Write("real.dat", "old");
+    fs::create_symlink(folder / "real.dat", folder / "link.dat");
+    EXPECT_EQ(DataFiles(folder.Path()).OpenForOutput("link.dat", "new"), FileStatus::Ok);
+    EXPECT_TRUE(fs::is_symlink(folder / "link.dat"));
+    EXPECT_EQ(folder.Read("real.dat"), "new");
+}
+
+TEST(DataFiles, RecordsAreNumberedFromOne) {
+    const TestFolder folder;
+    folder.Write("r.dat", "abcdefgh");
+    const DataFiles files(folder.Path());
+    const RecordFile file = files.OpenRandom("r.dat", 3);
+    EXPECT_EQ(file.Record(1), "abc");
+    EXPECT_EQ(file.Record(3), "gh");
+    EXPECT_EQ(file.Record(0), "");
+    EXPECT_EQ(file.Record(4), "");
+    EXPECT_EQ(files.OpenRandom("none.dat", 3).Status(), FileStatus::Missing);
+    EXPECT_FALSE(fs::exists(folder / "none.dat"));
+}
+
+TEST(DataFiles, AFailedDeleteWarnsOnceARun) {
+    const TestFolder folder;
+    DataFiles files(folder.Path());
+    Captions captions;
+    captions.CaptionList[269] = "Failure";
+    captions.CaptionList[272] = "Help";
+    std::vector<std::string> warnings;
+    const auto warn = [&](const std::string& text) { warnings.push_back(text); };
+    files.DeleteDataFile("none.dat", captions, warn);
+    folder.Write("a.dat", "x");
+    files.DeleteDataFile("A.dat", captions, warn);
+    EXPECT_FALSE(fs::exists(folder / "a.dat"));
+    EXPECT_TRUE(warnings.empty());
+    // A folder that is not empty cannot be removed; for root nothing else resists.
+    fs::create_directory(folder / "b.dat");
+    files.DeleteDataFile("b.dat", captions, warn);
+    EXPECT_TRUE(warnings.empty()) << "what has no length counts as deleted";
+}
+
+TEST(Captions, AShortFileLeavesTheRestEmptyAndTheFixedWordsStand) {
+    const TestFolder folder;
+    folder.Write("Caption.DEU", "\"skipped\"\r\n\"two, with comma\"\r\nK\xFChler  \r\n");
+    const DataFiles files(folder.Path());
+    Captions captions;
+    captions.CaptionList[5] = "left over";
+    LoadCaptions(files, "DEU", captions);
+    EXPECT_EQ(captions.CaptionList[1], "");
+    EXPECT_EQ(captions.CaptionList[2], "two, with comma");
+    EXPECT_EQ(captions.CaptionList[3], "Kühler");
+    EXPECT_EQ(captions.CaptionList[5], "");
+    EXPECT_EQ(captions.CaptionList[312], "Transkritisch");
+    EXPECT_EQ(captions.CaptionList[313], "Booster");
+    LoadQVCaptions(files, "DEU", captions);
+    EXPECT_EQ(captions.heat_recovery_words[0], "Wärmerückgewinnung");
+}
+
+}  // namespace
+}  // namespace zandrell

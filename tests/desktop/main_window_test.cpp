@@ -1,0 +1,148 @@
+#include <QPushButton>
+#include <QSlider>
+#include <fstream>
+
+#include "desktop/script_runner.h"
+#include "desktop/window_session.h"
+
+namespace zandrell {
+namespace {
+
+class MainWindowTest : public WindowSession {
+  protected:
+    // The capacity panel with two states typed in.
+    void OpenCapacity() {
+        Click(*Find<QPushButton>("BearButt"));
+        struct {
+            const char *name, *text;
+        } const inputs[] = {
+            {"Temp1", "32"}, {"relF1", "40"}, {"Temp2", "22"}, {"relF2", "50"}, {"LuftM1", "1000"}};
+        for (const auto& input : inputs) {
+            auto* field = Find<QLineEdit>(input.name);
+            Type(*field, input.text);
+            Key(*field, Qt::Key_Return);
+        }
+    }
+
+    void OpenPlant() {
+        Click(*Find<QPushButton>("AnlageButt"));
+        struct {
+            const char *name, *text;
+        } const inputs[] = {{"tabLuft", "24"},   {"PHIAbluft", "50"}, {"Taus", "32"},
+                            {"PhiAussen", "40"}, {"TZuluft", "18"},   {"PHIZuluft", "50"},
+                            {"tKA", "12"},       {"phiKanal", "95"},  {"vhAnlage", "10000"},
+                            {"aussenAnt", "1"},  {"dtVent1", "1"},    {"dtVent2", "1"}};
+        for (const auto& input : inputs) Type(*Find<QLineEdit>(input.name), input.text);
+        Key(*Find<QLineEdit>("vhAnlage"), Qt::Key_Return);
+    }
+};
+
+TEST_F(MainWindowTest, ToolButtonOpensItsPanel) {
+    EXPECT_FALSE(Find<QWidget>("Anlage1PN")->isVisible());
+    Click(*Find<QPushButton>("BearButt"));
+    EXPECT_EQ(form_.Rechenmodus, kCapacity);
+    EXPECT_TRUE(Find<QWidget>("Anlage1PN")->isVisible());
+    Key(*Find<QLineEdit>("Temp1"), Qt::Key_Escape);
+    EXPECT_FALSE(Find<QWidget>("Anlage1PN")->isVisible());
+    EXPECT_EQ(form_.PanelZustand, kIdle);
+}
+
+TEST_F(MainWindowTest, TypedTextAndReturnReachTheForm) {
+    OpenCapacity();
+    EXPECT_EQ(QString::fromStdString(form_.point_panel.Temp1.text).trimmed(), QStringLiteral("32"));
+    EXPECT_EQ(form_.point_panel.Tscroll1.Position(), 320);
+    // 11.91 g/kg: humid air of 32 degC and 40 % at 1.013 bar, as published tables have it (11.9).
+    EXPECT_EQ(Find<QLabel>("absF1")->text(), QStringLiteral("11.91"));
+    EXPECT_FALSE(Find<QLineEdit>("Kleist")->text().isEmpty());
+}
+
+TEST_F(MainWindowTest, EqualTextsAreNotRewritten) {
+    OpenCapacity();
+    auto* field = Find<QLineEdit>("Temp1");
+    field->setFocus();
+    field->setSelection(1, 1);
+    auto* bar = Find<QSlider>("FScroll2");
+    Key(*bar, Qt::Key_Right);
+    EXPECT_EQ(Find<QLineEdit>("relF2")->text(), QStringLiteral(" 50.1"));
+    // A text that is written again loses its selection.
+    EXPECT_EQ(field->selectedText(), field->text().mid(1, 1));
+}
+
+TEST_F(MainWindowTest, BarFollowsKeysAndTheFormsRefusal) {
+    OpenCapacity();
+    auto* bar = Find<QSlider>("Tscroll1");
+    EXPECT_EQ(bar->value(), 320);
+    Key(*bar, Qt::Key_PageUp);
+    EXPECT_EQ(form_.point_panel.Tscroll1.Position(), 330);
+    EXPECT_EQ(form_.point_panel.Temp1.text, " 33");
+    Key(*bar, Qt::Key_End);
+    // The chart ends at 40 degC; the field's bar follows only strictly inside the range.
+    EXPECT_EQ(bar->value(), form_.point_panel.Tscroll1.Position());
+    EXPECT_EQ(bar->maximum(), 400);
+}
+
+TEST_F(MainWindowTest, MarkIsCarriedFromTheRimOfItsRing) {
+    OpenPlant();
+    ChartWidget& chart = window_->Chart();
+    const QPointF centre = chart.ToWidget(form_.overlay.PP2.state);
+    // Five pixels aside is outside the box of canvas units that the form looks into.
+    Mouse(chart, QEvent::MouseButtonPress, centre + QPointF(5, 0));
+    ASSERT_EQ(form_.PP2Gefasst, 1);
+    Mouse(chart, QEvent::MouseMove, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
+    Mouse(chart, QEvent::MouseButtonPress, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
+    EXPECT_EQ(form_.PP2Gefasst, 0);
+    EXPECT_NEAR(Find<QLineEdit>("Taus")->text().toDouble(), 30, 0.11);
+}
+
+TEST_F(MainWindowTest, PanelIsDraggedByItsGroundAndStaysInside) {
+    OpenCapacity();
+    auto* panel = Find<QWidget>("Anlage1PN");
+    ChartWidget& chart = window_->Chart();
+    const QPoint before = panel->pos();
+    const QPointF grip(16, 16);
+    Mouse(*panel, QEvent::MouseButtonPress, grip);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_TRUE(form_.controls.Shape3.visible);
+    Mouse(chart, QEvent::MouseMove, panel->mapToParent(grip.toPoint()) - QPoint(200, 50));
+    Mouse(chart, QEvent::MouseButtonRelease, panel->mapToParent(grip.toPoint()) - QPoint(200, 50));
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_LE((panel->pos() - (before - QPoint(200, 50))).manhattanLength(), 2);
+    for (int step = 0; step < 200; ++step) {
+        Key(*panel, Qt::Key_Down, {}, Qt::ControlModifier);
+    }
+    EXPECT_LE(panel->geometry().bottom(), chart.height() + FloatingPanel::kShadow);
+}
+
+TEST_F(MainWindowTest, EveryControlThatTakesInputHasAName) {
+    OpenCapacity();
+    window_->Mirror().Click("Command3D4");
+    OpenPlant();
+    for (QWidget* widget : window_->findChildren<QWidget*>()) {
+        const bool takes_input = qobject_cast<QLineEdit*>(widget) ||
+                                 qobject_cast<QSlider*>(widget) ||
+                                 qobject_cast<QPushButton*>(widget);
+        if (!takes_input || widget->focusPolicy() == Qt::NoFocus) continue;
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(MainWindowTest, ScriptRunsThroughADialogAndTakesShots) {
+    const std::string script = (folder_ / "acts.txt").string();
+    const std::string shot = (folder_ / "options.png").string();
+    std::ofstream(script) << "# the options over the chart\n"
+                          << "click optButt\n"
+                          << "set qvopt.geoH 1000\n"
+                          << "return qvopt.geoH\n"
+                          << "shot " << shot << "\n"
+                          << "click qvopt.Command3D1\n";
+    ScriptRunner runner(form_, *window_, user_);
+    ASSERT_TRUE(runner.Start(script));
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(runner.Failed());
+    EXPECT_EQ(QImage(QString::fromStdString(shot)).size(), QSize(1280, 800));
+    // 0.0005 + 1.013 (1 - 6.5 / 288)^5.255 = 0.8989, cut to three figures.
+    EXPECT_DOUBLE_EQ(form_.chart.settings.pressure_bar, 0.898);
+}
+
+}  // namespace
+}  // namespace zandrell

@@ -1,0 +1,127 @@
+#include "painter/chart_file.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QSvgRenderer>
+
+#include "painter/chart_drawing.h"
+#include "support/test_folder.h"
+
+namespace zandrell {
+namespace {
+
+class ChartFileTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        static int count = 1;
+        static char name[] = "painter_test";
+        static char* arguments[] = {name, nullptr};
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static auto* const application = new QGuiApplication(count, arguments);
+        ASSERT_NE(application, nullptr);
+    }
+
+    ChartFileTest() {
+        picture_.Clear(kWhite, kBlack);
+        picture_.Line(30, 290, 2000, 290, kGrey);
+        for (int i = 0; i < 10; ++i) {
+            picture_.Line(100 * i, 580 - 5 * i * i, 100 * (i + 1), 580 - 5 * (i + 1) * (i + 1),
+                          kDarkRed);
+        }
+        picture_.Text(1000, 100, " 40 kJ/kg");
+        picture_.Text(1990, 100, "edge");
+        picture_.Text(4000, 100, "unseen");
+        overlay_.PP1.visible = true;
+        overlay_.PP1.PlaceAt({500, 300}, 6);
+        overlay_.t1Lab.visible = true;
+        overlay_.t1Lab.text = "Außenluft";
+        overlay_.t1Lab.PlaceAt({500, 300});
+    }
+
+    QByteArray Written(const char* name) {
+        std::string error;
+        const std::string path = (folder_ / name).string();
+        EXPECT_TRUE(WriteChartFile(picture_, overlay_, path, 1200, 675, error)) << error;
+        QFile file(QString::fromStdString(path));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    RecordingCanvas picture_;
+    Overlay overlay_;
+    TestFolder folder_;
+};
+
+TEST_F(ChartFileTest, SvgIsReadableAndHoldsTheTextsOnce) {
+    const QByteArray svg = Written("chart.svg");
+    EXPECT_TRUE(QSvgRenderer(svg).isValid());
+    EXPECT_EQ(svg.count("40 kJ/kg"), 1);
+    EXPECT_EQ(svg.count("Außenluft"), 1);
+    EXPECT_EQ(svg.count("unseen"), 0);
+}
+
+TEST_F(ChartFileTest, EachEndingGivesItsKindOfFile) {
+    EXPECT_TRUE(Written("chart.PNG").startsWith("\x89PNG"));
+    EXPECT_TRUE(Written("chart.pdf").startsWith("%PDF"));
+    EXPECT_EQ(ChartImage(picture_, overlay_, 640, 360).size(), QSize(640, 360));
+}
+
+TEST_F(ChartFileTest, WhatCanNotBeWrittenIsOneClearLine) {
+    struct {
+        std::string path;
+        int width;
+        const char* says;
+    } const cases[] = {
+        {(folder_ / "chart.gif").string(), 800, ".png, .svg or .pdf"},
+        {(folder_ / "chart.png").string(), 0, "sides of 1 to"},
+        {(folder_ / "no_such_folder/chart.png").string(), 800, "no_such_folder"},
+    };
+    for (const auto& a_case : cases) {
+        std::string error;
+        EXPECT_FALSE(WriteChartFile(picture_, overlay_, a_case.path, a_case.width, 600, error));
+        EXPECT_NE(error.find(a_case.says), std::string::npos) << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos);
+    }
+}
+
+TEST_F(ChartFileTest, TextAtTheEdgeEndsInsideTheSurface) {
+    const QImage image = RenderPicture(picture_, 1100, 770, 1);
+    const ChartView view(picture_, QRectF(image.rect()), 1);
+    EXPECT_LT(view.Extent().right(), 1095);
+    int inked = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        inked += image.pixel(image.width() - 1, y) != qRgb(255, 255, 255);
+    }
+    EXPECT_EQ(inked, 0);
+    EXPECT_NE(image.pixel(view.ToDevice({1200, 290}).toPoint()), qRgb(255, 255, 255));
+}
+
+TEST(ChartView, LinesAreCutAtTheLogicalExtent) {
+    struct {
+        Segment line;
+        bool seen;
+        Segment part;
+    } const cases[] = {
+        {{{0, 100}, {50, 200}}, true, {{0, 100}, {50, 200}}},
+        {{{1000, -580}, {1000, 580}}, true, {{1000, 0}, {1000, 580}}},
+        // Half of the way from x = 1000 to 3000 lies inside.
+        {{{1000, 0}, {3000, 200}}, true, {{1000, 0}, {2000, 100}}},
+        {{{-1e9, 290}, {1e9, 290}}, true, {{-10, 290}, {2000, 290}}},
+        {{{2100, 0}, {2200, 500}}, false, {}},
+        {{{-100, 0}, {0, -100}}, false, {}},
+    };
+    for (const auto& a_case : cases) {
+        const auto part = ClippedToCanvas(a_case.line);
+        ASSERT_EQ(part.has_value(), a_case.seen) << a_case.line.from.x << " " << a_case.line.from.y;
+        if (!part) continue;
+        EXPECT_NEAR(part->from.x, a_case.part.from.x, 1e-6);
+        EXPECT_NEAR(part->from.y, a_case.part.from.y, 1e-6);
+        EXPECT_NEAR(part->to.x, a_case.part.to.x, 1e-6);
+        EXPECT_NEAR(part->to.y, a_case.part.to.y, 1e-6);
+    }
+}
+
+}  // namespace
+}  // namespace zandrell

@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include "script_session.h"
+
+namespace zandrell {
+namespace {
+
+TEST(Options, ShowTheSettingsAndKeepThem) {
+    ScriptSession session;
+    const auto dumps = session.Run(
+        "click optButt\n"
+        "dump\n"
+        "set qvopt.absD 0,95\n"
+        "set qvopt.qvTmind -10\n"
+        "set qvopt.qvtmaxi 50\n"
+        "set qvopt.Xmaxi 60\n"
+        "choose qvopt.Option3d2\n"
+        "click qvopt.Panel3D12\n"
+        "click qvopt.Command3D1_l\n"
+        "dump ChartDruckBar ChartTMin ChartTMax ChartXMax DiagrammArt Helligkeit PanelZustand "
+        "AbsDruck\n");
+    ASSERT_EQ(dumps.size(), 2U);
+    EXPECT_EQ(TextOf(dumps[0], "qvopt.absD"), " 1.013");
+    EXPECT_EQ(TextOf(dumps[0], "qvopt.qvTmind"), "-20");
+    EXPECT_EQ(TextOf(dumps[0], "qvopt.Option3d1"), "Mollier ");
+    EXPECT_EQ(TextOf(dumps[0], "qvopt.OptPNUeb"), "Settings Zandrell 10.11.2 h,x Chart :");
+    EXPECT_TRUE(dumps[0]["qvopt.white"]["value"]);
+    EXPECT_EQ(dumps[0]["dialogs"][0]["title"], "Settings Zandrell 10.11.2 h,x Chart");
+    EXPECT_EQ(dumps[1]["ChartDruckBar"], 0.95);
+    EXPECT_EQ(dumps[1]["ChartTMin"], -10);
+    EXPECT_EQ(dumps[1]["ChartTMax"], 50);
+    EXPECT_EQ(dumps[1]["ChartXMax"], 60);
+    EXPECT_EQ(dumps[1]["DiagrammArt"], 1);
+    EXPECT_EQ(dumps[1]["Helligkeit"], 0);
+    EXPECT_EQ(TextOf(dumps[1], "AbsDruck"), " .95");
+    EXPECT_EQ(session.folder.Read("qv_par.dat"), ".95\r\n-10\r\n50\r\n0\r\n60\r\n0\r\n1\r\n0\r\n");
+    EXPECT_TRUE(session.folder.Read("qv_wert.dat").starts_with(".95,-10,50,0,60,1,"));
+}
+
+TEST(Options, TestsOfTheRanges) {
+    const struct {
+        const char* tmin;
+        const char* tmax;
+        const char* xmin;
+        std::vector<std::string> messages;
+        bool stored;
+    } cases[] = {
+        {"0", "25", "0", {}, true},
+        {"-50", "100", "0", {}, true},
+        {"-20", "110", "0", {"Temperature maximal  > 100°C !"}, true},
+        {"-20", "130", "0", {"Temperature maximal  > 100°C !"}, false},
+        {"-51",
+         "20",
+         "0",
+         {"Temperature minimal  < -50°C !", "Temperature maximal  < 25°C !"},
+         false},
+        {"1",
+         "40",
+         "-1",
+         {"Temperature minimal  > 0°C !", "Abs. Humidity minimal < 0 g/kg !"},
+         false},
+        {"1e999", "--5", "0", {"Temperature maximal  < 25°C !"}, false},
+    };
+    for (const auto& c : cases) {
+        ScriptSession session;
+        const std::string before = session.folder.Read("qv_par.dat");
+        const Json dump =
+            session.RunOnce(std::string("click optButt\nset qvopt.qvTmind ") + c.tmin +
+                            "\nset qvopt.qvtmaxi " + c.tmax + "\nset qvopt.Xmini " + c.xmin +
+                            "\nset qvopt.Xmaxi 99\nclick qvopt.Command3D1\ndump\n");
+        std::vector<std::string> shown;
+        for (const auto& dialog : dump["dialogs"]) {
+            if (dialog["icon"] == "stop") {
+                shown.push_back(dialog["text"]);
+                EXPECT_EQ(dialog["title"], "Zandrell");
+            }
+        }
+        EXPECT_EQ(shown, c.messages) << c.tmin << ' ' << c.tmax;
+        EXPECT_EQ(session.folder.Read("qv_par.dat") != before, c.stored) << c.tmax;
+        EXPECT_EQ(!dump.contains("qvopt.absD"), c.stored) << "else the window stays open";
+    }
+}
+
+TEST(Options, HeightGivesThePressureAndTheTopTemperatureTheHumidity) {
+    ScriptSession session;
+    // Standard atmosphere: 1000 m has 898.7 hPa of 1013.25; with 1.013 + .0005 the cut figure is
+    // .898. Saturated air of 25 degC holds 20.1 g/kg in published tables; 1.1 times that is 22.1.
+    const struct {
+        const char* height;
+        const char* pressure;
+    } heights[] = {{"0", " 1.013"},
+                   {"1000", " .898"},
+                   {"3000", " 1.013"},
+                   {"-200", " 1.013"},
+                   {"x", " 1.013"}};
+    for (const auto& c : heights) {
+        const Json dump = session.RunOnce(std::string("click optButt\nset qvopt.geoH ") + c.height +
+                                          "\nreturn qvopt.geoH\nset qvopt.qvtmaxi 25\nreturn "
+                                          "qvopt.qvtmaxi\ndump qvopt.absD qvopt.Xmaxi\n");
+        EXPECT_EQ(TextOf(dump, "qvopt.absD"), c.pressure) << c.height;
+        EXPECT_EQ(TextOf(dump, "qvopt.Xmaxi"), " 22");
+    }
+    // A humidity range below a tenth of that is lifted in the file: at 40 degC published saturation is 49.1 g/kg,
+    // ours .4 % lower, so Floor(1.1 * 48.9) = 53.
+    session.Run("click optButt\nset qvopt.Xmaxi 1\nclick qvopt.Command3D1\n");
+    EXPECT_TRUE(
+        session.folder.Read("qv_par.dat").starts_with("1.013\r\n-20\r\n40\r\n0\r\n5.3\r\n"));
+}
+
+TEST(Options, CancelAndTheEscapeKeyLeaveEverything) {
+    for (const char* leave : {"click qvopt.Command3D5", "key qvopt.absD Escape"}) {
+        ScriptSession session;
+        const std::string before = session.folder.Read("qv_par.dat");
+        const Json dump = session.RunOnce(
+            std::string("click ZAButt\npointer release 500 300 right\n") + "set qvopt.absD 0.5\n" +
+            leave + "\ndump PanelZustand ChartDruckBar Anlage1PN OptionenSignal PP1\n");
+        EXPECT_EQ(session.folder.Read("qv_par.dat"), before);
+        EXPECT_EQ(dump["ChartDruckBar"], 1.013);
+        EXPECT_EQ(dump["PanelZustand"], 0) << "the hidden panel no longer owns the pointer";
+        EXPECT_EQ(dump["OptionenSignal"], 0);
+        EXPECT_FALSE(Shown(dump, "Anlage1PN"));
+        EXPECT_FALSE(Shown(dump, "PP1"));
+    }
+}
+
+TEST(Options, AFileThatCannotBeWrittenIsReportedAndTheWindowStays) {
+    ScriptSession session;
+    std::filesystem::remove(session.folder / "qv_par.dat");
+    std::filesystem::create_directory(session.folder / "qv_par.dat");
+    const Json dump = session.RunOnce("click optButt\nclick qvopt.Command3D1\ndump\n");
+    EXPECT_NE(dump["dialogs"][1]["text"].get<std::string>().find("qv_par.dat"), std::string::npos);
+    EXPECT_TRUE(dump.contains("qvopt.absD"));
+}
+
+}  // namespace
+}  // namespace zandrell
