@@ -45,9 +45,9 @@ class ChartEngine {
 
     // The logical extent of the canvas, from (-10, 0) at the upper left.
     int BreiteLogisch = 2000, HoeheLogisch = 580;
-    bool printing = false;      // a print-out runs: only painting on the printer does anything
+    bool printing = false;  // a print-out runs: only painting on the printer does anything
     std::optional<int> kind_override;  // a chart kind that is not to be kept in the settings
-    Canvas* printer = nullptr;  // the target of kPaintPrinter
+    Canvas* printer = nullptr;         // the target of kPaintPrinter
 
     // a and b are the zoom factors for kPaintZoomed (the frame is ZoomShape), the pointer's place
     // for the read-outs. `druck` (bar) receives the pressure in force.

@@ -6,6 +6,20 @@ namespace {
 constexpr double kHitSize = 13;
 constexpr double kLabelOffset = 5;
 
+// One list for an overlay that may be changed and one that may not.
+template <class AnyOverlay>
+auto MarksOf(AnyOverlay& o) {
+    return std::array{&o.PP1, &o.PP2, &o.PP3, &o.PP4, &o.PP5, &o.PP6, &o.PP7, &o.PP8, &o.pp9};
+}
+template <class AnyOverlay>
+auto LinesOf(AnyOverlay& o) {
+    return std::array{&o.ZAeLine, &o.zL1, &o.ZL2, &o.ZL3, &o.ZL4, &o.ZL5, &o.ZL6, &o.ZL7, &o.ZL8};
+}
+template <class AnyOverlay>
+auto LabelsOf(AnyOverlay& o) {
+    return std::array{&o.t1Lab, &o.t2lab, &o.t3Lab, &o.tmLab};
+}
+
 }  // namespace
 
 void Mark::PlaceAt(CanvasPoint point, double corner_offset) {
@@ -31,15 +45,12 @@ void ChartLabel::PlaceAt(CanvasPoint point) {
     top = point.y + kLabelOffset;
 }
 
-std::array<Mark*, 9> Overlay::Marks() {
-    return {&PP1, &PP2, &PP3, &PP4, &PP5, &PP6, &PP7, &PP8, &pp9};
-}
-
-std::array<ChartLine*, 9> Overlay::Lines() {
-    return {&ZAeLine, &zL1, &ZL2, &ZL3, &ZL4, &ZL5, &ZL6, &ZL7, &ZL8};
-}
-
-std::array<ChartLabel*, 4> Overlay::Labels() { return {&t1Lab, &t2lab, &t3Lab, &tmLab}; }
+std::array<Mark*, 9> Overlay::Marks() { return MarksOf(*this); }
+std::array<ChartLine*, 9> Overlay::Lines() { return LinesOf(*this); }
+std::array<ChartLabel*, 4> Overlay::Labels() { return LabelsOf(*this); }
+std::array<const Mark*, 9> Overlay::Marks() const { return MarksOf(*this); }
+std::array<const ChartLine*, 9> Overlay::Lines() const { return LinesOf(*this); }
+std::array<const ChartLabel*, 4> Overlay::Labels() const { return LabelsOf(*this); }
 
 void Overlay::ListControls(Form& form) {
     for (Mark* mark : Marks()) form.Add({mark});

@@ -37,7 +37,8 @@ struct ChartLine : Control {
 
 // A text beside a state.
 struct ChartLabel : Control {
-    explicit ChartLabel(std::string_view label_name) : Control(label_name, ControlKind::ChartLabel) {
+    explicit ChartLabel(std::string_view label_name)
+        : Control(label_name, ControlKind::ChartLabel) {
         visible = false;
     }
     double left = 0, top = 0;
@@ -58,6 +59,9 @@ struct Overlay {
     std::array<Mark*, 9> Marks();
     std::array<ChartLine*, 9> Lines();
     std::array<ChartLabel*, 4> Labels();
+    std::array<const Mark*, 9> Marks() const;
+    std::array<const ChartLine*, 9> Lines() const;
+    std::array<const ChartLabel*, 4> Labels() const;
 
     void ListControls(Form& form);
     // Hides everything.

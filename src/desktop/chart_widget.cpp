@@ -193,6 +193,11 @@ void ChartWidget::SyncPointer() {
 }
 
 void ChartWidget::paintEvent(QPaintEvent* event) {
+    // The window has come to a screen of another density.
+    if (picture_.devicePixelRatio() != devicePixelRatioF()) {
+        view_.reset();
+        RenderPicture();
+    }
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(QPointF(0, 0), picture_);

@@ -70,8 +70,7 @@ QSize WindowSize(const Arguments& arguments) {
 
 int Run(const Arguments& arguments, QApplication& application) {
     const NamedFolder named = DataFolderOf(arguments);
-    const std::filesystem::path folder = FindDataFolder(0, named);
-    if (!named) DeliverDataSet(DeliveredDataSet(), folder);
+    const std::filesystem::path folder = PrepareDataFolder(named, true);
     const QSize size = WindowSize(arguments);
     ApplyLook(application, ScaleFor(size.width(), size.height()));
     DataFiles files(folder);

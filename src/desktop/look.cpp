@@ -1,6 +1,7 @@
 #include "desktop/look.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleFactory>
@@ -69,7 +70,8 @@ QPushButton[skinned="true"] { background: rgba(255, 255, 255, 34);
                               border-color: rgba(255, 255, 255, 80); }
 QPushButton[skinned="true"]:hover { background: rgba(255, 255, 255, 70); }
 QPushButton[skinned="true"]:pressed { background: rgba(0, 0, 0, 60); }
-QPushButton[quiet="true"] { border: 1px solid transparent; background: transparent; padding: 0.133em; }
+QPushButton[quiet="true"] { border: 1px solid transparent; background: transparent;
+                            padding: 0.133em; }
 QPushButton[quiet="true"]:hover { background: rgba(11, 92, 122, 36); }
 QPushButton[quiet="true"]:focus { border: 0.133em solid #0B5C7A; padding: 1px; }
 
@@ -86,7 +88,7 @@ QSlider::handle:horizontal:disabled { border-color: #B7C2CA; background: #F3F5F7
 QLabel[role="band"] { background: #0B5C7A; border-radius: 0.267em; padding: 0.2em 0.533em; }
 QGroupBox { border: 1px solid #DCE3E8; border-radius: 0.4em; margin-top: 1.467em; padding: 0.267em;
             background: #FAFBFC; }
-QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0.133em 0.133em; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0.133em; }
 QDialog { background: #F3F5F7; }
 )";
 
@@ -101,7 +103,7 @@ void ApplyLook(QApplication& application, double scale) {
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     application.setPalette(LightPalette());
     QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * scale);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * scale);
     QApplication::setFont(font);
     application.setStyleSheet(QString::fromLatin1(kStyleSheet));
 }

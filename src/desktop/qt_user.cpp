@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPrintDialog>
+#include <QPushButton>
 #include <QThread>
 #include <algorithm>
 
@@ -35,6 +36,7 @@ void QtUser::ShowMessage(const Message& message) {
                     QString::fromStdString(message.text), QMessageBox::Ok,
                     active ? active : opener_.window);
     box.setTextFormat(Qt::PlainText);
+    box.button(QMessageBox::Ok)->setIcon(QIcon());
     box.exec();
 }
 

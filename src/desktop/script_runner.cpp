@@ -118,7 +118,11 @@ bool ScriptRunner::TakeShot(const std::string& path, std::string& error) {
     shot_taken_ = true;
     RefreshWindows();
     QPixmap picture = window_.grab();
-    if (auto* dialog = QApplication::activeModalWidget()) PaintDialog(picture, *dialog, window_);
+    QWidget* top = QApplication::activeModalWidget();
+    auto* below = top ? dynamic_cast<ModalWindow*>(top->parentWidget()) : nullptr;
+    for (QWidget* dialog : {static_cast<QWidget*>(below), top}) {
+        if (dialog) PaintDialog(picture, *dialog, window_);
+    }
     if (picture.save(QString::fromStdString(path), "PNG")) return true;
     error = path + ": can not be written";
     return false;

@@ -90,7 +90,7 @@ void PaintPicture(QPainter& painter, const RecordingCanvas& picture, const Chart
     canvas.Finish();
 }
 
-OverlayDrawing VisibleItems(Overlay overlay) {
+OverlayDrawing VisibleItems(const Overlay& overlay) {
     OverlayDrawing drawing;
     for (const ChartLine* line : overlay.Lines()) {
         const auto part = ClippedToCanvas({{line->x1, line->y1}, {line->x2, line->y2}});

@@ -41,9 +41,8 @@ struct OverlayDrawing {
     bool operator==(const OverlayDrawing&) const = default;
 };
 
-// What of the overlay lies on the canvas. Takes a copy, since the lists of an overlay give out
-// pointers to change its items.
-OverlayDrawing VisibleItems(Overlay overlay);
+// What of the overlay lies on the canvas.
+OverlayDrawing VisibleItems(const Overlay& overlay);
 
 // Paints process lines, marks and labels over a picture with the ground colour `ground` (palette
 // number or colour value).

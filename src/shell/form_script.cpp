@@ -46,7 +46,8 @@ std::string ValueOf(std::string_view line) {
 
 // The reaction of a bar to a key; empty for a key that moves nothing.
 std::optional<int> BarPositionAfter(const ScrollBar& bar, const std::string& key) {
-    const auto [least, most] = std::minmax(bar.LowEnd(), bar.HighEnd());
+    const int least = std::min(bar.LowEnd(), bar.HighEnd());
+    const int most = std::max(bar.LowEnd(), bar.HighEnd());
     const auto moved = [&](int by) { return std::clamp(bar.Position() + by, least, most); };
     if (key == "Right" || key == "Up") return moved(1);
     if (key == "Left" || key == "Down") return moved(-1);
@@ -75,7 +76,7 @@ void FormScript::WindowOpened(ModalForm& window) {
 
 std::string FormScript::TakeAnswer() {
     if (answers_.empty()) return {};
-    const std::string answer = answers_.front();
+    std::string answer = answers_.front();
     answers_.erase(answers_.begin());
     return answer;
 }

@@ -85,7 +85,7 @@ void SetToolCaptions(MainControls& c, const Words& words, const AirWords& air) {
     tip(c.BearButt, words[177], words[177] + "  " + air[9] + "/" + air[10] + ", " + air[7]);
     tip(c.AnlageButt, words[59], air[20] + ", " + air[15] + ", " + words[13] + ", " + air[16]);
     tip(c.druckbutt, words[76], words[180]);
-    c.mPributt.tool_tip = words[76];
+    c.mPributt.tool_tip = c.mPributt_2.tool_tip = words[76];
     c.ZOOMMIN.text = words[126];
     c.Command3D7.text = words[75];
     c.Command3D2.text = words[35];

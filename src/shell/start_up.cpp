@@ -103,7 +103,7 @@ bool DeliverDataSet(const fs::path& delivered, const fs::path& folder) {
 }
 
 fs::path PrepareDataFolder(const NamedFolder& named, bool deliver_into_named) {
-    const fs::path folder = FindDataFolder(0, named);
+    fs::path folder = FindDataFolder(0, named);
     if (!named || deliver_into_named) DeliverDataSet(DeliveredDataSet(), folder);
     return folder;
 }

@@ -1,3 +1,5 @@
+#include <QClipboard>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSlider>
 #include <fstream>
@@ -124,6 +126,13 @@ TEST_F(MainWindowTest, EveryControlThatTakesInputHasAName) {
         if (!takes_input || widget->focusPolicy() == Qt::NoFocus) continue;
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
     }
+}
+
+TEST_F(MainWindowTest, CopiedChartIsAPictureAndADrawing) {
+    window_->Mirror().Click("kopieren");
+    const QMimeData* copied = QApplication::clipboard()->mimeData();
+    EXPECT_TRUE(copied->hasImage());
+    EXPECT_TRUE(copied->data(QStringLiteral("image/svg+xml")).contains("kJ/kg"));
 }
 
 TEST_F(MainWindowTest, ScriptRunsThroughADialogAndTakesShots) {

@@ -6,12 +6,11 @@
 #include <chrono>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 
 #include "base/data_files.h"
 #include "kernel/water_air_tables.h"
+#include "support/test_folder.h"
 
 namespace zandrell::kernel_test {
 
@@ -39,34 +38,21 @@ inline std::string FirstNumbers(int count) {
     return text.substr(0, end);
 }
 
-// A folder of its own for one test, removed at its end.
+// A data folder whose coefficient file comes and goes.
 class TemporaryFolder {
   public:
-    TemporaryFolder()
-        : path_(std::filesystem::temp_directory_path() /
-                ("zandrell_kernel_test_" + std::to_string(std::random_device{}()))) {
-        std::filesystem::create_directories(path_);
-    }
-    ~TemporaryFolder() {
-        std::error_code error;
-        std::filesystem::remove_all(path_, error);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    const std::filesystem::path& Path() const { return path_; }
+    const std::filesystem::path& Path() const { return folder_.Path(); }
 
     // Each writing is a second younger than the last, so that time stamps always tell them apart.
     void WriteCoefficients(const std::string& text) {
-        const auto file = path_ / "qvdata.dat";
-        std::ofstream(file, std::ios::binary) << text;
+        folder_.Write("qvdata.dat", text);
         youngest_ += std::chrono::seconds(1);
-        std::filesystem::last_write_time(file, youngest_);
+        std::filesystem::last_write_time(folder_ / "qvdata.dat", youngest_);
     }
-    void RemoveCoefficients() const { std::filesystem::remove(path_ / "qvdata.dat"); }
+    void RemoveCoefficients() const { std::filesystem::remove(folder_ / "qvdata.dat"); }
 
   private:
-    std::filesystem::path path_;
+    TestFolder folder_;
     std::filesystem::file_time_type youngest_ = std::filesystem::file_time_type::clock::now();
 };
 
