@@ -1,9 +1,9 @@
-#include <QGuiApplication>
 #include <iostream>
 
 #include "command/process_ends.h"
 #include "command/scripted_chart.h"
 #include "painter/chart_file.h"
+#include "painter/offscreen_toolkit.h"
 
 // The verb `chart` of zandrell-calc, which starts this program with its own arguments.
 int main(int count, char** arguments) {
@@ -17,12 +17,7 @@ int main(int count, char** arguments) {
     if (line.verb != Verb::Chart) return ReportFailure("this program has the verb chart alone");
     if (!ReadScript(line.chart.script, script, error)) return ReportFailure(error);
 
-    // What the toolkit remarks about its surroundings would stand among our own lines.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    // There need not be a display, and the toolkit's own options are none of ours.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int toolkit_count = 1;
-    const QGuiApplication application(toolkit_count, arguments);
+    const OffscreenToolkit toolkit(arguments);
     ScriptedChart chart(line, script, std::cout);
     if (!chart.Run(error)) return ReportFailure(error);
     std::cout.flush();

@@ -45,8 +45,7 @@ const std::map<std::string, Rooms>& AllowedRooms() {
 
 bool MayUseQt(const fs::path& file) {
     const auto room = file.parent_path().filename();
-    // The chart verb is a program of its own, so that the others need not load Qt.
-    return room == "desktop" || room == "painter" || file.filename() == "chart_main.cpp";
+    return room == "desktop" || room == "painter";
 }
 
 std::vector<std::string> LinesOf(const fs::path& file) {
