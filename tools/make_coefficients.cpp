@@ -141,6 +141,7 @@ double EvaluatePolynomial(const std::vector<double>& coefficients, double x) {
 std::vector<double> FitHeatCapacity(const std::vector<double>& t, const std::vector<double>& cp) {
     constexpr double kChartEnd = 100, kChartWeight = 10;
     std::vector<double> weights;
+    weights.reserve(t.size());
     for (const double at : t) weights.push_back(at <= kChartEnd ? kChartWeight : 1);
     return FitPolynomial(t, cp, weights, 8);
 }

@@ -33,7 +33,7 @@ void ApplyColours(QWidget* widget, const Control& control) {
 QString Utf8(const std::string& text) { return QString::fromStdString(text); }
 
 QString TipOf(const QWidget* widget, const Control& control) {
-    const QString tip = Utf8(control.tool_tip);
+    QString tip = Utf8(control.tool_tip);
     const QString key = widget->property("key").toString();
     if (key.isEmpty()) return tip;
     return tip + (tip.isEmpty() ? QString() : QStringLiteral("  ")) +

@@ -13,7 +13,7 @@
 namespace zandrell {
 namespace {
 
-constexpr QRgb kInk = 0xFF1F2D37, kMutedInk = 0xFF5B6B76, kFaintInk = 0xFF9AA7B0;
+constexpr QRgb kInk = 0xFF1F2D37, kFaintInk = 0xFF9AA7B0;
 constexpr QRgb kWindow = 0xFFF3F5F7, kPanel = 0xFFFAFBFC, kField = 0xFFFFFFFF;
 constexpr QRgb kBorder = 0xFFCFD7DD, kAccent = 0xFF0B5C7A, kSoftRed = 0xFFF4A39B,
                kCell = 0xFFEEF2F5;

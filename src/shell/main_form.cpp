@@ -242,21 +242,27 @@ void MainForm::LoadWorkingState() {
     working_state_unread_ = status == FileStatus::Unreadable || status == FileStatus::Malformed;
 }
 
-void MainForm::SaveWorkingState(bool on_request) {
-    if (working_state_unread_ && !on_request) return;
+bool MainForm::SaveWorkingState(bool on_request) {
+    // A file that could not be read is replaced only by a user who asks for it.
+    if (working_state_unread_ && !on_request) return TellUnsaved("Can not read file:   - ");
     const FileStatus status = ArbeitsfelderSpeichern(files_, kWorkingStateFile, WorkingState());
-    if (status == FileStatus::Ok) {
-        working_state_unread_ = false;
-        return;
-    }
+    if (status != FileStatus::Ok) return TellUnsaved("Can not write file:   - ");
+    working_state_unread_ = false;
+    return true;
+}
+
+bool MainForm::TellUnsaved(const std::string& reason) {
     const std::string path = files_.Resolve(kWorkingStateFile).string();
-    user_.ShowMessage(
-        {shared.AppTitle, "Can not write file:   - " + path + " - ", MessageIcon::Stop});
+    user_.ShowMessage({shared.AppTitle, reason + path + " - ", MessageIcon::Stop});
+    return false;
 }
 
 void MainForm::ende_qv() {
     if (ended) return;
-    SaveWorkingState(false);
+    if (!close_was_held_up_ && !SaveWorkingState(false)) {
+        close_was_held_up_ = true;
+        return;
+    }
     CloseWindow();
 }
 

@@ -66,6 +66,8 @@ class MainForm : public WindowForm {
     void PanelRelease();
 
     // Saves the working state and ends the program; also when the window is closed by its frame.
+    // When the inputs cannot be saved the window stays, so that nothing is lost unseen; a second
+    // try closes it.
     void ende_qv();
     // Closes without saving.
     void CloseWindow();
@@ -101,7 +103,8 @@ class MainForm : public WindowForm {
 
     WorkingStateFields WorkingState();
     void LoadWorkingState();
-    void SaveWorkingState(bool on_request);
+    bool SaveWorkingState(bool on_request);
+    bool TellUnsaved(const std::string& reason);
 
     void ReadOut(CanvasPoint place);
     bool DropFirstCarriedMark(CanvasPoint place);
@@ -126,8 +129,9 @@ class MainForm : public WindowForm {
     Panel* dragged_panel_ = nullptr;
     CanvasPoint drag_offset_;
     bool working_state_loaded_ = false;
-    bool working_state_unread_ =
-        false;  // a file is there that could not be read: not to be replaced
+    bool close_was_held_up_ = false;  // the inputs were not saved, and the user knows
+    // A file is there that could not be read: not to be replaced unasked.
+    bool working_state_unread_ = false;
 };
 
 }  // namespace zandrell

@@ -7,7 +7,6 @@
 
 #include "support/test_folder.h"
 
-
 namespace {
 
 struct Ending {

@@ -162,6 +162,16 @@ TEST(MainForm, ClosingKeepsTheWorkingStateAndNeverWritesOverAnUnreadableOne) {
     EXPECT_LT(session.folder.Read("QV_ACT.dat").size(), 1000U) << "on request it is replaced";
 }
 
+TEST(MainForm, InputsThatCanNotBeSavedHoldTheFirstCloseUp) {
+    ScriptSession session;
+    std::filesystem::create_directory(session.folder / "QV_ACT.dat");
+    const auto dumps =
+        session.Run("set Temp1 22\nclick PSButt\nclose\ndump ended\nclose\ndump ended\n");
+    EXPECT_FALSE(dumps[0]["ended"]);
+    EXPECT_EQ(dumps[0]["dialogs"].size(), 2U) << "once for the button, once for the close";
+    EXPECT_TRUE(dumps[1]["ended"]);
+}
+
 TEST(MainForm, TheOptionsDoNotThrowAwayWhatWasTyped) {
     ScriptSession session;
     const Json dump = session.RunOnce(std::string(kStates) +

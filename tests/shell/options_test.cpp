@@ -100,8 +100,8 @@ TEST(Options, HeightGivesThePressureAndTheTopTemperatureTheHumidity) {
         EXPECT_EQ(TextOf(dump, "qvopt.absD"), c.pressure) << c.height;
         EXPECT_EQ(TextOf(dump, "qvopt.Xmaxi"), " 22");
     }
-    // A humidity range below a tenth of that is lifted in the file: at 40 degC published saturation is 49.1 g/kg,
-    // ours .4 % lower, so Floor(1.1 * 48.9) = 53.
+    // A humidity range below a tenth of that is lifted in the file: at 40 degC published saturation
+    // is 49.1 g/kg, ours .4 % lower, so Floor(1.1 * 48.9) = 53.
     session.Run("click optButt\nset qvopt.Xmaxi 1\nclick qvopt.Command3D1\n");
     EXPECT_TRUE(
         session.folder.Read("qv_par.dat").starts_with("1.013\r\n-20\r\n40\r\n0\r\n5.3\r\n"));
