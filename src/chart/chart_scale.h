@@ -48,8 +48,8 @@ struct ChartScale {
 // The whole range on the canvas. A span that is not positive leaves the former scale.
 void ApplyBaseScale(const ChartSettings& settings, ChartScale& scale);
 
-// The section under the frame; a second zoom on a zoomed chart compounds. The frame is taken as one of
-// the Mollier chart on the Carrier chart too, which so shows another section: this is meant.
+// The section under the frame; a second zoom on a zoomed chart compounds. The frame is taken as one
+// of the Mollier chart on the Carrier chart too, which so shows another section: this is meant.
 void ApplyZoom(const ZoomFrame& frame, double factor_x, double factor_y, ChartScale& scale);
 
 // Steps of the grids and along the humidity curves.
