@@ -24,7 +24,7 @@ constexpr int kWidth = 3840, kHeight = 2160;
 // The program writes into its data folder; the delivered set must not change.
 std::filesystem::path CopyOfDataSet() {
     static const QTemporaryDir folder;
-    const std::filesystem::path path = folder.path().toStdString();
+    std::filesystem::path path = folder.path().toStdString();
     std::filesystem::copy(ZANDRELL_STAGED_DATA, path,
                           std::filesystem::copy_options::recursive |
                               std::filesystem::copy_options::overwrite_existing);

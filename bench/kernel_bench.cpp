@@ -35,6 +35,7 @@ struct Arguments {
 // different from the last.
 std::vector<Arguments> Year() {
     std::vector<Arguments> year;
+    year.reserve(8760);
     for (int hour = 0; hour < 8760; ++hour) {
         year.push_back(
             {0.2 + 0.8 * ((hour * 37) % 1000) / 1000, -15 + 50.0 * ((hour * 61) % 997) / 997});

@@ -81,7 +81,7 @@ TEST(StateSolver, FilesThatCannotServe) {
         {"empty", ""},
         {"binary", std::string("\x7f"
                                "ELF\0\0\1\2\3,,,,\0",
-                               15)},
+                               14)},
         {"a short one", FirstNumbers(100)},
         {"one number", FirstNumbers(1)},
         {"one number less", FirstNumbers(117)},

@@ -10,6 +10,22 @@ namespace {
 constexpr const char* kStates =
     "set Temp1 30\nset relF1 40\nset Temp2 20\nset relF2 50\nset LuftM1 1000\n";
 
+std::string PointerAct(const char* kind, double x, double y) {
+    return std::string("pointer ")
+        .append(kind)
+        .append(" ")
+        .append(TrimmedNumberText(x))
+        .append(" ")
+        .append(TrimmedNumberText(y))
+        .append("\n");
+}
+
+// A press on the middle of a mark as a dump shows it.
+std::string PressOn(const Json& dump, const char* mark) {
+    const Json& at = dump.at(mark);
+    return PointerAct("press", at["left"].get<double>() + 6, at["top"].get<double>() + 6);
+}
+
 TEST(Pointer, ZoomFrameThroughAllItsStates) {
     ScriptSession session;
     const auto dumps = session.Run(
@@ -62,10 +78,8 @@ TEST(Pointer, AMarkIsPickedUpCarriedAndDropped) {
     const auto dumps = session.Run(std::string(kStates) +
                                    "click ZAButt\ndump\n"
                                    "pointer press 0 0\ndump\n");
-    const double left = dumps[0]["PP1"]["left"], top = dumps[0]["PP1"]["top"];
     EXPECT_EQ(dumps[1]["PP1Gefasst"], 0);
-    const std::string press =
-        "pointer press " + TrimmedNumberText(left + 6) + " " + TrimmedNumberText(top + 6) + "\n";
+    const std::string press = PressOn(dumps[0], "PP1");
     const auto carried =
         session.Run(std::string(kStates) + "click ZAButt\n" + press +
                     "dump\npointer move 485 89.9\ndump\npointer press 485 89.9\ndump\n");
@@ -96,14 +110,14 @@ TEST(Pointer, ADropInTheFogStoresAHundredAndLeftOfTheAxisOne) {
     for (const auto& c : cases) {
         ScriptSession session;
         const Json open = session.RunOnce(std::string(kStates) + "click ZAButt\ndump PP2\n");
-        const std::string press = "pointer press " +
-                                  TrimmedNumberText(open["PP2"]["left"].get<double>() + 6) + " " +
-                                  TrimmedNumberText(open["PP2"]["top"].get<double>() + 6) + "\n";
-        const std::string place = TrimmedNumberText(35 + 45 * c.x) + " " +
-                                  TrimmedNumberText(379 - 9.0342679 * c.t) + "\n";
-        const Json dump =
-            session.RunOnce(std::string(kStates) + "click ZAButt\n" + press + "pointer move " +
-                            place + "pointer press " + place + "dump\n");
+        const std::string press = PressOn(open, "PP2");
+        const double x = 35 + 45 * c.x, y = 379 - 9.0342679 * c.t;
+        const Json dump = session.RunOnce(std::string(kStates)
+                                              .append("click ZAButt\n")
+                                              .append(press)
+                                              .append(PointerAct("move", x, y))
+                                              .append(PointerAct("press", x, y))
+                                              .append("dump\n"));
         EXPECT_EQ(TrimmedNumberText(ParsedNumber(TextOf(dump, "relF2"))), c.humidity);
         EXPECT_EQ(dump["FScroll2"]["value"].get<double>(), 10 * std::stod(c.humidity));
     }
@@ -112,9 +126,7 @@ TEST(Pointer, ADropInTheFogStoresAHundredAndLeftOfTheAxisOne) {
 TEST(Pointer, OpeningTheOptionsLetsACarriedMarkGoWithoutACalculation) {
     ScriptSession session;
     const Json open = session.RunOnce(std::string(kStates) + "click ZAButt\ndump PP1\n");
-    const std::string press = "pointer press " +
-                              TrimmedNumberText(open["PP1"]["left"].get<double>() + 6) + " " +
-                              TrimmedNumberText(open["PP1"]["top"].get<double>() + 6) + "\n";
+    const std::string press = PressOn(open, "PP1");
     const Json dump =
         session.RunOnce(std::string(kStates) + "click ZAButt\n" + press +
                         "pointer move 485 89.9\nanswer cancel\npointer release 485 89.9 right\n" +

@@ -94,7 +94,7 @@ TEST(SuiteParameters, DefaultsHoldWhereTheFileSaysNothing) {
 
 TEST(Branding, TitleIsUnscrambledFromItsRecords) {
     const TestFolder folder;
-    std::string file(153 * 3, ' ');
+    std::string file(std::size_t{153} * 3, ' ');
     const auto put = [&file](std::size_t record, const std::string& text) {
         file.resize(std::max(file.size(), record * 3), ' ');
         file.replace((record - 1) * 3, 3, (text + "   ").substr(0, 3));
