@@ -15,6 +15,8 @@ constexpr double kComfortTMin = 22, kComfortTMax = 26;                // degC
 constexpr double kComfortHumidityMin = 35, kComfortHumidityMax = 65;  // %
 constexpr double kComfortXMax = 12;                                   // g/kg
 constexpr int kComfortPrinterWidth = 3;
+// A zoom into a wide and low frame would put more dots into a row than can be told apart.
+constexpr double kMostDotsInRow = 500;
 
 constexpr double kPrinterLastLine = 3000;
 constexpr int kMostGridLines =
@@ -44,7 +46,8 @@ void PaintComfortRow(const ChartPainting& painting, double t, double humidity_st
     const double x_to = std::min(std::max(low.x, high.x) - shift, kComfortXMax);
     const Steps columns = StepsWithin(kComfortHumidityMin, kComfortHumidityMax, humidity_step,
                                       100 * x_from / xs, 100 * x_to / xs);
-    for (double k = columns.first; k <= columns.last; ++k) {
+    const double stride = std::max(1.0, std::ceil((columns.last - columns.first) / kMostDotsInRow));
+    for (double k = columns.first; k <= columns.last; k += stride) {
         const double x = xs * (kComfortHumidityMin + k * humidity_step) / 100;
         if (x > kComfortXMax) break;
         const CanvasPoint point = painting.scale.PointOf(x, t);

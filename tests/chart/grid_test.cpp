@@ -186,6 +186,11 @@ TEST(ComfortField, CoversItsZoneAndStaysThin) {
     // Deep in a zoom the raster would have millions of dots; only those on the canvas are drawn.
     for (int i = 0; i < 3; ++i) chart.Zoom(300, 250, 90, 29);
     EXPECT_LT(chart.engine.picture.Operations().size(), 1'000'000U);
+    // A wide and low frame, whose rows would hold hundreds of thousands.
+    chart.Paint();
+    chart.Zoom(0, 150, 1700, 1);
+    EXPECT_GT(chart.engine.picture.Operations().size(), 1'000U);
+    EXPECT_LT(chart.engine.picture.Operations().size(), 1'000'000U);
 }
 
 }  // namespace
