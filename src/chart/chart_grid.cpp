@@ -29,7 +29,9 @@ struct Steps {
 
 Steps StepsWithin(double start, double end, double step, double visible_from, double visible_to) {
     constexpr double kRoundingSlack = 1e-9;
+    constexpr double kLastCountable = 1e15;  // from about here on adding 1 changes nothing
     const double last = std::floor((end - start) / step + kRoundingSlack);
+    if (!(last < kLastCountable)) return {};
     return {std::max(0.0, std::floor((visible_from - start) / step)),
             std::min(last, std::ceil((visible_to - start) / step))};
 }

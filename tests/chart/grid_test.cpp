@@ -191,6 +191,11 @@ TEST(ComfortField, CoversItsZoneAndStaysThin) {
     chart.Zoom(0, 150, 1700, 1);
     EXPECT_GT(chart.engine.picture.Operations().size(), 1'000U);
     EXPECT_LT(chart.engine.picture.Operations().size(), 1'000'000U);
+    // Ever deeper, until single units of the raster can no longer be counted.
+    for (int i = 0; i < 30; ++i) {
+        chart.Zoom(100, 300, 20, 1);
+        ASSERT_LT(chart.engine.picture.Operations().size(), 1'000'000U) << i;
+    }
 }
 
 }  // namespace
