@@ -36,7 +36,7 @@ const std::map<std::string, Rooms>& AllowedRooms() {
         {"projects", with(trades, "projects")},
         {"printing", with(with(trades, "printing"), "processes")},
         {"shell", program},
-        {"painter", with(program, "painter")},
+        {"painter", with(trades, "painter")},
         {"desktop", with(with(program, "painter"), "desktop")},
         {"command", with(with(program, "painter"), "command")},
     };
