@@ -84,6 +84,21 @@ QPushButton* PanelBuilder::QuietButton(const Button& picture) {
     return button;
 }
 
+QVBoxLayout* PanelBuilder::TitledLayout(const Label& title, const Button& close, int shadow) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(Caption(title, true), 1);
+    auto* cross = QuietButton(close);
+    cross->setText(QStringLiteral("×"));
+    cross->setFocusPolicy(Qt::NoFocus);  // Escape does the same
+    mirror_.Follow(cross, title);
+    row->addWidget(cross);
+    auto* layout = new QVBoxLayout(parent_);
+    layout->setContentsMargins(shadow + 12, shadow + 6, shadow + 12, shadow + 10);
+    layout->setSpacing(6);
+    layout->addLayout(row);
+    return layout;
+}
+
 void UsePanelFont(QWidget* panel) {
     QFont font = panel->font();
     font.setPointSizeF(kPanelFontShare * font.pointSizeF());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QGridLayout>
 #include <QString>
 #include <QWidget>
@@ -31,6 +32,9 @@ class PanelBuilder {
     QPushButton* PictureButton(const Button& picture, const Control* caption = nullptr);
     // A small button of only a picture.
     QPushButton* QuietButton(const Button& picture);
+    // The layout of the whole panel, begun with its title and its closing cross; `shadow` pixels
+    // all round are left free.
+    QVBoxLayout* TitledLayout(const Label& title, const Button& close, int shadow);
 
   private:
     FormMirror& mirror_;

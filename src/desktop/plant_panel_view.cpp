@@ -9,17 +9,6 @@
 namespace zandrell {
 namespace {
 
-QHBoxLayout* MakeTitleRow(PlantPanel& panel, PanelBuilder& build, FormMirror& mirror) {
-    auto* row = new QHBoxLayout;
-    row->addWidget(build.Caption(panel.Label16, true), 1);
-    auto* close = build.QuietButton(panel.Picture12);
-    close->setText(QStringLiteral("×"));
-    close->setFocusPolicy(Qt::NoFocus);
-    mirror.Follow(close, panel.Label16);
-    row->addWidget(close);
-    return row;
-}
-
 // One kind of air: its name, temperature and humidity with their bars.
 struct AirRow {
     const Label& name;
@@ -161,11 +150,7 @@ FloatingPanel* MakePlantPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* view = new FloatingPanel(form, panel.Frame1, mirror, chart, panel.AnlageAbButt.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);
-    auto* layout = new QVBoxLayout(view);
-    constexpr int kRoom = FloatingPanel::kShadow;
-    layout->setContentsMargins(kRoom + 12, kRoom + 6, kRoom + 12, kRoom + 10);
-    layout->setSpacing(6);
-    layout->addLayout(MakeTitleRow(panel, build, mirror));
+    auto* layout = build.TitledLayout(panel.Label16, panel.Picture12, FloatingPanel::kShadow);
     auto* body = new QHBoxLayout;
     body->setSpacing(10);
     auto* inputs = new QVBoxLayout;

@@ -12,17 +12,6 @@ const QString kFirst = QStringLiteral("1"), kSecond = QStringLiteral("2");
 
 enum Column { kCaptionColumn, kFirstColumn, kSecondColumn, kMixtureColumn };
 
-QHBoxLayout* MakeTitleRow(PointPanel& panel, PanelBuilder& build, FormMirror& mirror) {
-    auto* row = new QHBoxLayout;
-    row->addWidget(build.Caption(panel.Label15, true), 1);
-    auto* close = build.QuietButton(panel.Picture3);
-    close->setText(QStringLiteral("×"));
-    close->setFocusPolicy(Qt::NoFocus);
-    mirror.Follow(close, panel.Label15);
-    row->addWidget(close);
-    return row;
-}
-
 void AddHeads(PointPanel& panel, PanelBuilder& build, QGridLayout& grid) {
     for (const auto& [column, text] : {std::pair{kFirstColumn, kFirst}, {kSecondColumn, kSecond}}) {
         auto* head = build.Words(text, panel.Label35);
@@ -108,11 +97,7 @@ FloatingPanel* MakePointPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* view = new FloatingPanel(form, panel.Anlage1PN, mirror, chart, panel.abbcom.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);
-    auto* layout = new QVBoxLayout(view);
-    constexpr int kRoom = FloatingPanel::kShadow;
-    layout->setContentsMargins(kRoom + 12, kRoom + 6, kRoom + 12, kRoom + 10);
-    layout->setSpacing(6);
-    layout->addLayout(MakeTitleRow(panel, build, mirror));
+    auto* layout = build.TitledLayout(panel.Label15, panel.Picture3, FloatingPanel::kShadow);
     layout->addLayout(MakeStateGrid(panel, build));
     layout->addWidget(MakeCapacityPanel(panel, mirror, view));
     layout->addLayout(MakeFooter(panel, build, form.controls.wrgEinst));
