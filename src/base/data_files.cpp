@@ -108,6 +108,12 @@ bool ReplaceFile(const fs::path& target, std::string_view bytes, Durability dura
     return true;
 }
 
+// What stands for the read-only attribute: the owner's write permission is missing.
+bool IsReadOnly(const fs::path& path) {
+    struct stat about {};
+    return ::stat(path.c_str(), &about) == 0 && (about.st_mode & S_IWUSR) == 0;
+}
+
 std::string BlockedDeleteMessage(std::string_view name, const Captions& captions) {
     std::error_code error;
     const std::string folder = fs::current_path(error).string();
@@ -191,8 +197,8 @@ bool DataFiles::ClearReadOnly(const fs::path& path) {
 void DataFiles::DeleteDataFile(std::string_view name, const Captions& captions,
                                const std::function<void(const std::string&)>& warn) {
     const fs::path path = Resolve(name);
-    // Unix would delete a file in spite of its missing write permission.
-    if (::access(path.c_str(), W_OK) == 0) ::unlink(path.c_str());
+    // Unix would delete a file in spite of its missing write permission, and root does not feel it.
+    if (!IsReadOnly(path)) ::unlink(path.c_str());
     if (delete_warning_given_) return;
     ClearReadOnly(path);
     const auto stamp = Stamp(name);

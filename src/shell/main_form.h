@@ -74,9 +74,6 @@ class MainForm : public WindowForm {
 
     const DataFiles& Files() const { return files_; }
 
-    int WidthInTwips() const { return width_twips_; }
-    int HeightInTwips() const { return height_twips_; }
-
   private:
     void ListControls();
     void BindActs();

@@ -95,10 +95,25 @@ TEST(DataFiles, AFailedDeleteWarnsOnceARun) {
     files.DeleteDataFile("A.dat", captions, warn);
     EXPECT_FALSE(fs::exists(folder / "a.dat"));
     EXPECT_TRUE(warnings.empty());
-    // A folder that is not empty cannot be removed; for root nothing else resists.
-    fs::create_directory(folder / "b.dat");
+    // A read-only file survives the first try, which clears its attribute; the second one succeeds.
+    for (const char* name : {"b.dat", "c.dat"}) {
+        folder.Write(name, "x");
+        ASSERT_EQ(::chmod((folder / name).c_str(), 0444), 0);
+        files.DeleteDataFile(name, captions, warn);
+        EXPECT_TRUE(fs::exists(folder / name)) << name;
+    }
+    ASSERT_EQ(warnings.size(), 1U) << "once a run, however many deletes fail";
+    EXPECT_EQ(warnings[0], "Failure : " + fs::current_path().string() +
+                               " !\n\n.\n\nHelp!\n\nSystem blocked.\n\nCan not delete/overwrite "
+                               "file:   - b.dat - ");
     files.DeleteDataFile("b.dat", captions, warn);
-    EXPECT_TRUE(warnings.empty()) << "what has no length counts as deleted";
+    EXPECT_FALSE(fs::exists(folder / "b.dat"));
+    // One without length counts as deleted, also when it resists.
+    DataFiles other(folder.Path());
+    folder.Write("d.dat", "");
+    ASSERT_EQ(::chmod((folder / "d.dat").c_str(), 0444), 0);
+    other.DeleteDataFile("d.dat", captions, warn);
+    EXPECT_EQ(warnings.size(), 1U);
 }
 
 TEST(Captions, AShortFileLeavesTheRestEmptyAndTheFixedWordsStand) {

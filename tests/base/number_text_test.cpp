@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
 #include <limits>
+#include <locale>
 
 namespace zandrell {
 namespace {
@@ -81,12 +81,17 @@ TEST(ToDouble, ReadsTheLongestNumberAtTheStart) {
     EXPECT_EQ(ToDouble("." + std::string(1'000'000, '0') + "1"), 0);
 }
 
-TEST(ToDouble, KnowsNoLocale) {
-    // Only where such a locale is installed does this test say anything.
-    const char* german = std::setlocale(LC_ALL, "de_DE.UTF-8");
+class CommaForPoint : public std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+};
+
+TEST(NumberText, KnowsNoLocale) {
+    const std::locale before = std::locale::global(std::locale(std::locale(), new CommaForPoint));
     EXPECT_EQ(ToDouble("1.5"), 1.5);
+    EXPECT_EQ(ToDouble("1,5"), 1);
     EXPECT_EQ(NumberText(1.5), " 1.5");
-    if (german != nullptr) std::setlocale(LC_ALL, "C");
+    EXPECT_EQ(ExactNumberText(1.5), "1.5");
+    std::locale::global(before);
 }
 
 TEST(ParseNumber, RewritesADecimalCommaInItsArgument) {

@@ -197,10 +197,15 @@ TEST(CurveCache, ServesTheSamePictureAndFollowsTheSettings) {
 
     // What stands in a file with the right key is what is drawn.
     std::string marked = file;
-    marked.replace(marked.find("\r\n-20,"), 7, "\r\n-20,9");
+    const auto first = marked.find("\r\n-20,") + 2;
+    marked.replace(first, marked.find("\r\n", first) - first, "-20,9,0");
     chart.folder.Write("qv_wert.dat", marked);
     chart.Paint();
-    EXPECT_GT(chart.engine.picture.Operations().size(), 0U);
+    const auto& drawn = chart.engine.picture.Operations();
+    EXPECT_TRUE(std::any_of(drawn.begin(), drawn.end(), [](const CanvasOperation& o) {
+        return o.colour == kLightBlue && std::abs(o.x1 - UnitsOfX(9)) < 1e-6 &&
+               std::abs(o.y1 - UnitsOfT(-20)) < 1e-6;
+    }));
     EXPECT_EQ(chart.folder.Read("qv_wert.dat"), marked);
 
     chart.folder.Write("qv_par.dat", "0.95,-10,40,0,40,0,0,1");
