@@ -1,6 +1,8 @@
 #include "desktop/form_mirror.h"
 
+#include <QApplication>
 #include <QIcon>
+#include <QStringList>
 #include <algorithm>
 #include <optional>
 
@@ -31,6 +33,18 @@ void ApplyColours(QWidget* widget, const Control& control) {
 }
 
 QString Utf8(const std::string& text) { return QString::fromStdString(text); }
+
+QStringList TextsOf(const ChoiceList& list) {
+    QStringList texts;
+    for (const std::string& item : list.items) texts << Utf8(item);
+    return texts;
+}
+
+QStringList ItemsOf(const QComboBox& box) {
+    QStringList items;
+    for (int i = 0; i < box.count(); ++i) items << box.itemText(i);
+    return items;
+}
 
 QString TipOf(const QWidget* widget, const Control& control) {
     QString tip = Utf8(control.tool_tip);
@@ -148,6 +162,78 @@ void FormMirror::Bind(QRadioButton* option, const OptionButton& control) {
         if (option->text() != text) option->setText(text);
         // Of a pair only the one that is on can be written: it puts the other out.
         if (control.on && !option->isChecked()) option->setChecked(true);
+    });
+}
+
+void FormMirror::Bind(QCheckBox* box, const CheckBox& control) {
+    AddCommon(box, control);
+    Follow(box, control);
+    const std::string_view name = control.name;
+    QObject::connect(box, &QCheckBox::clicked, box,
+                     [this, name](bool on) { Perform([&] { window_.UserCheck(name, on); }); });
+    writers_.push_back([box, &control] {
+        const QString text = ShownText(control.text);
+        if (box->text() != text) box->setText(text);
+        if (box->isChecked() != control.on) box->setChecked(control.on);
+    });
+}
+
+void FormMirror::Bind(QComboBox* box, const ComboBox& control) {
+    AddCommon(box, control);
+    const std::string_view name = control.name;
+    box->setEditable(control.takes_any_text);
+    QObject::connect(box, &QComboBox::activated, box, [this, name](int index) {
+        Perform([&] { window_.UserSelect(name, index); });
+    });
+    if (QLineEdit* edit = box->lineEdit()) {
+        QObject::connect(edit, &QLineEdit::textEdited, edit, [this, name](const QString& text) {
+            Perform([&] { window_.UserSetText(name, text.toStdString()); });
+        });
+        QObject::connect(edit, &QLineEdit::returnPressed, edit,
+                         [this, name] { Perform([&] { window_.UserReturn(name); }); });
+    }
+    writers_.push_back([box, &control] {
+        const QStringList items = TextsOf(control);
+        if (ItemsOf(*box) != items) {
+            box->clear();
+            box->addItems(items);
+        }
+        if (box->currentIndex() != control.index) box->setCurrentIndex(control.index);
+        const QString text = Utf8(control.text);
+        if (box->isEditable() && box->currentText() != text) box->setEditText(text);
+    });
+}
+
+void FormMirror::Bind(QListWidget* list, const ListBox& control) {
+    AddCommon(list, control);
+    AddColours(list, control);
+    const std::string_view name = control.name;
+    const auto select = [this, list, name] {
+        const int row = list->currentRow();
+        if (row >= 0) Perform([&] { window_.UserSelect(name, row); });
+    };
+    // A click on the item that is chosen already is a choice too; the arrow keys only move the row.
+    // Rows that the form itself has set are no acts.
+    QObject::connect(list, &QListWidget::itemClicked, list, select);
+    QObject::connect(list, &QListWidget::currentRowChanged, list, [&control, select](int row) {
+        const bool by_key = QApplication::mouseButtons() == Qt::NoButton;
+        if (by_key && row != control.index) select();
+    });
+    QObject::connect(list, &QListWidget::itemDoubleClicked, list,
+                     [this, name] { Perform([&] { window_.UserDoubleClick(name); }); });
+    QObject::connect(list, &QListWidget::itemActivated, list, [this, list, name, select] {
+        if (!list->hasFocus() || QApplication::mouseButtons() != Qt::NoButton) return;
+        select();
+        Perform([&] { window_.UserReturn(name); });
+    });
+    writers_.push_back([list, &control, shown = QStringList()]() mutable {
+        const QStringList items = TextsOf(control);
+        if (shown != items) {
+            shown = items;
+            list->clear();
+            list->addItems(items);
+        }
+        if (list->currentRow() != control.index) list->setCurrentRow(control.index);
     });
 }
 

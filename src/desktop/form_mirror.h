@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -13,7 +16,8 @@
 #include <vector>
 
 #include "desktop/pictures.h"
-#include "shell/window_form.h"
+#include "forms/choice_list.h"
+#include "forms/window_form.h"
 
 namespace zandrell {
 
@@ -37,6 +41,9 @@ class FormMirror {
     void Bind(QLineEdit* field, const TextField& control);
     void Bind(QSlider* bar, const ScrollBar& control);
     void Bind(QRadioButton* option, const OptionButton& control);
+    void Bind(QCheckBox* box, const CheckBox& control);
+    void Bind(QComboBox* box, const ComboBox& control);
+    void Bind(QListWidget* list, const ListBox& control);
     void Bind(QAction* action, const MenuEntry& control);
     void Bind(QMenu* menu, const MenuEntry& control);
     // A picture button with its caption, if any; a click does what a click on either does.

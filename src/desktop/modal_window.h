@@ -3,7 +3,7 @@
 #include <QDialog>
 
 #include "desktop/form_mirror.h"
-#include "shell/window_form.h"
+#include "forms/window_form.h"
 
 namespace zandrell {
 

@@ -40,6 +40,18 @@ void QtUser::ShowMessage(const Message& message) {
     box.exec();
 }
 
+bool QtUser::Confirm(const Message& question) {
+    Refresh();
+    if (on_message) on_message(question);
+    QWidget* active = QApplication::activeModalWidget();
+    QMessageBox box(QMessageBox::Question, QString::fromStdString(question.title),
+                    QString::fromStdString(question.text), QMessageBox::Yes | QMessageBox::No,
+                    active ? active : opener_.window);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 void QtUser::ShowModal(ModalForm& window) {
     Refresh();
     if (auto* options = dynamic_cast<OptionsForm*>(&window); options && opener_.form) {
@@ -58,7 +70,9 @@ void QtUser::WaitMilliseconds(int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(std::min(milliseconds, kLongestWait)));
 }
 
-void QtUser::CopyChart(MainForm& form) {
+void QtUser::CopyChart() {
+    if (!opener_.form) return;
+    const MainForm& form = *opener_.form;
     const auto& picture = form.chart.picture;
     auto* data = new QMimeData;
     data->setImageData(ChartImage(picture, form.overlay, kCopyWidth, kCopyHeight));

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "desktop/pictures.h"
+#include "forms/user_interface.h"
 #include "shell/main_form.h"
-#include "shell/user_interface.h"
 
 namespace zandrell {
 
@@ -33,7 +33,8 @@ class QtUser : public UserInterface {
     // A form without a window of its own here counts as cancelled: nobody could close it.
     void ShowModal(ModalForm& window) override;
     void WaitMilliseconds(int milliseconds) override;
-    void CopyChart(MainForm& form) override;
+    bool Confirm(const Message& question) override;
+    void CopyChart() override;
     bool ChoosePrinter(const std::string& title) override;
 
     // The printer chosen last, the system's own before that.

@@ -17,6 +17,10 @@ std::string_view KindWord(ControlKind kind) {
             return "option";
         case ControlKind::CheckBox:
             return "check";
+        case ControlKind::List:
+            return "list";
+        case ControlKind::ComboBox:
+            return "combo";
         case ControlKind::Panel:
             return "panel";
         case ControlKind::Picture:

@@ -13,6 +13,8 @@ enum class ControlKind {
     MenuEntry,
     OptionButton,
     CheckBox,
+    List,
+    ComboBox,
     Panel,
     Picture,
     ScrollBar,

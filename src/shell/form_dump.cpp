@@ -3,6 +3,8 @@
 #include <functional>
 #include <utility>
 
+#include "forms/choice_list.h"
+
 namespace zandrell {
 namespace {
 
@@ -122,6 +124,12 @@ void AddScrollBar(const ScrollBar& bar, Json& json) {
     json["max"] = bar.HighEnd();
 }
 
+void AddChoiceList(const ChoiceList& list, Json& json) {
+    json["items"] = list.items;
+    json["index"] = list.index;
+    json["text"] = list.text;
+}
+
 void AddMark(const Mark& mark, Json& json) {
     json["left"] = mark.left;
     json["top"] = mark.top;
@@ -155,6 +163,10 @@ void AddOwn(const Control& control, Json& json) {
         case ControlKind::CheckBox:
             json["text"] = control.text;
             json["value"] = static_cast<const CheckBox&>(control).on;
+            break;
+        case ControlKind::List:
+        case ControlKind::ComboBox:
+            AddChoiceList(static_cast<const ChoiceList&>(control), json);
             break;
         case ControlKind::Panel:
         case ControlKind::Picture:

@@ -1,7 +1,9 @@
 #include "shell/form_script.h"
 
 #include <algorithm>
+#include <fstream>
 #include <istream>
+#include <iterator>
 #include <optional>
 #include <ostream>
 #include <sstream>
@@ -44,6 +46,13 @@ std::string ValueOf(std::string_view line) {
     return place == std::string_view::npos ? std::string() : std::string(line.substr(place + 1));
 }
 
+bool ReadWholeFile(const std::string& path, std::string& content) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return false;
+    content.assign(std::istreambuf_iterator<char>(file), {});
+    return !file.bad();
+}
+
 // The reaction of a bar to a key; empty for a key that moves nothing.
 std::optional<int> BarPositionAfter(const ScrollBar& bar, const std::string& key) {
     const int least = std::min(bar.LowEnd(), bar.HighEnd());
@@ -59,7 +68,15 @@ std::optional<int> BarPositionAfter(const ScrollBar& bar, const std::string& key
 }
 
 std::string_view IconWord(MessageIcon icon) {
-    return icon == MessageIcon::Stop ? "stop" : "information";
+    switch (icon) {
+        case MessageIcon::Stop:
+            return "stop";
+        case MessageIcon::Question:
+            return "question";
+        case MessageIcon::Information:
+            break;
+    }
+    return "information";
 }
 
 bool Fail(std::string& error, const std::string& reason) {
@@ -159,12 +176,25 @@ bool FormScript::RunControlAct(const std::string& act, const std::string& name,
                                const std::string& value, std::string& error) {
     Target target;
     const bool known = act == "set" || act == "return" || act == "click" || act == "choose" ||
-                       act == "check" || act == "select" || act == "scroll" || act == "key";
+                       act == "check" || act == "select" || act == "pick" || act == "doubleclick" ||
+                       act == "fill" || act == "scroll" || act == "key";
     if (!known) return Fail(error, "unknown act: " + act);
     if (!Find(name, target, error)) return false;
     WindowForm& window = *target.window;
     bool done = false;
     if (act == "set") done = window.UserSetText(target.control, value);
+    if (act == "fill") {
+        std::string content;
+        if (!ReadWholeFile(value, content)) return Fail(error, value + ": can not be read");
+        done = window.UserSetText(target.control, content);
+    }
+    if (act == "pick") done = window.UserPick(target.control, value);
+    if (act == "doubleclick") done = window.UserDoubleClick(target.control);
+    if (act == "select") {
+        int index = 0;
+        if (!ReadWhole(value, index)) return Fail(error, "select needs a whole position");
+        done = window.UserSelect(target.control, index);
+    }
     if (act == "return") done = window.UserReturn(target.control);
     if (act == "click") done = window.UserClick(target.control);
     if (act == "choose") done = window.UserChoose(target.control);
@@ -257,6 +287,14 @@ void ScriptedUser::ShowModal(ModalForm& window) {
     }
     if (!window.closed) window.UserClick(window.cancel_control);
     acts_->WindowClosed();
+}
+
+// Without an answer a question is refused: what a script does not say is not done.
+bool ScriptedUser::Confirm(const Message& question) {
+    if (acts_ == nullptr) return false;
+    acts_->NoteMessage(question);
+    const std::string answer = acts_->TakeAnswer();
+    return answer == "yes" || answer == "ok";
 }
 
 bool ScriptedUser::ChoosePrinter(const std::string& title) {

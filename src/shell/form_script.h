@@ -69,7 +69,8 @@ class ScriptedUser : public UserInterface {
     void ShowMessage(const Message& message) override;
     void ShowModal(ModalForm& window) override;
     void WaitMilliseconds(int /*milliseconds*/) override {}
-    void CopyChart(MainForm& /*form*/) override {}
+    bool Confirm(const Message& question) override;
+    void CopyChart() override {}
     bool ChoosePrinter(const std::string& title) override;
 
   private:

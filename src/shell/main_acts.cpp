@@ -49,7 +49,7 @@ void MainForm::BindMenuActs() {
     on_menu(controls.Heiz_start, [this] { OpenTool(kHeater); });
     on_menu(controls.Humid_W_Start, [this] { OpenTool(kWaterHumidifier); });
     on_menu(controls.Humid_D_Start, [this] { OpenTool(kSteamHumidifier); });
-    on_menu(controls.kopieren, [this] { user_.CopyChart(*this); });
+    on_menu(controls.kopieren, [this] { user_.CopyChart(); });
     on_menu(controls.Hsich, [this] { SaveWorkingState(true); });
     on_menu(controls.Hlad, [this] { acts.Perform(controls.PLbutt.picture.name, ActKind::Click); });
 }

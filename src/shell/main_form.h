@@ -4,6 +4,8 @@
 #include "base/data_files.h"
 #include "base/shared_values.h"
 #include "chart/chart_engine.h"
+#include "forms/user_interface.h"
+#include "forms/window_form.h"
 #include "kernel/state_solver.h"
 #include "processes/plant_panel.h"
 #include "processes/point_panel.h"
@@ -11,8 +13,6 @@
 #include "shell/main_controls.h"
 #include "shell/options_form.h"
 #include "shell/start_up.h"
-#include "shell/user_interface.h"
-#include "shell/window_form.h"
 
 namespace zandrell {
 

@@ -4,9 +4,9 @@
 #include "base/data_files.h"
 #include "base/shared_values.h"
 #include "chart/chart_settings.h"
+#include "forms/user_interface.h"
+#include "forms/window_form.h"
 #include "kernel/state_solver.h"
-#include "shell/user_interface.h"
-#include "shell/window_form.h"
 
 namespace zandrell {
 

@@ -87,7 +87,8 @@ class RandomAnswers : public UserInterface {
         script_->WindowClosed();
     }
     void WaitMilliseconds(int /*milliseconds*/) override {}
-    void CopyChart(MainForm& /*form*/) override {}
+    bool Confirm(const Message& /*question*/) override { return false; }
+    void CopyChart() override {}
     bool ChoosePrinter(const std::string& /*title*/) override { return false; }
 
     void SetScript(FormScript& script) { script_ = &script; }

@@ -1,4 +1,6 @@
-#include "shell/window_form.h"
+#include "forms/window_form.h"
+
+#include "forms/choice_list.h"
 
 namespace zandrell {
 namespace {
@@ -8,6 +10,14 @@ bool TakesInput(const Control& control) { return control.visible && control.enab
 bool IsButton(const Control& control) {
     return control.kind == ControlKind::Button || control.kind == ControlKind::MenuEntry ||
            control.kind == ControlKind::Panel || control.kind == ControlKind::Picture;
+}
+
+bool TakesText(const Control& control) {
+    return control.kind == ControlKind::TextField || control.kind == ControlKind::ComboBox;
+}
+
+bool TakesReturn(const Control& control) {
+    return TakesText(control) || control.kind == ControlKind::List;
 }
 
 }  // namespace
@@ -27,15 +37,20 @@ bool WindowForm::UserClick(std::string_view control_name) {
 
 bool WindowForm::UserReturn(std::string_view field) {
     Control* control = form.Find(field);
-    if (control == nullptr || control->kind != ControlKind::TextField) return false;
+    if (control == nullptr || !TakesReturn(*control)) return false;
     if (TakesInput(*control)) acts.Perform(field, ActKind::Return);
     return true;
 }
 
 bool WindowForm::UserSetText(std::string_view field, std::string_view text) {
     Control* control = form.Find(field);
-    if (control == nullptr || control->kind != ControlKind::TextField) return false;
-    if (TakesInput(*control)) control->text = text;
+    if (control == nullptr || !TakesText(*control)) return false;
+    if (!TakesInput(*control)) return true;
+    control->text = text;
+    if (auto* list = AsChoiceList(control)) {
+        list->Choose(text);
+        acts.Perform(field, ActKind::Change);
+    }
     return true;
 }
 
@@ -60,6 +75,31 @@ bool WindowForm::UserScroll(std::string_view bar, int position) {
     Control* control = form.Find(bar);
     if (control == nullptr || control->kind != ControlKind::ScrollBar) return false;
     if (TakesInput(*control)) static_cast<ScrollBar*>(control)->SetPosition(position);
+    return true;
+}
+
+bool WindowForm::UserPick(std::string_view list, std::string_view item) {
+    ChoiceList* choices = AsChoiceList(form.Find(list));
+    if (choices == nullptr) return false;
+    if (!TakesInput(*choices)) return true;
+    if (!choices->Choose(item)) return false;
+    acts.Perform(list, ActKind::Select);
+    return true;
+}
+
+bool WindowForm::UserSelect(std::string_view list, int index) {
+    ChoiceList* choices = AsChoiceList(form.Find(list));
+    if (choices == nullptr) return false;
+    if (!TakesInput(*choices)) return true;
+    if (!choices->Choose(index)) return false;
+    acts.Perform(list, ActKind::Select);
+    return true;
+}
+
+bool WindowForm::UserDoubleClick(std::string_view list) {
+    ChoiceList* choices = AsChoiceList(form.Find(list));
+    if (choices == nullptr) return false;
+    if (TakesInput(*choices)) acts.Perform(list, ActKind::DoubleClick);
     return true;
 }
 

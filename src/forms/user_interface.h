@@ -5,9 +5,8 @@
 namespace zandrell {
 
 class ModalForm;
-class MainForm;
 
-enum class MessageIcon { Stop, Information };
+enum class MessageIcon { Stop, Information, Question };
 
 struct Message {
     std::string title;
@@ -22,11 +21,13 @@ class UserInterface {
     virtual ~UserInterface() = default;
 
     virtual void ShowMessage(const Message& message) = 0;
+    // A yes/no question; closing the box by its frame is a no.
+    virtual bool Confirm(const Message& question) = 0;
     // Shows a window and returns when its `closed` is set.
     virtual void ShowModal(ModalForm& window) = 0;
     virtual void WaitMilliseconds(int milliseconds) = 0;
     // The chart with its process goes to the clipboard.
-    virtual void CopyChart(MainForm& form) = 0;
+    virtual void CopyChart() = 0;
     // The system's own printer dialog. Returns whether it was not cancelled.
     virtual bool ChoosePrinter(const std::string& title) = 0;
 };

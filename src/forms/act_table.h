@@ -8,11 +8,11 @@
 
 namespace zandrell {
 
-// What a user can do to a control.
-enum class ActKind { Click, Press, Release, Return, Choose, Check, Change, Select };
+// What a user can do to a control. Typing runs nothing, except in a combo box, where it is Change.
+enum class ActKind { Click, Press, Release, Return, Choose, Check, Change, Select, DoubleClick };
 
-// The one list of what a user can do in a window: the windows bind from it, scripts and tests call
-// it.
+// The one list of what happens when a user acts in a window. Every act of a widget, a script or a
+// test ends in Perform; a control without an entry takes the act and runs nothing.
 class ActTable {
   public:
     using Handler = std::function<void()>;

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "forms/act_table.h"
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
-#include "shell/act_table.h"
 
 namespace zandrell {
 
@@ -32,6 +32,10 @@ class WindowForm {
     bool UserChoose(std::string_view option);
     bool UserCheck(std::string_view box, bool on);
     bool UserScroll(std::string_view bar, int position);
+    // In a list, a combo box or a folder tree. False also when there is no such item.
+    bool UserPick(std::string_view list, std::string_view item);
+    bool UserSelect(std::string_view list, int index);
+    bool UserDoubleClick(std::string_view list);
 };
 
 // A window that its opener waits for. It leaves by setting `closed`.
