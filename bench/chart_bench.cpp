@@ -48,7 +48,7 @@ void PaintWithColdCache(benchmark::State& state) {
         state.PauseTiming();
         started.DropCache();
         state.ResumeTiming();
-        started.form.chart.DiagrammZeichnen(kPaintWhole, 0, 0, pressure);
+        started.form.chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, pressure);
     }
 }
 BENCHMARK(PaintWithColdCache)->Unit(benchmark::kMillisecond);
@@ -56,7 +56,7 @@ BENCHMARK(PaintWithColdCache)->Unit(benchmark::kMillisecond);
 void PaintWithWarmCache(benchmark::State& state) {
     StartedForm started;
     double pressure = 0;
-    for (auto _ : state) started.form.chart.DiagrammZeichnen(kPaintWhole, 0, 0, pressure);
+    for (auto _ : state) started.form.chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, pressure);
 }
 BENCHMARK(PaintWithWarmCache)->Unit(benchmark::kMillisecond);
 
@@ -76,7 +76,8 @@ void DragOfAThousandMovesInThePlant(benchmark::State& state) {
     form.UserClick("AnlageButt");
     const Mark& mark = form.overlay.PP2;
     form.PointerPress(PointerButton::Left, {mark.left + 6, mark.top + 6});
-    if (form.PP2Gefasst != 1) state.SkipWithError("the mark was not picked up");
+    if (!form.Pointer().IsCarried(form.overlay.PP2))
+        state.SkipWithError("the mark was not picked up");
     for (auto _ : state) {
         for (int i = 0; i < 1000; ++i) form.PointerMove({450 + 0.2 * i, 90 + 0.05 * i});
     }

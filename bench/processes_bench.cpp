@@ -3,13 +3,12 @@
 #include <array>
 
 #include "base/data_files.h"
-#include "processes/plant_panel.h"
-#include "processes/point_panel.h"
+#include "processes/process_panels.h"
 
 namespace zandrell {
 namespace {
 
-// Both panels without a window; the bars are not bound, so nothing runs nested.
+// Both panels without a window, bound as the program binds them.
 struct Processes {
     SharedValues shared;
     Captions captions;
@@ -19,14 +18,15 @@ struct Processes {
     ChartScale scale;
     Overlay overlay;
     ReadOutPanel read_out;
-    ProcessFigures figures;
-    ProcessContext context{shared, captions, solver, settings, scale, overlay, read_out, figures};
-    PointPanel point{context};
-    PlantPanel plant{context};
+    ProcessPanels panels{{shared, captions, solver, settings, scale, overlay, read_out}};
+    PointPanel& point = panels.point;
+    PlantPanel& plant = panels.plant;
+    ActTable acts;
 
     Processes() {
         solver.ChartDruckBar = 1.013;
         ApplyBaseScale(settings, scale);
+        panels.BindActs(acts);
     }
 
     void SetPlant(const std::array<const char*, 12>& texts) {
@@ -36,6 +36,7 @@ struct Processes {
             &plant.tKA,      &plant.phiKanal,  &plant.dtVent1, &plant.dtVent2};
         for (std::size_t i = 0; i < fields.size(); ++i) fields[i]->text = texts[i];
         plant.TakeBarsFromFields();
+        panels.Rechenmodus = Calculation::Plant;
     }
 };
 
@@ -71,7 +72,7 @@ void PlantWinterWater(benchmark::State& state) {
 }
 BENCHMARK(PlantWinterWater);
 
-void PointMode(benchmark::State& state, int mode) {
+void PointMode(benchmark::State& state, Calculation mode) {
     Processes processes;
     PointPanel& panel = processes.point;
     panel.Temp1.text = "20";
@@ -82,13 +83,13 @@ void PointMode(benchmark::State& state, int mode) {
     unsigned run = 0;
     for (auto _ : state) {
         panel.Temp2.text = ++run % 2 == 0 ? "15" : "15.1";
-        panel.ZustandRechnen(mode, kMarksFromFields);
+        panel.ZustandRechnen(mode, MarkPlacing::FromFields);
         benchmark::DoNotOptimize(processes.overlay.PP2.left);
     }
 }
-BENCHMARK_CAPTURE(PointMode, capacity, kCapacity);
-BENCHMARK_CAPTURE(PointMode, mixing, kMixing);
-BENCHMARK_CAPTURE(PointMode, water_humidifier, kWaterHumidifier);
+BENCHMARK_CAPTURE(PointMode, capacity, Calculation::Capacity);
+BENCHMARK_CAPTURE(PointMode, mixing, Calculation::Mixing);
+BENCHMARK_CAPTURE(PointMode, water_humidifier, Calculation::WaterHumidifier);
 
 }  // namespace
 }  // namespace zandrell

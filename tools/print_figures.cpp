@@ -22,7 +22,7 @@ std::string OneLine(const std::string& text) {
 }
 
 std::vector<Row> InputRows(const MainForm& form) {
-    const auto& p = form.plant_panel;
+    const auto& p = form.processes.plant;
     return {{"flow, m3/h", p.vhAnlage.text},
             {"inner and outer share, m3/h", p.vhinnen.text + " /" + p.vhaussen.text},
             {"exhaust air, degC and %", p.tabLuft.text + " / " + p.PHIAbluft.text},
@@ -34,7 +34,7 @@ std::vector<Row> InputRows(const MainForm& form) {
 }
 
 std::vector<Row> ResultRows(const MainForm& form) {
-    const auto& p = form.plant_panel;
+    const auto& p = form.processes.plant;
     return {{"room, total", p.RaumLeist.text},
             {"room, sensible", p.RaumSensLeist.text},
             {"room, latent", p.RaumLatLeist.text},

@@ -9,6 +9,13 @@ inline constexpr std::string_view CrLf = "\r\n";
 inline constexpr std::string_view ColonSuffix = " :";
 inline constexpr std::string_view kVersion = "10.11.2";
 
+// Why the next activation of the main window is only an echo and reloads nothing: a dialog or a
+// calculation is on its way, or a flow was just typed.
+enum class DialogEcho { None = 0, Expected = 1, FlowTyped = 5 };
+
+// How the options were left.
+enum class OptionsSignal { None = 0, Taken = 77, Cancelled = 88 };
+
 // The values that every part of one running program shares: the suite's settings, and the small
 // integers by which windows tell each other what has happened. Owned by whoever starts the program.
 struct SharedValues {
@@ -38,9 +45,9 @@ struct SharedValues {
     int ProjektArt = 0;
     double project_pressure_bar = 0;  // the pressure stored with a project of kind 111
 
-    int ZurueckVomDialog = 0;  // not 0: an activation is the echo of a dialog and reloads nothing
+    DialogEcho ZurueckVomDialog = DialogEcho::None;
     int DialogMode = 0;
-    int OptionenSignal = 0;  // 77 taken, 88 cancelled
+    OptionsSignal OptionenSignal = OptionsSignal::None;
 
     double AuswahlLeistung = 0;   // kW, noted for a selection dialog
     double AuswahlLuftstrom = 0;  // m3/h, the same

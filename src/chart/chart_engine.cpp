@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view kSettingsFile = "qv_par.dat";
 constexpr int kProjectWithPressure = 111;
+constexpr double kToolColumnTwips = 2600;  // as designed
 
 }  // namespace
 
@@ -40,13 +41,14 @@ ChartEngine::ChartEngine(const DataFiles& files, SharedValues& shared, const Cap
       read_out_(read_out),
       cache_(files) {}
 
-void ChartEngine::DiagrammZeichnen(int modus, double a, double b, double& druck) {
-    if (printing && modus != kPaintPrinter) return;
-    const bool reading = modus == kReadOutWhole || modus == kReadOutAsScaled;
+void ChartEngine::DiagrammZeichnen(ChartTask modus, double a, double b, double& druck) {
+    if (printing && modus != ChartTask::PaintPrinter) return;
+    const bool reading = modus == ChartTask::ReadOutWhole || modus == ChartTask::ReadOutAsScaled;
     ReadSettings(druck);
-    if (modus != kReadOutWhole) ApplyColours();
-    if (modus == kPaintWhole || modus == kReadOutWhole) ApplyBaseScale(settings, scale);
-    if (modus == kPaintZoomed) {
+    if (modus != ChartTask::ReadOutWhole) ApplyColours();
+    if (modus == ChartTask::PaintWhole || modus == ChartTask::ReadOutWhole)
+        ApplyBaseScale(settings, scale);
+    if (modus == ChartTask::PaintZoomed) {
         const auto& frame = controls.ZoomShape;
         ApplyZoom({frame.left, frame.top, frame.width, frame.height}, a, b, scale);
     }
@@ -58,7 +60,7 @@ void ChartEngine::DiagrammZeichnen(int modus, double a, double b, double& druck)
         return;
     }
     PlaceLogo();
-    if (modus != kPaintPrinter) {
+    if (modus != ChartTask::PaintPrinter) {
         const bool light = settings.Helligkeit == kWhiteGround;
         const bool grey = shared_.SkinNumber >= 2 && shared_.SkinNumber <= 5;
         picture.Clear(light ? (grey ? kLightGreyValue : kWhite) : kBlack, light ? kBlack : kWhite);
@@ -68,10 +70,12 @@ void ChartEngine::DiagrammZeichnen(int modus, double a, double b, double& druck)
     }
 }
 
+double ToolColumnShare(int width_twips) { return (width_twips + kToolColumnTwips) / width_twips; }
+
 void ChartEngine::TakeAspect(int width_twips) {
     if (width_twips <= 0) return;
-    const double tool_column = (width_twips + 2600.0) / width_twips;
-    AssignFinite(scale.CarrierFaktor, (tool_column * BreiteLogisch + 10) / HoeheLogisch);
+    AssignFinite(scale.CarrierFaktor,
+                 (ToolColumnShare(width_twips) * BreiteLogisch + 10) / HoeheLogisch);
 }
 
 void ChartEngine::ReadSettings(double& druck) {

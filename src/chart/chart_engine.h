@@ -14,9 +14,14 @@
 
 namespace zandrell {
 
-// What DiagrammZeichnen is asked to do.
-inline constexpr int kPaintWhole = 1, kReadOutWhole = 2, kPaintZoomed = 3, kPaintPrinter = 4,
-                     kReadOutAsScaled = 5;
+// What DiagrammZeichnen is asked to do (`modus`).
+enum class ChartTask {
+    PaintWhole = 1,
+    ReadOutWhole = 2,
+    PaintZoomed = 3,
+    PaintPrinter = 4,
+    ReadOutAsScaled = 5
+};
 
 // Controls that belong to the chart's surface: progress, logo, and the rubber frame of a zoom.
 struct ChartControls {
@@ -29,6 +34,9 @@ struct ChartControls {
     ChartControls();
     void ListControls(Form& form);
 };
+
+// The width of a window with its column of tools, as a multiple of the width without.
+double ToolColumnShare(int width_twips);
 
 // The one routine behind everything that is drawn on the chart and read from it. The picture is
 // kept as a list of strokes, so that windows, files and printers can show it at any size.
@@ -47,11 +55,11 @@ class ChartEngine {
     int BreiteLogisch = 2000, HoeheLogisch = 580;
     bool printing = false;  // a print-out runs: only painting on the printer does anything
     std::optional<int> kind_override;  // a chart kind that is not to be kept in the settings
-    Canvas* printer = nullptr;         // the target of kPaintPrinter
+    Canvas* printer = nullptr;         // the target of ChartTask::PaintPrinter
 
-    // a and b are the zoom factors for kPaintZoomed (the frame is ZoomShape), the pointer's place
-    // for the read-outs. `druck` (bar) receives the pressure in force.
-    void DiagrammZeichnen(int modus, double a, double b, double& druck);
+    // a and b are the zoom factors for ChartTask::PaintZoomed (the frame is ZoomShape), the
+    // pointer's place for the read-outs. `druck` (bar) receives the pressure in force.
+    void DiagrammZeichnen(ChartTask modus, double a, double b, double& druck);
 
     // The window's width and height in twips give the aspect of the Carrier chart.
     void TakeAspect(int width_twips);

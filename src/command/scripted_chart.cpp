@@ -28,17 +28,8 @@ bool ScriptedChart::RunScript(std::string& error) {
     return false;
 }
 
-// The frame that a user would draw, and the click into it.
 bool ScriptedChart::Zoom(const ZoomFrame& zoom, std::string& error) {
-    auto& frame = form_.chart.controls.ZoomShape;
-    frame.left = zoom.left;
-    frame.top = zoom.top;
-    frame.width = zoom.width;
-    frame.height = zoom.height;
-    form_.PanelZustand = kInsideFrame;
-    form_.PointerPress(PointerButton::Left,
-                       {zoom.left + zoom.width / 2, zoom.top + zoom.height / 2});
-    if (form_.PanelZustand == kZoomed) return true;
+    if (form_.ZoomInto({zoom.left, zoom.top}, zoom.width, zoom.height)) return true;
     error = "no zoom while the script leaves a mark hanging on the pointer";
     return false;
 }

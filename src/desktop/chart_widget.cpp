@@ -22,17 +22,18 @@ QRectF Centred(QPointF centre, QSizeF size) {
     return {centre - QPointF(size.width() / 2, size.height() / 2), size};
 }
 
-Qt::CursorShape ShapeOf(int pointer_kind) {
-    switch (pointer_kind) {
-        case kCrossPointer:
+Qt::CursorShape ShapeOf(PointerShape shape) {
+    switch (shape) {
+        case PointerShape::Cross:
             return Qt::CrossCursor;
-        case kMovePointer:
+        case PointerShape::Move:
             return Qt::SizeAllCursor;
-        case kBusyPointer:
+        case PointerShape::Busy:
             return Qt::WaitCursor;
-        default:
-            return Qt::ArrowCursor;
+        case PointerShape::Arrow:
+            break;
     }
+    return Qt::ArrowCursor;
 }
 
 // The logo is drawn for white paper; on a dark ground only its shape is kept.
@@ -187,9 +188,10 @@ void ChartWidget::SyncFrames() {
 }
 
 void ChartWidget::SyncPointer() {
-    if (shown_pointer_ == form_.MousePointer) return;
-    shown_pointer_ = form_.MousePointer;
-    setCursor(ShapeOf(shown_pointer_));
+    const PointerShape wanted = form_.Pointer().MousePointer();
+    if (shown_pointer_ == wanted) return;
+    shown_pointer_ = wanted;
+    setCursor(ShapeOf(wanted));
 }
 
 void ChartWidget::paintEvent(QPaintEvent* event) {
@@ -237,19 +239,12 @@ void ChartWidget::resizeEvent(QResizeEvent*) {
 // A mark is a ring of some pixels, while the form looks for the pointer in a box of canvas units,
 // which is narrow on most screens: a press on a ring counts as one on its centre.
 CanvasPoint ChartWidget::SnappedToMark(QPointF place) const {
-    const auto& overlay = form_.overlay;
-    const bool carries =
-        form_.PP1Gefasst + form_.PP2Gefasst + form_.PP5Gefasst + form_.PP6Gefasst > 0;
-    const bool panel_open =
-        form_.PanelZustand == kPlantPanelOpen || form_.PanelZustand == kPointPanelOpen;
-    const CanvasPoint exact = ToCanvas(place);
-    if (carries || !panel_open) return exact;
     const double reach = kGrabRadiusShare * MarkRadius(View()) / devicePixelRatioF();
-    for (const Mark* mark : {&overlay.PP1, &overlay.PP2, &overlay.PP6, &overlay.PP5}) {
+    for (const Mark* mark : form_.Pointer().MarksToPickUp()) {
         const QPointF away = ToWidget(mark->state) - place;
-        if (mark->visible && std::hypot(away.x(), away.y()) <= reach) return mark->state;
+        if (std::hypot(away.x(), away.y()) <= reach) return mark->state;
     }
-    return exact;
+    return ToCanvas(place);
 }
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {
@@ -265,7 +260,7 @@ void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
     const CanvasPoint place = ToCanvas(event->position());
     perform([&] {
         if (IsDragging()) {
-            form_.PanelMove(place);
+            form_.Panels().Move(place);
         } else {
             form_.PointerMove(place);
         }
@@ -279,9 +274,7 @@ void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
     }
     const bool right = event->button() == Qt::RightButton;
     if (!right && event->button() != Qt::LeftButton) return;
-    const CanvasPoint place = ToCanvas(event->position());
-    perform(
-        [&] { form_.PointerRelease(right ? PointerButton::Right : PointerButton::Left, place); });
+    perform([&] { form_.PointerRelease(right ? PointerButton::Right : PointerButton::Left); });
 }
 
 // The second press of a quick pair is a press like any other.
@@ -290,16 +283,10 @@ void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(ev
 // The right button acts when it is let go; a menu of the toolkit must not come first.
 void ChartWidget::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 
-// Escape drops a zoom frame: the pointer leaves it and is pressed outside.
 void ChartWidget::keyPressEvent(QKeyEvent* event) {
-    const auto& zoom = form_.chart.controls.ZoomShape;
-    if (event->key() != Qt::Key_Escape || !zoom.visible) return QWidget::keyPressEvent(event);
-    const CanvasPoint outside{zoom.left - 1, zoom.top - 1};
-    perform([&] {
-        form_.PointerRelease(PointerButton::Left, outside);
-        form_.PointerMove(outside);
-        form_.PointerPress(PointerButton::Left, outside);
-    });
+    const bool has_frame = form_.chart.controls.ZoomShape.visible;
+    if (event->key() != Qt::Key_Escape || !has_frame) return QWidget::keyPressEvent(event);
+    perform([&] { form_.DropFrame(); });
 }
 
 void ChartWidget::TakeDrag(QSize outline) {
@@ -309,7 +296,7 @@ void ChartWidget::TakeDrag(QSize outline) {
 
 void ChartWidget::EndDrag() {
     releaseMouse();
-    perform([&] { form_.PanelRelease(); });
+    perform([&] { form_.Panels().Release(); });
     outline_size_.reset();
     Sync();
 }

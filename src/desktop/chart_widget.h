@@ -71,7 +71,7 @@ class ChartWidget : public QWidget {
     int shown_revision_ = -1;
     OverlayDrawing shown_overlay_;
     Frames shown_frames_;
-    int shown_pointer_ = -1;
+    PointerShape shown_pointer_ = PointerShape::Arrow;
     std::optional<QSize> outline_size_;
 };
 

@@ -105,8 +105,8 @@ void FloatingPanel::mousePressEvent(QMouseEvent* event) {
     // The panel hides while it is dragged, so the chart goes on with the pointer.
     chart_.TakeDrag(outline);
     chart_.perform([&] {
-        form_.PanelPress(panel_, place);
-        form_.PanelMove(chart_.ToCanvas(mapToParent(event->position())));
+        form_.Panels().Press(panel_, place);
+        form_.Panels().Move(chart_.ToCanvas(mapToParent(event->position())));
     });
 }
 
@@ -116,9 +116,9 @@ void FloatingPanel::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
 void FloatingPanel::MoveBy(QPointF pixels) {
     const QPointF grip = QPointF(pos()) + QPointF(kShadow, kShadow);
     mirror_.Perform([&] {
-        form_.PanelPress(panel_, AsSeenByForm(grip));
-        form_.PanelMove(chart_.ToCanvas(grip + pixels));
-        form_.PanelRelease();
+        form_.Panels().Press(panel_, AsSeenByForm(grip));
+        form_.Panels().Move(chart_.ToCanvas(grip + pixels));
+        form_.Panels().Release();
     });
 }
 

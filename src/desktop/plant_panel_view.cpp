@@ -146,7 +146,7 @@ QHBoxLayout* MakeFooter(PlantPanel& panel, const MainControls& controls, PanelBu
 }  // namespace
 
 FloatingPanel* MakePlantPanelView(MainForm& form, FormMirror& mirror, ChartWidget& chart) {
-    PlantPanel& panel = form.plant_panel;
+    PlantPanel& panel = form.processes.plant;
     auto* view = new FloatingPanel(form, panel.Frame1, mirror, chart, panel.AnlageAbButt.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);

@@ -93,7 +93,7 @@ QHBoxLayout* MakeFooter(PointPanel& panel, PanelBuilder& build, const MenuEntry&
 }  // namespace
 
 FloatingPanel* MakePointPanelView(MainForm& form, FormMirror& mirror, ChartWidget& chart) {
-    PointPanel& panel = form.point_panel;
+    PointPanel& panel = form.processes.point;
     auto* view = new FloatingPanel(form, panel.Anlage1PN, mirror, chart, panel.abbcom.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/number_text.h"
+
 namespace zandrell {
 
 ScrollBar::ScrollBar(std::string_view bar_name, int low_end, int high_end)
@@ -13,6 +15,10 @@ bool ScrollBar::SetPosition(std::optional<int> position) {
     if (*position < least || *position > most) return false;
     MoveTo(*position);
     return true;
+}
+
+bool ScrollBar::ShowTenths(double value) {
+    return SetPosition(RoundToInteger(kBarUnitsPerField * value));
 }
 
 void ScrollBar::SetRange(int low_end, int high_end) {

@@ -7,6 +7,9 @@
 
 namespace zandrell {
 
+// Bars of temperatures and humidities count in tenths of what their field shows.
+inline constexpr double kBarUnitsPerField = 10;
+
 // A scroll bar: a position within a range, and a handler that runs whenever the position really
 // changes, at once and inside the call that moves it. A range whose low end lies above its high end
 // spans the numbers between them.
@@ -21,6 +24,9 @@ class ScrollBar : public Control {
     // Refuses a position outside the range: nothing moves, nothing fires, and the result is false.
     // An empty position, a number that could not be rounded, is refused too.
     bool SetPosition(std::optional<int> position);
+
+    // The position that stands for a field's value; one outside the range is refused.
+    bool ShowTenths(double value);
 
     // A position that no longer fits moves to the nearer end and fires.
     void SetRange(int low_end, int high_end);

@@ -9,16 +9,11 @@
 namespace zandrell {
 namespace {
 
-constexpr double kBarUnitsPerField = 10;
 constexpr double kSecondsPerHour = 3600;
 constexpr double kMarkSize = 14;  // canvas units
 constexpr std::string_view kPowerUnit = " kW", kWaterUnit = " kg/h";
 static_assert(kPowerUnit.substr(1) == UnitKW);
 constexpr std::string_view kInTheFog = "> 100";  // what the pointer read-out leaves in a field
-
-void FollowValue(ScrollBar& bar, double value) {
-    bar.SetPosition(RoundToInteger(kBarUnitsPerField * value));
-}
 
 double ReadHumidity(const TextField& field) {
     return field.text == kInTheFog ? 100 : ParsedNumber(field.text);
@@ -48,13 +43,13 @@ void PlantPanel::TakeBarsFromFields() {
     if (least && most) {
         for (ScrollBar* bar : {&taScroll, &tzuScroll, &tabScroll}) bar->SetRange(*least, *most);
     }
-    FollowValue(taScroll, ParsedNumber(Taus.text));
-    FollowValue(tzuScroll, ParsedNumber(TZuluft.text));
+    taScroll.ShowTenths(ParsedNumber(Taus.text));
+    tzuScroll.ShowTenths(ParsedNumber(TZuluft.text));
     // Converted plainly, so that a decimal comma ends the number here: this is meant.
-    FollowValue(tabScroll, ToDouble(tabLuft.text));
-    FollowValue(Phiaussenscroll, ParsedNumber(PhiAussen.text));
-    FollowValue(PHIAbscroll, ParsedNumber(PHIAbluft.text));
-    FollowValue(PhiZuscroll, ParsedNumber(PHIZuluft.text));
+    tabScroll.ShowTenths(ToDouble(tabLuft.text));
+    Phiaussenscroll.ShowTenths(ParsedNumber(PhiAussen.text));
+    PHIAbscroll.ShowTenths(ParsedNumber(PHIAbluft.text));
+    PhiZuscroll.ShowTenths(ParsedNumber(PHIZuluft.text));
 }
 
 void PlantPanel::VolumenTeilen() {
@@ -137,9 +132,9 @@ void PlantPanel::HoldSupplyAboveCoil(const PlantInputs& inputs) {
 
 // As above: nested runs end first, and what this run then shows is what stays.
 void PlantPanel::MoveHumidityBars(const PlantInputs& inputs) {
-    if (inputs.phiAus <= 100) FollowValue(Phiaussenscroll, inputs.phiAus);
-    if (inputs.phiZu <= 100) FollowValue(PhiZuscroll, inputs.phiZu);
-    if (inputs.phiAb <= 100) FollowValue(PHIAbscroll, inputs.phiAb);
+    if (inputs.phiAus <= 100) Phiaussenscroll.ShowTenths(inputs.phiAus);
+    if (inputs.phiZu <= 100) PhiZuscroll.ShowTenths(inputs.phiZu);
+    if (inputs.phiAb <= 100) PHIAbscroll.ShowTenths(inputs.phiAb);
 }
 
 bool PlantPanel::MixExhaustAndOutside(PlantRun& run) {

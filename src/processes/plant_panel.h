@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+
+#include "forms/act_table.h"
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
@@ -45,6 +48,8 @@ class PlantPanel {
     int AnlageZweig = 0;  // 1: the run before went the way without cooler
 
     void ListControls(Form& form);
+    // What a user can do to the fields, bars and options. Opening and closing are the window's.
+    void BindActs(ActTable& acts);
 
     // Ranges and positions of the bars as the opening of the panel sets them.
     void TakeBarsFromFields();
@@ -60,6 +65,17 @@ class PlantPanel {
     void AnlageBerechnen();
 
   private:
+    // A field, the bar that writes it, and what Return in the field does before the plant is
+    // computed; false where that leaves nothing to compute.
+    struct Input {
+        TextField* field;
+        ScrollBar* bar;
+        std::function<bool()> before;
+    };
+    void Bind(ActTable& acts, const Input& input);
+    void BindOption(ActTable& acts, OptionButton& chosen, OptionButton& other);
+    bool IsInForce() const { return context_.Rechenmodus == Calculation::Plant; }
+
     bool ReadInputs(PlantInputs& inputs);
     double ReadFanRise(TextField& field);
     bool CorrectHumidities(PlantRun& run);

@@ -12,14 +12,12 @@ namespace zandrell {
 namespace {
 
 constexpr double kMarkCorner = 6;  // canvas units from a state up and left to its mark's corner
-constexpr double kBarUnitsPerField = 10;
 constexpr int kFlowBarEnd = 200, kFlowBarMiddle = 100;
 constexpr double kSecondsPerHour = 3600;
 constexpr double kKgPerHourOfGramPerSecond = 3.6;
 constexpr double kTrialFlow = 1000;  // m3/h
 
-bool IsTool(int mode) { return mode >= kCooler && mode <= kSteamHumidifier; }
-bool HasCapacity(int mode) { return mode == kCapacity || IsTool(mode); }
+bool HasCapacity(Calculation mode) { return mode == Calculation::Capacity || IsTool(mode); }
 bool IsHumidityInput(double percent) { return percent > 0 && percent <= 100; }
 
 void SetShown(Control& control, bool shown) {
@@ -27,20 +25,11 @@ void SetShown(Control& control, bool shown) {
     control.enabled = shown;
 }
 
-void FollowField(ScrollBar& bar, double value) {
-    bar.SetPosition(RoundToInteger(kBarUnitsPerField * value));
-}
-
 // The step is known before the bar moves, since the bar's handler multiplies by it.
 void CentreFlowBar(ScrollBar& bar, double& step, double flow) {
     step = flow / kFlowBarMiddle;
     bar.SetHighEnd(kFlowBarEnd);
     bar.SetPosition(kFlowBarMiddle);
-}
-
-void TakeFlowStep(const TextField& field, ScrollBar& bar, double& step) {
-    const double flow = ParsedNumber(field.text);
-    if (flow > 0) CentreFlowBar(bar, step, flow);
 }
 
 void ShowStateTexts(const AirState& state, Label& absolute, Label& enthalpy) {
@@ -61,18 +50,18 @@ void PointPanel::ListControls(Form& form) {
     form.Add({&VolBer, &VolBer_l, &wrgButt, &Command3D4, &abbcom, &Picture3});
 }
 
-void PointPanel::ShowForMode(int mode) {
+void PointPanel::ShowForMode(Calculation mode) {
     Overlay& overlay = context_.overlay;
     overlay.AnlageMarkenLoeschen();
     overlay.t1Lab.text = "1";
     overlay.t2lab.text = "2";
-    SetShown(FScroll2, mode != kHeater && mode != kWaterHumidifier);
-    if (mode == kSteamHumidifier) SetShown(Tscroll2, false);
+    SetShown(FScroll2, mode != Calculation::Heater && mode != Calculation::WaterHumidifier);
+    if (mode == Calculation::SteamHumidifier) SetShown(Tscroll2, false);
 
     Panel3D9.visible = HasCapacity(mode);
-    Label33.visible = LuftM1.visible = mode != kStateChange;
+    Label33.visible = LuftM1.visible = mode != Calculation::StateChange;
     SetShown(VScroll1, true);  // also with its flow field hidden in mode 1
-    ShowSecondFlow(mode == kMixing);
+    ShowSecondFlow(mode == Calculation::Mixing);
 
     const ChartSettings& settings = context_.settings;
     const auto least = RoundToInteger(kBarUnitsPerField * settings.ChartTMin);
@@ -106,8 +95,8 @@ bool PointPanel::WithinChart(const Inputs& inputs) const {
            in_range(inputs.t2);
 }
 
-void PointPanel::ZustandRechnen(int mode, int marke) {
-    context_.shared.ZurueckVomDialog = 1;
+void PointPanel::ZustandRechnen(Calculation mode, MarkPlacing marke) {
+    context_.shared.ZurueckVomDialog = DialogEcho::Expected;
     Inputs inputs = ReadInputs();
     bool states_known = EvaluateStates(inputs);
     if (IsTool(mode)) {
@@ -119,7 +108,7 @@ void PointPanel::ZustandRechnen(int mode, int marke) {
     MarkenSetzen(mode, marke);
     ShowBothMarks();
     if (!states_known) return;
-    if (mode == kMixing) ShowMixture(mode, inputs);
+    if (mode == Calculation::Mixing) ShowMixture(mode, inputs);
     if (HasCapacity(mode)) ShowCapacity(mode, inputs);
 }
 
@@ -144,7 +133,7 @@ bool PointPanel::EvaluateStates(const Inputs& inputs) {
 // State 2 anew from the texts that the tool wrote, so that the first capacity shown is the right
 // one. absF2 keeps what the tool wrote, and enth2 too behind the water humidifier. A first state
 // that was passed over because of the old text of the second is made up for.
-bool PointPanel::EvaluateFilledInState(int mode, bool states_known) {
+bool PointPanel::EvaluateFilledInState(Calculation mode, bool states_known) {
     const Inputs inputs = ReadInputs();
     StateSolver& solver = context_.solver;
     if (!WithinChart(inputs)) return false;
@@ -158,16 +147,28 @@ bool PointPanel::EvaluateFilledInState(int mode, bool states_known) {
     if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
     ZustandX2 = solver.ZustandX;
     enthalpy2_ = solver.ZustandH;
-    if (mode != kWaterHumidifier) ShowNumber(enth2, Cut(enthalpy2_ + 0.05, 10));
+    if (mode != Calculation::WaterHumidifier) ShowNumber(enth2, Cut(enthalpy2_ + 0.05, 10));
     return true;
 }
 
-void PointPanel::FillInSecondState(int mode, const Inputs& inputs) {
+void PointPanel::FillInSecondState(Calculation mode, const Inputs& inputs) {
     StateSolver& solver = context_.solver;
-    if (mode == kCooler) KeepHumidity(HumidityBehindCooler(solver, ZustandX1, inputs.t2));
-    if (mode == kHeater) KeepHumidity(HumidityBehindHeater(solver, ZustandX1, inputs.t2));
-    if (mode == kWaterHumidifier) HumidifyWithWater(inputs);
-    if (mode == kSteamHumidifier) HumidifyWithSteam(inputs);
+    switch (mode) {
+        case Calculation::Cooler:
+            return KeepHumidity(HumidityBehindCooler(solver, ZustandX1, inputs.t2));
+        case Calculation::Heater:
+            return KeepHumidity(HumidityBehindHeater(solver, ZustandX1, inputs.t2));
+        case Calculation::WaterHumidifier:
+            return HumidifyWithWater(inputs);
+        case Calculation::SteamHumidifier:
+            return HumidifyWithSteam(inputs);
+        case Calculation::None:
+        case Calculation::StateChange:
+        case Calculation::Capacity:
+        case Calculation::Mixing:
+        case Calculation::Plant:
+            return;
+    }
 }
 
 void PointPanel::KeepHumidity(std::optional<double> fraction) {
@@ -193,7 +194,7 @@ void PointPanel::HumidifyWithSteam(const Inputs& inputs) {
     Temp2.text = Temp1.text;
 }
 
-void PointPanel::ShowMixture(int mode, const Inputs& inputs) {
+void PointPanel::ShowMixture(Calculation mode, const Inputs& inputs) {
     if (!(inputs.LuftM1 > 0 && inputs.LuftM2 > 0)) return;
     const Mixture mixture = MixtureOf(context_.solver, FirstState(inputs.t1), inputs.LuftM1,
                                       SecondState(inputs.t2), inputs.LuftM2);
@@ -202,10 +203,10 @@ void PointPanel::ShowMixture(int mode, const Inputs& inputs) {
     ShowNumber(TempM, Cut(mixture.MischTemp, 100));
     ShowNumber(relFM, Cut(mixture.rel_percent, 100));
     ShowNumber(absFM, Cut(mixture.MischX, 100));
-    MarkenSetzen(mode, kMarksWithMixture);
+    MarkenSetzen(mode, MarkPlacing::WithMixture);
 }
 
-void PointPanel::ShowCapacity(int mode, const Inputs& inputs) {
+void PointPanel::ShowCapacity(Calculation mode, const Inputs& inputs) {
     if (!(inputs.LuftM1 > 0)) return;
     // The density of state 1 holds for the whole change.
     const double air_kg_per_s = inputs.LuftM1 * density1_ / kSecondsPerHour;
@@ -241,17 +242,17 @@ void PointPanel::ShowBothMarks() {
     }
 }
 
-void PointPanel::MarkenSetzen(int mode, int marke) {
-    const bool carried = marke == kFirstMarkCarried || marke == kSecondMarkCarried;
+void PointPanel::MarkenSetzen(Calculation mode, MarkPlacing marke) {
+    const bool carried = marke == MarkPlacing::FirstCarried || marke == MarkPlacing::SecondCarried;
     const std::string& pointer_t = context_.read_out.Temp.text;
     if (carried && pointer_t == "-") return;  // to where there is no air
-    const std::string& t1 = marke == kFirstMarkCarried ? pointer_t : Temp1.text;
-    const std::string& t2 = marke == kSecondMarkCarried ? pointer_t : Temp2.text;
+    const std::string& t1 = marke == MarkPlacing::FirstCarried ? pointer_t : Temp1.text;
+    const std::string& t2 = marke == MarkPlacing::SecondCarried ? pointer_t : Temp2.text;
 
     const CanvasPoint point1 = context_.scale.PointOf(ZustandX1, ParsedNumber(t1));
     CanvasPoint point2 = context_.scale.PointOf(ZustandX2, ParsedNumber(t2));
     // Heating is drawn as a vertical line whichever chart is on: this is meant.
-    if (mode == kHeater) point2.x = point1.x;
+    if (mode == Calculation::Heater) point2.x = point1.x;
 
     Overlay& overlay = context_.overlay;
     overlay.ZAeLine.Run(point1, point2);
@@ -259,7 +260,7 @@ void PointPanel::MarkenSetzen(int mode, int marke) {
     overlay.PP2.PlaceAt(point2, kMarkCorner);
     overlay.t1Lab.PlaceAt(point1);
     overlay.t2lab.PlaceAt(point2);
-    if (marke == kMarksWithMixture) PlaceMixture();
+    if (marke == MarkPlacing::WithMixture) PlaceMixture();
 }
 
 void PointPanel::PlaceMixture() {
@@ -278,40 +279,42 @@ void PointPanel::SchieberAbgleich() {
     // Each text is read when its turn comes: a bar that moves runs its handler, which may write it.
     const auto follow_temperature = [&](ScrollBar& bar, const TextField& field) {
         const double t = ParsedNumber(field.text);
-        if (t > settings.ChartTMin && t < settings.ChartTMax) FollowField(bar, t);
+        if (t > settings.ChartTMin && t < settings.ChartTMax) bar.ShowTenths(t);
     };
     const auto follow_humidity = [](ScrollBar& bar, const TextField& field) {
         const double percent = ParsedNumber(field.text);
-        if (IsHumidityInput(percent)) FollowField(bar, percent);
+        if (IsHumidityInput(percent)) bar.ShowTenths(percent);
     };
     follow_temperature(Tscroll1, Temp1);
     follow_temperature(Tscroll2, Temp2);
     follow_humidity(FScroll1, relF1);
     follow_humidity(FScroll2, relF2);
-    if (LuftSchritt1 == 0) TakeFlowStep1();
-    if (LuftSchritt2 == 0) TakeFlowStep2();
+    if (LuftSchritt1 == 0) TakeFlowStep(FirstFlow());
+    if (LuftSchritt2 == 0) TakeFlowStep(SecondFlow());
 }
 
-void PointPanel::TakeFlowStep1() { TakeFlowStep(LuftM1, VScroll1, LuftSchritt1); }
-void PointPanel::TakeFlowStep2() { TakeFlowStep(LuftM2, Vscroll2, LuftSchritt2); }
+void PointPanel::TakeFlowStep(const FlowInput& flow) {
+    const double typed = ParsedNumber(flow.field.text);
+    if (typed > 0) CentreFlowBar(flow.bar, flow.step, typed);
+}
 
 // The load is proportional to the flow, so one trial tells the flow.
-void PointPanel::VolStrm_rech(int mode) {
+void PointPanel::VolStrm_rech(Calculation mode) {
     const double wanted_kw = ParsedNumber(Kleist.text);
     LuftM1.text = TrimmedNumberText(kTrialFlow);
-    ZustandRechnen(mode, kMarksFromFields);
+    ZustandRechnen(mode, MarkPlacing::FromFields);
     SchieberAbgleich();
     const double trial_kw = ParsedNumber(Kleist.text);
     // A trial without load fails here and leaves the trial flow in the field.
     ShowNumber(LuftM1, std::floor(kTrialFlow * wanted_kw / trial_kw + 0.5));
     Kleist.text = TrimmedNumberText(wanted_kw);
-    TakeFlowStep1();
+    TakeFlowStep(FirstFlow());
 }
 
-void PointPanel::VolumeFromCapacity(int mode) {
+void PointPanel::VolumeFromCapacity(Calculation mode) {
     const double wanted_kw = ParsedNumber(Kleist.text);
     VolStrm_rech(mode);
-    ZustandRechnen(mode, kMarksFromFields);
+    ZustandRechnen(mode, MarkPlacing::FromFields);
     double scale = 0;
     AssignFinite(scale, ParsedNumber(Kleist.text) / wanted_kw);
     Kleist.text = TrimmedNumberText(wanted_kw);

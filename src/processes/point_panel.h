@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "forms/act_table.h"
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
@@ -9,11 +10,6 @@
 #include "processes/process_context.h"
 
 namespace zandrell {
-
-// Which drawing follows a calculation on two states: from the fields, with one of the two states
-// taken from the pointer read-out while its mark is carried, or with the mixing point.
-inline constexpr int kMarksFromFields = 1, kMarksWithMixture = 3, kFirstMarkCarried = 11,
-                     kSecondMarkCarried = 12;
 
 // The floating panel of two air states: state change, capacity, mixing and the four tools.
 class PointPanel {
@@ -41,30 +37,46 @@ class PointPanel {
     double LuftSchritt1 = 0, LuftSchritt2 = 0;  // m3/h per unit of the flow bars; 0: not yet known
 
     void ListControls(Form& form);
+    // What a user can do to the fields and bars. Opening, closing and the selection are the
+    // window's.
+    void BindActs(ActTable& acts);
 
     // Shows and hides what the mode needs, takes the bar ranges from the chart and shows the panel.
     // Tscroll2, hidden by the steam humidifier, is never shown again in a run: this is meant.
-    void ShowForMode(int mode);
+    void ShowForMode(Calculation mode);
 
     // Reads the six fields, computes both states, lets the tool fill in state 2, draws, and gives
     // capacity or mixture.
-    void ZustandRechnen(int mode, int marke);
+    void ZustandRechnen(Calculation mode, MarkPlacing marke);
 
-    // Places marks, line and labels of the two states, and with kMarksWithMixture the mixing point.
-    void MarkenSetzen(int mode, int marke);
+    // Places marks, line and labels of the two states, and with MarkPlacing::WithMixture the mixing
+    // point.
+    void MarkenSetzen(Calculation mode, MarkPlacing marke);
     // Brings the bars in line with the fields. A value outside the chart or the bar leaves it.
     void SchieberAbgleich();
 
     // The volume flow that gives the wanted capacity in Kleist.
-    void VolStrm_rech(int mode);
+    void VolStrm_rech(Calculation mode);
     // The same with the rounding of the flow taken out of the three capacities again.
-    void VolumeFromCapacity(int mode);
-
-    // Return in a flow field: its bar gets the range up to 200 and stands in the middle.
-    void TakeFlowStep1();
-    void TakeFlowStep2();
+    void VolumeFromCapacity(Calculation mode);
 
   private:
+    // A volume flow, its bar and the flow per unit of the bar.
+    struct FlowInput {
+        TextField& field;
+        ScrollBar& bar;
+        double& step;
+        bool echoes;  // its acts announce an echoing activation
+    };
+    FlowInput FirstFlow() { return {LuftM1, VScroll1, LuftSchritt1, true}; }
+    FlowInput SecondFlow() { return {LuftM2, Vscroll2, LuftSchritt2, false}; }
+    // A flow above 0 puts its bar into the middle of a range up to twice the flow.
+    static void TakeFlowStep(const FlowInput& flow);
+
+    void BindState(ActTable& acts, TextField& field, ScrollBar& bar);
+    void BindFlow(ActTable& acts, const FlowInput& flow);
+    void FollowBar(TextField& field, double value, bool echoes);
+
     struct Inputs {
         double t1 = 0, t2 = 0;          // degC
         double relF1 = 0, relF2 = 0;    // per cent
@@ -74,17 +86,17 @@ class PointPanel {
     Inputs ReadInputs() const;
     bool WithinChart(const Inputs& inputs) const;
     bool EvaluateStates(const Inputs& inputs);
-    bool EvaluateFilledInState(int mode, bool states_known);
+    bool EvaluateFilledInState(Calculation mode, bool states_known);
     AirPoint FirstState(double t1) const { return {t1, ZustandX1, enthalpy1_}; }
     AirPoint SecondState(double t2) const { return {t2, ZustandX2, enthalpy2_}; }
 
-    void FillInSecondState(int mode, const Inputs& inputs);
+    void FillInSecondState(Calculation mode, const Inputs& inputs);
     void KeepHumidity(std::optional<double> fraction);
     void HumidifyWithWater(const Inputs& inputs);
     void HumidifyWithSteam(const Inputs& inputs);
 
-    void ShowMixture(int mode, const Inputs& inputs);
-    void ShowCapacity(int mode, const Inputs& inputs);
+    void ShowMixture(Calculation mode, const Inputs& inputs);
+    void ShowCapacity(Calculation mode, const Inputs& inputs);
     void ShowBothMarks();
     void PlaceMixture();
     void ShowSecondFlow(bool shown);

@@ -9,18 +9,9 @@
 #include "chart/overlay.h"
 #include "chart/read_out.h"
 #include "kernel/state_solver.h"
+#include "processes/calculation.h"
 
 namespace zandrell {
-
-// The calculations that the main window shows (`Rechenmodus`).
-inline constexpr int kStateChange = 1, kCapacity = 2, kMixing = 3, kPlant = 5, kCooler = 12,
-                     kHeater = 13, kWaterHumidifier = 14, kSteamHumidifier = 15;
-
-// Whether a mode works on the point panel with two states.
-constexpr bool IsPointMode(int mode) {
-    return (mode >= kStateChange && mode <= kMixing) ||
-           (mode >= kCooler && mode <= kSteamHumidifier);
-}
 
 // Figures that a calculation leaves for the print-out. They outlive a change of mode.
 struct ProcessFigures {
@@ -44,6 +35,7 @@ struct ProcessContext {
     Overlay& overlay;
     ReadOutPanel& read_out;
     ProcessFigures& figures;
+    const Calculation& Rechenmodus;  // bars and some fields act only in their own modes
 };
 
 }  // namespace zandrell

@@ -28,20 +28,26 @@ std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
     return loads;
 }
 
-Loads LoadsOfTool(int mode, const Loads& loads) {
+Loads LoadsOfTool(Calculation mode, const Loads& loads) {
     const double total = std::abs(loads.total_kw), latent = std::abs(loads.latent_kw);
     const double water = std::abs(loads.water_g_per_s);
     switch (mode) {
-        case kHeater:
+        case Calculation::Heater:
             return {total, 0, total, 0};
-        case kWaterHumidifier:
+        case Calculation::WaterHumidifier:
             // At constant enthalpy the total is near 0: what the water takes up is the latent load.
             return {latent, latent, 0, water};
-        case kSteamHumidifier:
+        case Calculation::SteamHumidifier:
             return {total, total, 0, water};
-        default:
-            return loads;
+        case Calculation::None:
+        case Calculation::StateChange:
+        case Calculation::Capacity:
+        case Calculation::Mixing:
+        case Calculation::Plant:
+        case Calculation::Cooler:
+            break;
     }
+    return loads;
 }
 
 Decimals DecimalsOf(const Loads& loads) {

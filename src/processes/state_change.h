@@ -4,6 +4,7 @@
 
 #include "kernel/state_solver.h"
 #include "processes/air_point.h"
+#include "processes/calculation.h"
 
 // Capacity of a change between two states, and the mixture of two flows.
 namespace zandrell {
@@ -27,7 +28,7 @@ std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
 
 // The loads as the tool of that mode reports them: without sign, and with the share that cannot
 // occur in the apparatus set to 0. The other modes keep the signed values.
-Loads LoadsOfTool(int mode, const Loads& loads);
+Loads LoadsOfTool(Calculation mode, const Loads& loads);
 
 // By how much figures are spread before they are cut: 1, 10, 100 or 1000.
 struct Decimals {

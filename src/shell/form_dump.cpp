@@ -13,20 +13,30 @@ struct ProgramValue {
     std::function<Json(MainForm&)> value;
 };
 
+// Modes and states have names inside the program and numbers in a dump.
+template <class Enumeration>
+Json Number(Enumeration value) {
+    return static_cast<int>(value);
+}
+
+Json Carried(const MainForm& main, const Mark& mark) {
+    return main.Pointer().IsCarried(mark) ? 1 : 0;
+}
+
 const std::vector<ProgramValue>& ModeValues() {
     static const std::vector<ProgramValue> values = {
         {"title", [](MainForm& m) { return Json(m.title); }},
-        {"Rechenmodus", [](MainForm& m) { return Json(m.Rechenmodus); }},
-        {"PanelZustand", [](MainForm& m) { return Json(m.PanelZustand); }},
-        {"MousePointer", [](MainForm& m) { return Json(m.MousePointer); }},
-        {"PP1Gefasst", [](MainForm& m) { return Json(m.PP1Gefasst); }},
-        {"PP2Gefasst", [](MainForm& m) { return Json(m.PP2Gefasst); }},
-        {"PP5Gefasst", [](MainForm& m) { return Json(m.PP5Gefasst); }},
-        {"PP6Gefasst", [](MainForm& m) { return Json(m.PP6Gefasst); }},
+        {"Rechenmodus", [](MainForm& m) { return Number(m.processes.Rechenmodus); }},
+        {"PanelZustand", [](MainForm& m) { return Number(m.Pointer().PanelZustand()); }},
+        {"MousePointer", [](MainForm& m) { return Number(m.Pointer().MousePointer()); }},
+        {"PP1Gefasst", [](MainForm& m) { return Carried(m, m.overlay.PP1); }},
+        {"PP2Gefasst", [](MainForm& m) { return Carried(m, m.overlay.PP2); }},
+        {"PP5Gefasst", [](MainForm& m) { return Carried(m, m.overlay.PP5); }},
+        {"PP6Gefasst", [](MainForm& m) { return Carried(m, m.overlay.PP6); }},
         {"ended", [](MainForm& m) { return Json(m.ended); }},
-        {"ZurueckVomDialog", [](MainForm& m) { return Json(m.shared.ZurueckVomDialog); }},
+        {"ZurueckVomDialog", [](MainForm& m) { return Number(m.shared.ZurueckVomDialog); }},
         {"DialogMode", [](MainForm& m) { return Json(m.shared.DialogMode); }},
-        {"OptionenSignal", [](MainForm& m) { return Json(m.shared.OptionenSignal); }},
+        {"OptionenSignal", [](MainForm& m) { return Number(m.shared.OptionenSignal); }},
         {"ProjektArt", [](MainForm& m) { return Json(m.shared.ProjektArt); }},
         {"DataFolder", [](MainForm& m) { return Json(m.Files().DataFolder().string()); }},
         {"ProjectFolder", [](MainForm& m) { return Json(m.shared.ProjectFolder); }},
@@ -86,21 +96,21 @@ const std::vector<ProgramValue>& ChartValues() {
 
 const std::vector<ProgramValue>& ProcessValues() {
     static const std::vector<ProgramValue> values = {
-        {"ZustandX1", [](MainForm& m) { return Json(m.point_panel.ZustandX1); }},
-        {"ZustandX2", [](MainForm& m) { return Json(m.point_panel.ZustandX2); }},
-        {"LuftSchritt1", [](MainForm& m) { return Json(m.point_panel.LuftSchritt1); }},
-        {"LuftSchritt2", [](MainForm& m) { return Json(m.point_panel.LuftSchritt2); }},
-        {"AnlageZweig", [](MainForm& m) { return Json(m.plant_panel.AnlageZweig); }},
-        {"MischTemp", [](MainForm& m) { return Json(m.figures.MischTemp); }},
-        {"MischX", [](MainForm& m) { return Json(m.figures.MischX); }},
-        {"KuehlLeistText", [](MainForm& m) { return Json(m.figures.KuehlLeistText); }},
-        {"GesamtLeist", [](MainForm& m) { return Json(m.figures.GesamtLeist); }},
-        {"LatentLeist", [](MainForm& m) { return Json(m.figures.LatentLeist); }},
-        {"SensibelLeist", [](MainForm& m) { return Json(m.figures.SensibelLeist); }},
-        {"KondensatWasser", [](MainForm& m) { return Json(m.figures.KondensatWasser); }},
-        {"BefeuchterLeist", [](MainForm& m) { return Json(m.figures.BefeuchterLeist); }},
-        {"HeizLeist", [](MainForm& m) { return Json(m.figures.HeizLeist); }},
-        {"RaumWasser", [](MainForm& m) { return Json(m.figures.RaumWasser); }},
+        {"ZustandX1", [](MainForm& m) { return Json(m.processes.point.ZustandX1); }},
+        {"ZustandX2", [](MainForm& m) { return Json(m.processes.point.ZustandX2); }},
+        {"LuftSchritt1", [](MainForm& m) { return Json(m.processes.point.LuftSchritt1); }},
+        {"LuftSchritt2", [](MainForm& m) { return Json(m.processes.point.LuftSchritt2); }},
+        {"AnlageZweig", [](MainForm& m) { return Json(m.processes.plant.AnlageZweig); }},
+        {"MischTemp", [](MainForm& m) { return Json(m.processes.figures.MischTemp); }},
+        {"MischX", [](MainForm& m) { return Json(m.processes.figures.MischX); }},
+        {"KuehlLeistText", [](MainForm& m) { return Json(m.processes.figures.KuehlLeistText); }},
+        {"GesamtLeist", [](MainForm& m) { return Json(m.processes.figures.GesamtLeist); }},
+        {"LatentLeist", [](MainForm& m) { return Json(m.processes.figures.LatentLeist); }},
+        {"SensibelLeist", [](MainForm& m) { return Json(m.processes.figures.SensibelLeist); }},
+        {"KondensatWasser", [](MainForm& m) { return Json(m.processes.figures.KondensatWasser); }},
+        {"BefeuchterLeist", [](MainForm& m) { return Json(m.processes.figures.BefeuchterLeist); }},
+        {"HeizLeist", [](MainForm& m) { return Json(m.processes.figures.HeizLeist); }},
+        {"RaumWasser", [](MainForm& m) { return Json(m.processes.figures.RaumWasser); }},
     };
     return values;
 }

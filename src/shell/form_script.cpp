@@ -148,7 +148,7 @@ bool FormScript::RunPointer(const Words& words, std::string& error) {
     } else if (words[1] == "press") {
         form_.PointerPress(button, place);
     } else if (words[1] == "release") {
-        form_.PointerRelease(button, place);
+        form_.PointerRelease(button);
     } else {
         return Fail(error, "unknown pointer act: " + words[1]);
     }

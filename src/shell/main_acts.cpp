@@ -1,13 +1,12 @@
-#include "base/number_text.h"
 #include "shell/main_form.h"
 
 namespace zandrell {
 
 void MainForm::BindActs() {
+    processes.BindActs(acts);
     BindToolActs();
     BindMenuActs();
-    BindPointPanelActs();
-    BindPlantPanelActs();
+    BindPanelActs();
 }
 
 void MainForm::BindToolActs() {
@@ -15,21 +14,18 @@ void MainForm::BindToolActs() {
         acts.Add(button.picture.name, ActKind::Click, handler);
         acts.Add(button.caption.name, ActKind::Click, handler);
     };
+    const auto open_and_calculate = [this](Calculation mode) {
+        if (pointer_.PanelZustand() == PointerOwner::PointPanel) return;
+        panels_.OpenPointPanel(mode, true);
+    };
     on_tool(controls.optButt, [this] { OpenOptions(); });
-    on_tool(controls.ZAButt, [this] {
-        if (PanelZustand != kPointPanelOpen) OpenPointPanel(kStateChange, true);
-    });
-    on_tool(controls.MischButt, [this] {
-        if (PanelZustand != kPointPanelOpen) OpenPointPanel(kMixing, true);
-    });
-    on_tool(controls.BearButt, [this] { OpenTool(kCapacity); });
-    on_tool(controls.AnlageButt, [this] { AnlageOeffnen(); });
-    on_tool(controls.PSButt, [this] { SaveWorkingState(true); });
-    on_tool(controls.PLbutt, [this] {
-        working_state_loaded_ = false;
-        LoadWorkingState();
-    });
-    acts.Add(controls.ZOOMMIN.name, ActKind::Click, [this] { Zoom_min(); });
+    on_tool(controls.ZAButt, [=] { open_and_calculate(Calculation::StateChange); });
+    on_tool(controls.MischButt, [=] { open_and_calculate(Calculation::Mixing); });
+    on_tool(controls.BearButt, [this] { panels_.OpenTool(Calculation::Capacity); });
+    on_tool(controls.AnlageButt, [this] { panels_.AnlageOeffnen(); });
+    on_tool(controls.PSButt, [this] { inputs_.Save(); });
+    on_tool(controls.PLbutt, [this] { inputs_.Load(); });
+    acts.Add(controls.ZOOMMIN.name, ActKind::Click, [this] { pointer_.ZoomOut(); });
     acts.Add(controls.Command3D7.name, ActKind::Release, [this] { ende_qv(); });
     acts.Add(controls.Command3D2.name, ActKind::Release, [this] { CloseWindow(); });
 }
@@ -38,139 +34,39 @@ void MainForm::BindMenuActs() {
     const auto on_menu = [this](const MenuEntry& entry, const ActTable::Handler& handler) {
         acts.Add(entry.name, ActKind::Click, handler);
     };
+    const auto opens = [this](Calculation mode) {
+        return [this, mode] { panels_.OpenPointPanel(mode, false); };
+    };
+    const auto opens_tool = [this](Calculation mode) {
+        return [this, mode] { panels_.OpenTool(mode); };
+    };
     on_menu(controls.Ende, [this] { ende_qv(); });
     on_menu(controls.qveinst, [this] { OpenOptions(); });
     on_menu(controls.wrgEinst, [this] { AuswahlOeffnen(); });
-    on_menu(controls.ZustAe, [this] { OpenPointPanel(kStateChange, false); });
-    on_menu(controls.Misch, [this] { OpenPointPanel(kMixing, false); });
-    on_menu(controls.Kleis, [this] { OpenPointPanel(kCapacity, false); });
-    on_menu(controls.AnlageS, [this] { AnlageOeffnen(); });
-    on_menu(controls.Kuehl_start, [this] { OpenTool(kCooler); });
-    on_menu(controls.Heiz_start, [this] { OpenTool(kHeater); });
-    on_menu(controls.Humid_W_Start, [this] { OpenTool(kWaterHumidifier); });
-    on_menu(controls.Humid_D_Start, [this] { OpenTool(kSteamHumidifier); });
+    on_menu(controls.ZustAe, opens(Calculation::StateChange));
+    on_menu(controls.Misch, opens(Calculation::Mixing));
+    on_menu(controls.Kleis, opens(Calculation::Capacity));
+    on_menu(controls.AnlageS, [this] { panels_.AnlageOeffnen(); });
+    on_menu(controls.Kuehl_start, opens_tool(Calculation::Cooler));
+    on_menu(controls.Heiz_start, opens_tool(Calculation::Heater));
+    on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
+    on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
     on_menu(controls.kopieren, [this] { user_.CopyChart(); });
-    on_menu(controls.Hsich, [this] { SaveWorkingState(true); });
-    on_menu(controls.Hlad, [this] { acts.Perform(controls.PLbutt.picture.name, ActKind::Click); });
+    on_menu(controls.Hsich, [this] { inputs_.Save(); });
+    on_menu(controls.Hlad, [this] { inputs_.Load(); });
 }
 
-void MainForm::BindPointPanelActs() {
-    auto& p = point_panel;
-    for (const auto* field : {&p.Temp1, &p.Temp2, &p.relF1, &p.relF2}) {
-        acts.Add(field->name, ActKind::Return, [this] {
-            point_panel.SchieberAbgleich();
-            point_panel.ZustandRechnen(Rechenmodus, kMarksFromFields);
-        });
-    }
-    acts.Add(p.LuftM1.name, ActKind::Return, [this] {
-        shared.ZurueckVomDialog = 1;
-        point_panel.ZustandRechnen(Rechenmodus, kMarksFromFields);
-        point_panel.SchieberAbgleich();
-        point_panel.TakeFlowStep1();
-        shared.ZurueckVomDialog = 5;
-    });
-    acts.Add(p.LuftM2.name, ActKind::Return, [this] {
-        point_panel.ZustandRechnen(Rechenmodus, kMarksFromFields);
-        point_panel.SchieberAbgleich();
-        point_panel.TakeFlowStep2();
-    });
-    acts.Add(p.Kleist.name, ActKind::Return,
-             [this] { point_panel.VolumeFromCapacity(Rechenmodus); });
-    for (const auto* button : {&p.VolBer, &p.VolBer_l}) {
+void MainForm::BindPanelActs() {
+    auto& point = processes.point;
+    auto& plant = processes.plant;
+    acts.Add(point.wrgButt.name, ActKind::Click, [this] { AuswahlOeffnen(); });
+    for (const Button* button : {&point.Command3D4, &point.abbcom, &point.Picture3}) {
         acts.Add(button->name, ActKind::Click,
-                 [this] { point_panel.VolumeFromCapacity(Rechenmodus); });
+                 [this] { panels_.Close(processes.point.Anlage1PN); });
     }
-    acts.Add(p.wrgButt.name, ActKind::Click, [this] { AuswahlOeffnen(); });
-    for (const auto* button : {&p.Command3D4, &p.abbcom, &p.Picture3}) {
-        acts.Add(button->name, ActKind::Click, [this] { ClosePanel(point_panel.Anlage1PN); });
-    }
-
-    // A bar writes its field and computes; the flag keeps an echoing activation from reloading.
-    const auto follow = [this](TextField& field, double value, bool flagged) {
-        if (const std::string text = NumberText(value); !text.empty()) field.text = text;
-        if (flagged) shared.ZurueckVomDialog = 1;
-        point_panel.ZustandRechnen(Rechenmodus, kMarksFromFields);
-        point_panel.SchieberAbgleich();
-        if (flagged) shared.ZurueckVomDialog = 0;
-    };
-    const auto bind_state_bar = [this, follow](ScrollBar& bar, TextField& field) {
-        bar.on_change = [this, follow, &bar, &field] {
-            if (IsPointMode(Rechenmodus)) follow(field, bar.Position() / 10.0, true);
-        };
-    };
-    bind_state_bar(p.Tscroll1, p.Temp1);
-    bind_state_bar(p.Tscroll2, p.Temp2);
-    bind_state_bar(p.FScroll1, p.relF1);
-    bind_state_bar(p.FScroll2, p.relF2);
-
-    const auto bind_flow_bar = [this, follow](ScrollBar& bar, TextField& field, const double& step,
-                                              bool flagged) {
-        bar.on_change = [this, follow, &bar, &field, &step, flagged] {
-            if (!IsPointMode(Rechenmodus) || !(ParsedNumber(field.text) > 0)) return;
-            follow(field, bar.Position() * step, flagged);
-        };
-    };
-    bind_flow_bar(p.VScroll1, p.LuftM1, p.LuftSchritt1, true);
-    bind_flow_bar(p.Vscroll2, p.LuftM2, p.LuftSchritt2, false);
-}
-
-void MainForm::BindPlantPanelActs() {
-    auto& p = plant_panel;
-    const auto run = [this] { plant_panel.AnlageBerechnen(); };
-    const auto run_in_plant_mode = [this] {
-        if (Rechenmodus == kPlant) plant_panel.AnlageBerechnen();
-    };
-    for (const auto* field :
-         {&p.vhAnlage, &p.PHIAbluft, &p.PhiAussen, &p.phiKanal, &p.PHIZuluft, &p.tKA}) {
-        acts.Add(field->name, ActKind::Return, run);
-    }
-    for (const auto* field : {&p.dtVent1, &p.dtVent2}) {
-        acts.Add(field->name, ActKind::Return, run_in_plant_mode);
-    }
-    acts.Add(p.aussenAnt.name, ActKind::Return, [this] {
-        plant_panel.VolumenTeilen();
-        plant_panel.AnlageBerechnen();
-    });
-    for (const auto* field : {&p.vhinnen, &p.vhaussen}) {
-        acts.Add(field->name, ActKind::Return, [this] {
-            if (plant_panel.TakeFlowFromShares()) plant_panel.AnlageBerechnen();
-        });
-    }
-    const auto bind_temperature = [this](const TextField& field, ScrollBar& bar) {
-        acts.Add(field.name, ActKind::Return, [this, &field, &bar] {
-            bar.SetPosition(RoundToInteger(10 * ParsedNumber(field.text)));
-            plant_panel.AnlageBerechnen();
-        });
-    };
-    bind_temperature(p.Taus, p.taScroll);
-    bind_temperature(p.TZuluft, p.tzuScroll);
-    bind_temperature(p.tabLuft, p.tabScroll);
-
-    const auto bind_bar = [this](ScrollBar& bar, TextField& field) {
-        bar.on_change = [this, &bar, &field] {
-            if (Rechenmodus != kPlant) return;
-            field.text = NumberText(bar.Position() / 10.0);
-            plant_panel.AnlageBerechnen();
-        };
-    };
-    bind_bar(p.taScroll, p.Taus);
-    bind_bar(p.tzuScroll, p.TZuluft);
-    bind_bar(p.tabScroll, p.tabLuft);
-    bind_bar(p.Phiaussenscroll, p.PhiAussen);
-    bind_bar(p.PHIAbscroll, p.PHIAbluft);
-    bind_bar(p.PhiZuscroll, p.PHIZuluft);
-
-    acts.Add(p.Option3D3.name, ActKind::Choose, [this, run_in_plant_mode] {
-        Choose(plant_panel.Option3D3, plant_panel.Option3D4);
-        run_in_plant_mode();
-    });
-    acts.Add(p.Option3D4.name, ActKind::Choose, [this, run_in_plant_mode] {
-        Choose(plant_panel.Option3D4, plant_panel.Option3D3);
-        run_in_plant_mode();
-    });
-    for (const auto* button :
-         {&p.AnlageAbButt, &p.AnlageAbButt_l, &p.Command3D6, &p.Command3D6_l, &p.Picture12}) {
-        acts.Add(button->name, ActKind::Click, [this] { ClosePanel(plant_panel.Frame1); });
+    for (const Button* button : {&plant.AnlageAbButt, &plant.AnlageAbButt_l, &plant.Command3D6,
+                                 &plant.Command3D6_l, &plant.Picture12}) {
+        acts.Add(button->name, ActKind::Click, [this] { panels_.Close(processes.plant.Frame1); });
     }
 }
 

@@ -1,3 +1,5 @@
+#include "shell/main_captions.h"
+
 #include <array>
 #include <string>
 
@@ -170,49 +172,46 @@ bool IsCaption(const Control& control) {
 
 }  // namespace
 
-void MainForm::SetCaptions() {
-    const auto& words = captions.CaptionList;
-    const auto& air = captions.QVCaptList;
-    SetMenuCaptions(controls, words, air, shared.LanguageTag);
-    SetToolCaptions(controls, words, air);
-    SetReadOutCaptions(controls, words, air);
-    SetPointPanelCaptions(point_panel, words, air);
-    SetPlantPanelCaptions(plant_panel, words, air, shared.LanguageTag);
-    controls.Label7.text = words[180];
-    controls.Label19.text = shared.AppTitle;
+void SetCaptions(MainForm& main) {
+    const auto& words = main.captions.CaptionList;
+    const auto& air = main.captions.QVCaptList;
+    const std::string& tag = main.shared.LanguageTag;
+    SetMenuCaptions(main.controls, words, air, tag);
+    SetToolCaptions(main.controls, words, air);
+    SetReadOutCaptions(main.controls, words, air);
+    SetPointPanelCaptions(main.processes.point, words, air);
+    SetPlantPanelCaptions(main.processes.plant, words, air, tag);
+    main.controls.Label7.text = words[180];
+    main.controls.Label19.text = main.shared.AppTitle;
 }
 
-void MainForm::ApplySkin() {
-    label_font_size = 10;
+void ApplySkin(MainForm& main) {
+    const SharedValues& shared = main.shared;
+    MainControls& controls = main.controls;
+    PointPanel& point = main.processes.point;
+    PlantPanel& plant = main.processes.plant;
+    main.label_font_size = 10;
     if (shared.LanguageTag == "TWA") {
-        label_font_size =
-            RoundToInteger(ParsedNumber(shared.LabelFontSize)).value_or(label_font_size);
-        if (label_font_size < 6 || label_font_size > 40) label_font_size = 12;
+        main.label_font_size =
+            RoundToInteger(ParsedNumber(shared.LabelFontSize)).value_or(main.label_font_size);
+        if (main.label_font_size < 6 || main.label_font_size > 40) main.label_font_size = 12;
     }
-    controls.Label7.foreground = kWhite;
+    main.controls.Label7.foreground = kWhite;
     const int skin = shared.SkinNumber;
     if (skin < 1 || skin > 5) return;
     controls.FunktButtPn.picture = "ZD_Bk00.jpg";
-    read_out.Pn1.picture = "ZD_Bk031.jpg";
-    for (Panel* panel : {&point_panel.Anlage1PN, &plant_panel.Panel3D10, &plant_panel.Frame1}) {
+    main.read_out.Pn1.picture = "ZD_Bk031.jpg";
+    for (Panel* panel : {&point.Anlage1PN, &plant.Panel3D10, &plant.Frame1}) {
         panel->picture = "ZD_Back01.jpg";
     }
-    for (Panel* panel : {&plant_panel.Panel3D2, &point_panel.Panel3D9})
-        panel->picture = "ZD_Back02.jpg";
+    for (Panel* panel : {&plant.Panel3D2, &point.Panel3D9}) panel->picture = "ZD_Back02.jpg";
     const bool dark_text = skin == 1 || skin == 4 || skin == 5;
-    bold_labels = dark_text;
-    for (Control* control : form.Controls()) {
+    main.bold_labels = dark_text;
+    for (Control* control : main.form.Controls()) {
         if (IsCaption(*control) && control != &controls.Label7) {
             control->foreground = dark_text ? kBlack : kWhite;
         }
     }
-}
-
-void MainForm::SetTitle() {
-    const std::string base = shared.AppTitle + " " + shared.VersionText + " : " +
-                             captions.CaptionList[180] + " " + captions.CaptionList[25];
-    title = base + " " + shared.ProjectTitle + " " + shared.HandOverTitle;
-    point_panel.Label15.text = plant_panel.Label16.text = base;
 }
 
 }  // namespace zandrell

@@ -9,7 +9,6 @@ namespace zandrell {
 namespace {
 
 constexpr double kLowestHeight = -200, kHighestHeight = 3000;  // m, both exclusive
-constexpr int kOptionsTaken = 77, kOptionsCancelled = 88;
 
 // Air pressure in bar at a height in m above sea level: the standard atmosphere with its surface at
 // 15 degC and 1.013 bar.
@@ -54,7 +53,7 @@ void OptionsForm::BindActs() {
     }
     for (const auto* button : {&Command3D5, &Command3D5_l}) {
         acts.Add(button->name, ActKind::Click, [this] {
-            shared_.OptionenSignal = kOptionsCancelled;
+            shared_.OptionenSignal = OptionsSignal::Cancelled;
             closed = true;
         });
     }
@@ -162,7 +161,7 @@ void OptionsForm::Opt_speich() {
         return;
     }
     closed = true;
-    shared_.OptionenSignal = kOptionsTaken;
+    shared_.OptionenSignal = OptionsSignal::Taken;
 }
 
 }  // namespace zandrell

@@ -18,10 +18,10 @@ class PaintedChart {
         engine.TakeAspect(24000);  // a window of 1600 pixels: aspect (1.10833 * 2000 + 10) / 580
     }
 
-    void Paint() { engine.DiagrammZeichnen(kPaintWhole, 0, 0, pressure); }
+    void Paint() { engine.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, pressure); }
     void PaintOnPrinter() {
         engine.printer = &paper;
-        engine.DiagrammZeichnen(kPaintPrinter, 0, 0, pressure);
+        engine.DiagrammZeichnen(ChartTask::PaintPrinter, 0, 0, pressure);
     }
     void Zoom(double left, double top, double width, double height) {
         auto& frame = engine.controls.ZoomShape;
@@ -29,9 +29,10 @@ class PaintedChart {
         frame.top = top;
         frame.width = width;
         frame.height = height;
-        engine.DiagrammZeichnen(kPaintZoomed, width * 1.05 / 1800, height * 1.05 / 580, pressure);
+        engine.DiagrammZeichnen(ChartTask::PaintZoomed, width * 1.05 / 1800, height * 1.05 / 580,
+                                pressure);
     }
-    void ReadAt(double x, double y, int modus = kReadOutWhole) {
+    void ReadAt(double x, double y, ChartTask modus = ChartTask::ReadOutWhole) {
         engine.DiagrammZeichnen(modus, x, y, pressure);
     }
 

@@ -42,17 +42,18 @@ class MainWindowTest : public WindowSession {
 TEST_F(MainWindowTest, ToolButtonOpensItsPanel) {
     EXPECT_FALSE(Find<QWidget>("Anlage1PN")->isVisible());
     Click(*Find<QPushButton>("BearButt"));
-    EXPECT_EQ(form_.Rechenmodus, kCapacity);
+    EXPECT_EQ(form_.processes.Rechenmodus, Calculation::Capacity);
     EXPECT_TRUE(Find<QWidget>("Anlage1PN")->isVisible());
     Key(*Find<QLineEdit>("Temp1"), Qt::Key_Escape);
     EXPECT_FALSE(Find<QWidget>("Anlage1PN")->isVisible());
-    EXPECT_EQ(form_.PanelZustand, kIdle);
+    EXPECT_EQ(form_.Pointer().PanelZustand(), PointerOwner::Nobody);
 }
 
 TEST_F(MainWindowTest, TypedTextAndReturnReachTheForm) {
     OpenCapacity();
-    EXPECT_EQ(QString::fromStdString(form_.point_panel.Temp1.text).trimmed(), QStringLiteral("32"));
-    EXPECT_EQ(form_.point_panel.Tscroll1.Position(), 320);
+    EXPECT_EQ(QString::fromStdString(form_.processes.point.Temp1.text).trimmed(),
+              QStringLiteral("32"));
+    EXPECT_EQ(form_.processes.point.Tscroll1.Position(), 320);
     // 11.91 g/kg: humid air of 32 degC and 40 % at 1.013 bar, as published tables have it (11.9).
     EXPECT_EQ(Find<QLabel>("absF1")->text(), QStringLiteral("11.91"));
     EXPECT_FALSE(Find<QLineEdit>("Kleist")->text().isEmpty());
@@ -75,11 +76,11 @@ TEST_F(MainWindowTest, BarFollowsKeysAndTheFormsRefusal) {
     auto* bar = Find<QSlider>("Tscroll1");
     EXPECT_EQ(bar->value(), 320);
     Key(*bar, Qt::Key_PageUp);
-    EXPECT_EQ(form_.point_panel.Tscroll1.Position(), 330);
-    EXPECT_EQ(form_.point_panel.Temp1.text, " 33");
+    EXPECT_EQ(form_.processes.point.Tscroll1.Position(), 330);
+    EXPECT_EQ(form_.processes.point.Temp1.text, " 33");
     Key(*bar, Qt::Key_End);
     // The chart ends at 40 degC; the field's bar follows only strictly inside the range.
-    EXPECT_EQ(bar->value(), form_.point_panel.Tscroll1.Position());
+    EXPECT_EQ(bar->value(), form_.processes.point.Tscroll1.Position());
     EXPECT_EQ(bar->maximum(), 400);
 }
 
@@ -89,10 +90,10 @@ TEST_F(MainWindowTest, MarkIsCarriedFromTheRimOfItsRing) {
     const QPointF centre = chart.ToWidget(form_.overlay.PP2.state);
     // Five pixels aside is outside the box of canvas units that the form looks into.
     Mouse(chart, QEvent::MouseButtonPress, centre + QPointF(5, 0));
-    ASSERT_EQ(form_.PP2Gefasst, 1);
+    ASSERT_TRUE(form_.Pointer().IsCarried(form_.overlay.PP2));
     Mouse(chart, QEvent::MouseMove, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
     Mouse(chart, QEvent::MouseButtonPress, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
-    EXPECT_EQ(form_.PP2Gefasst, 0);
+    EXPECT_FALSE(form_.Pointer().IsCarried(form_.overlay.PP2));
     EXPECT_NEAR(Find<QLineEdit>("Taus")->text().toDouble(), 30, 0.11);
 }
 

@@ -60,13 +60,10 @@ void RunEverything(ProcessWindow& window) {
         window.plant.AnlageBerechnen();
         return;
     }
-    window.ReturnInState();
-    window.ReturnInFlow1();
-    window.point.TakeFlowStep2();
-    window.point.VolumeFromCapacity(window.Rechenmodus);
+    for (const TextField* field : PointFields(window.point)) window.Return(*field);
 }
 
-class BadInput : public testing::TestWithParam<int> {};
+class BadInput : public testing::TestWithParam<Calculation> {};
 
 TEST_P(BadInput, OneFieldAtATime) {
     for (std::size_t field = 0; field < 14; ++field) {
@@ -77,8 +74,8 @@ TEST_P(BadInput, OneFieldAtATime) {
             window.SetStates("20", "50", "12", "60");
             window.point.LuftM1.text = window.point.LuftM2.text = "1000";
             window.Open(GetParam());
-            const auto fields =
-                GetParam() == kPlant ? PlantFields(window.plant) : PointFields(window.point);
+            const auto fields = GetParam() == Calculation::Plant ? PlantFields(window.plant)
+                                                                 : PointFields(window.point);
             if (field >= fields.size()) return;
             fields[field]->text = text;
             RunEverything(window);
@@ -93,7 +90,7 @@ TEST_P(BadInput, MixedAtRandom) {
     ProcessWindow window;
     window.Open(GetParam());
     const auto fields =
-        GetParam() == kPlant ? PlantFields(window.plant) : PointFields(window.point);
+        GetParam() == Calculation::Plant ? PlantFields(window.plant) : PointFields(window.point);
     for (int round = 0; round < 1000; ++round) {
         const bool sensible = random() % 3 == 0;
         auto& text = fields[random() % fields.size()]->text;
@@ -106,9 +103,12 @@ TEST_P(BadInput, MixedAtRandom) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Modes, BadInput,
-                         testing::Values(kStateChange, kCapacity, kMixing, kPlant, kCooler, kHeater,
-                                         kWaterHumidifier, kSteamHumidifier));
+INSTANTIATE_TEST_SUITE_P(
+    Modes, BadInput,
+    testing::Values(Calculation::StateChange, Calculation::Capacity, Calculation::Mixing,
+                    Calculation::Plant, Calculation::Cooler, Calculation::Heater,
+                    Calculation::WaterHumidifier, Calculation::SteamHumidifier),
+    [](const auto& mode) { return std::to_string(static_cast<int>(mode.param)); });
 
 // Without coefficients every state is refused: nothing is shown and nothing hangs.
 TEST(WithoutCoefficients, NothingIsShown) {
@@ -116,7 +116,8 @@ TEST(WithoutCoefficients, NothingIsShown) {
     window.files.SetDataFolder("/nowhere");
     window.SetPlant("10000", "1", "26", "50", "32", "40", "18", "75", "12", "95", "1", "1");
     window.SetStates("20", "50", "12", "60");
-    for (const int mode : {kCapacity, kCooler, kHeater, kWaterHumidifier, kSteamHumidifier}) {
+    for (const Calculation mode : {Calculation::Capacity, Calculation::Cooler, Calculation::Heater,
+                                   Calculation::WaterHumidifier, Calculation::SteamHumidifier}) {
         window.Open(mode);
         window.Calculate();
     }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/number_text.h"
 #include "hand_air.h"
 #include "process_window.h"
 
@@ -163,6 +164,41 @@ TEST(PlantPanel, RaisedSupplyRunsNestedAndTheOuterRunStays) {
     EXPECT_NEAR(window.solver.ZustandX - drawn, 0.006, 0.002);
     window.plant.AnlageBerechnen();
     EXPECT_EQ(window.plant_runs, 1) << "a bar at its place fires nothing";
+}
+
+// Return in a field moves its own bar and no other, and each bar writes its own field.
+TEST(PlantPanel, FieldsAndBarsArePaired) {
+    ProcessWindow window;
+    SetSummer(window, "64.1");
+    window.OpenPlant();
+    PlantPanel& plant = window.plant;
+    const struct {
+        TextField& field;
+        ScrollBar& bar;
+        const char* typed;
+        int position;
+    } pairs[] = {{plant.tabLuft, plant.tabScroll, "25,5", 255},
+                 {plant.PHIAbluft, plant.PHIAbscroll, "52", 520},
+                 {plant.Taus, plant.taScroll, "31", 310},
+                 {plant.PhiAussen, plant.Phiaussenscroll, "41", 410},
+                 {plant.TZuluft, plant.tzuScroll, "19", 190},
+                 {plant.PHIZuluft, plant.PhiZuscroll, "66", 660}};
+    const auto positions = [&] {
+        std::vector<int> all;
+        for (const auto& pair : pairs) all.push_back(pair.bar.Position());
+        return all;
+    };
+    for (const auto& typed : pairs) {
+        std::vector<int> expected = positions();
+        expected[static_cast<std::size_t>(&typed - pairs)] = typed.position;
+        typed.field.text = typed.typed;
+        window.Return(typed.field);
+        EXPECT_EQ(positions(), expected) << typed.field.name;
+    }
+    for (const auto& moved : pairs) {
+        moved.bar.SetPosition(moved.position + 3);
+        EXPECT_EQ(moved.field.text, NumberText((moved.position + 3) / 10.0)) << moved.field.name;
+    }
 }
 
 // The room could not take up moisture: 39.1 %. Raising by the ratio of humidity ratios falls 0.17

@@ -1,5 +1,6 @@
 #include "processes/point_panel.h"
 
+#include "base/number_text.h"
 #include "hand_air.h"
 #include "process_window.h"
 
@@ -8,33 +9,37 @@ namespace {
 
 TEST(PointPanel, ShowsWhatTheModeNeeds) {
     const struct {
-        int mode;
+        Calculation mode;
         bool capacity, flow1, flow2, humidity_bar2;
-    } rows[] = {
-        {kStateChange, false, false, false, true},  {kCapacity, true, true, false, true},
-        {kMixing, false, true, true, true},         {kCooler, true, true, false, true},
-        {kHeater, true, true, false, false},        {kWaterHumidifier, true, true, false, false},
-        {kSteamHumidifier, true, true, false, true}};
+    } rows[] = {{Calculation::StateChange, false, false, false, true},
+                {Calculation::Capacity, true, true, false, true},
+                {Calculation::Mixing, false, true, true, true},
+                {Calculation::Cooler, true, true, false, true},
+                {Calculation::Heater, true, true, false, false},
+                {Calculation::WaterHumidifier, true, true, false, false},
+                {Calculation::SteamHumidifier, true, true, false, true}};
     ProcessWindow window;
     PointPanel& panel = window.point;
     panel.Anlage1PN.visible = false;
     for (const auto& row : rows) {
         window.overlay.PP3.visible = window.overlay.tmLab.visible = true;
         window.Open(row.mode);
-        EXPECT_EQ(panel.Panel3D9.visible, row.capacity) << row.mode;
-        EXPECT_EQ(panel.Label33.visible, row.flow1) << row.mode;
-        EXPECT_EQ(panel.LuftM1.visible, row.flow1) << row.mode;
-        EXPECT_TRUE(panel.VScroll1.visible) << row.mode;
-        EXPECT_EQ(panel.LuftM2.visible, row.flow2) << row.mode;
-        EXPECT_EQ(panel.Vscroll2.visible, row.flow2) << row.mode;
-        EXPECT_EQ(panel.absFM.visible, row.flow2) << row.mode;
-        EXPECT_EQ(panel.FScroll2.visible, row.humidity_bar2) << row.mode;
-        EXPECT_EQ(panel.Tscroll2.visible, row.mode != kSteamHumidifier) << row.mode;
-        EXPECT_FALSE(window.overlay.PP3.visible || window.overlay.tmLab.visible) << row.mode;
+        EXPECT_EQ(panel.Panel3D9.visible, row.capacity) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.Label33.visible, row.flow1) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.LuftM1.visible, row.flow1) << static_cast<int>(row.mode);
+        EXPECT_TRUE(panel.VScroll1.visible) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.LuftM2.visible, row.flow2) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.Vscroll2.visible, row.flow2) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.absFM.visible, row.flow2) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.FScroll2.visible, row.humidity_bar2) << static_cast<int>(row.mode);
+        EXPECT_EQ(panel.Tscroll2.visible, row.mode != Calculation::SteamHumidifier)
+            << static_cast<int>(row.mode);
+        EXPECT_FALSE(window.overlay.PP3.visible || window.overlay.tmLab.visible)
+            << static_cast<int>(row.mode);
         EXPECT_EQ(window.overlay.t2lab.text, "2");
         EXPECT_TRUE(panel.Anlage1PN.visible);
     }
-    window.Open(kCapacity);
+    window.Open(Calculation::Capacity);
     EXPECT_FALSE(panel.Tscroll2.visible) << "hidden for good by the steam humidifier";
     EXPECT_EQ(panel.Tscroll1.LowEnd(), -200);
     EXPECT_EQ(panel.Tscroll1.HighEnd(), 400);
@@ -77,43 +82,43 @@ TEST(PointPanel, ToolsByHand) {
     };
     const struct {
         const char* name;
-        int mode;
+        Calculation mode;
         Fields fields;
         const char *t2_after, *relF2_after;
         Shown shown;
     } rows[] = {
         {"capacity",
-         kCapacity,
+         Calculation::Capacity,
          {"10000", "20", "100", "12", "95"},
          "12",
          "95",
          {" 14.7", " 57.4", " 8.28", " 33", " 81.19", " 54.04", " 27.14", " 76.7", 76.7}},
         {"warming",
-         kCapacity,
+         Calculation::Capacity,
          {"10000", "12", "95", "20", "100"},
          "20",
          "100",
          {" 8.28", " 33", " 14.7", " 57.4", "-83.7", " 55.71", " 27.98", "-79.1", -79.08}},
         {"cooler",
-         kCooler,
+         Calculation::Cooler,
          {"1000", "20", "100", "12", "50"},
          "12",
          " 90",
          {" 14.7", " 57.4", " 14.7", " 31.9", " 8.48", " 5.77", " 2.71", " 8.19", 8.19}},
         {"heater",
-         kHeater,
+         Calculation::Heater,
          {"1000", "-10", "100", "20", "50"},
          "20",
          " 11.9",
          {" 1.76", "-5.7", " 1.76", " 24.4", " 11.2", " 0", " 11.2", " 0", 0}},
         {"water",
-         kWaterHumidifier,
+         Calculation::WaterHumidifier,
          {"1000", "20", "50", "15", "50"},
          "15",
          " 87.1",
          {" 7.26", " 38.5", " 9.27", " 38.5", " 1.69", " 1.69", " 0", " 2.389", 2.38}},
         {"steam",
-         kSteamHumidifier,
+         Calculation::SteamHumidifier,
          {"1000", "20,0", "50", "15", "100"},
          "20,0",
          "100",
@@ -129,7 +134,7 @@ TEST(PointPanel, ToolsByHand) {
         EXPECT_EQ(window.point.Temp2.text, row.t2_after) << row.name;
         EXPECT_EQ(window.point.relF2.text, row.relF2_after) << row.name;
         ExpectShown(window, row.shown, row.name);
-        EXPECT_EQ(window.shared.ZurueckVomDialog, 1);
+        EXPECT_EQ(window.shared.ZurueckVomDialog, DialogEcho::Expected);
     }
 }
 
@@ -139,7 +144,7 @@ TEST(PointPanel, HeaterBelowTheDewPointAndBack) {
     PointPanel& panel = window.point;
     panel.LuftM1.text = "1000";
     window.SetStates("-10", "100", "20", "50");
-    window.Open(kHeater);
+    window.Open(Calculation::Heater);
     window.Calculate();
     panel.Temp2.text = "-20";
     window.Calculate();
@@ -157,7 +162,7 @@ TEST(PointPanel, WaterHumidifierBeyondSaturationTurnsRedAndBack) {
     ProcessWindow window;
     PointPanel& panel = window.point;
     window.SetStates("20", "50", "10", "50");
-    window.Open(kWaterHumidifier);
+    window.Open(Calculation::WaterHumidifier);
     window.Calculate();
     EXPECT_EQ(panel.relF2.text, " 99");
     EXPECT_EQ(panel.relF2.background, 12);
@@ -173,7 +178,7 @@ TEST(PointPanel, MixtureAndItsMarks) {
     window.SetStates("20", "50", "-10", "100");
     panel.LuftM1.text = "3000";
     panel.LuftM2.text = "0";
-    window.Open(kMixing);
+    window.Open(Calculation::Mixing);
     window.Calculate();
     EXPECT_EQ(panel.TempM.text, "");
     EXPECT_FALSE(window.overlay.PP3.visible);
@@ -202,7 +207,7 @@ TEST(PointPanel, MarksOnBothChartsCarriedAndHeated) {
         PointPanel& panel = window.point;
         Overlay& overlay = window.overlay;
         window.SetStates("20", "50", "-10", "100");
-        window.Open(kStateChange);
+        window.Open(Calculation::StateChange);
         window.Calculate();
         // On the Carrier chart 580 units for 1.2 * 60 K, origin 500 - 162, aspect 2.5.
         const bool mollier = chart == kMollier;
@@ -217,15 +222,15 @@ TEST(PointPanel, MarksOnBothChartsCarriedAndHeated) {
 
         const double left = overlay.PP2.left, top = overlay.PP2.top;
         window.read_out.Temp.text = " 0";
-        panel.MarkenSetzen(kStateChange, kSecondMarkCarried);
+        panel.MarkenSetzen(Calculation::StateChange, MarkPlacing::SecondCarried);
         EXPECT_NE(overlay.PP2.left + overlay.PP2.top, left + top) << "follows the pointer";
         EXPECT_NEAR(overlay.PP1.left, x - 6, 1e-6);
         window.read_out.Temp.text = "-";
         const double carried = overlay.PP2.top;
-        panel.MarkenSetzen(kStateChange, kSecondMarkCarried);
+        panel.MarkenSetzen(Calculation::StateChange, MarkPlacing::SecondCarried);
         EXPECT_EQ(overlay.PP2.top, carried) << "there is no air at the pointer";
 
-        panel.MarkenSetzen(kHeater, kMarksFromFields);
+        panel.MarkenSetzen(Calculation::Heater, MarkPlacing::FromFields);
         EXPECT_EQ(overlay.ZAeLine.x2, overlay.ZAeLine.x1) << "vertical on either chart";
         EXPECT_EQ(overlay.PP2.left, overlay.PP1.left);
     }
@@ -234,13 +239,13 @@ TEST(PointPanel, MarksOnBothChartsCarriedAndHeated) {
 TEST(PointPanel, FollowsPressureAndZoom) {
     ProcessWindow window;
     window.SetStates("25", "60", "10", "50");
-    window.Open(kStateChange);
+    window.Open(Calculation::StateChange);
     window.solver.ChartDruckBar = 0.795;
     window.Calculate();
     EXPECT_EQ(window.point.absF1.text, " 15.24");  // 15.2465539 in the independent table
     const double width = window.overlay.ZAeLine.x1 - window.overlay.ZAeLine.x2;
     ApplyZoom({400, 100, 600, 200}, 0.5, 0.25, window.scale);
-    window.point.MarkenSetzen(kStateChange, kMarksFromFields);
+    window.point.MarkenSetzen(Calculation::StateChange, MarkPlacing::FromFields);
     EXPECT_NEAR(window.overlay.ZAeLine.x1 - window.overlay.ZAeLine.x2, 2 * width, 1e-6);
 }
 
@@ -249,8 +254,8 @@ TEST(PointPanel, BarsFollowFieldsAndFieldsBars) {
     PointPanel& panel = window.point;
     panel.LuftM1.text = "2500";
     window.SetStates("20,5", "50", "12.37", "95");
-    window.Open(kCapacity);
-    window.ReturnInState();
+    window.Open(Calculation::Capacity);
+    window.Return(panel.Temp1);
     EXPECT_EQ(panel.Tscroll1.Position(), 205);
     EXPECT_EQ(panel.Temp1.text, " 20.5") << "the bar that moved wrote its field";
     EXPECT_EQ(panel.Temp2.text, " 12.4");
@@ -259,9 +264,9 @@ TEST(PointPanel, BarsFollowFieldsAndFieldsBars) {
 
     panel.VScroll1.SetPosition(160);
     EXPECT_EQ(panel.LuftM1.text, " 4000");
-    EXPECT_EQ(window.shared.ZurueckVomDialog, 0);
+    EXPECT_EQ(window.shared.ZurueckVomDialog, DialogEcho::None);
     panel.LuftM1.text = "9000";
-    window.ReturnInFlow1();
+    window.Return(panel.LuftM1);
     EXPECT_EQ(panel.LuftSchritt1, 90);
     EXPECT_EQ(panel.VScroll1.Position(), 100);
 
@@ -278,9 +283,9 @@ TEST(PointPanel, FlowFromCapacity) {
     ProcessWindow window;
     PointPanel& panel = window.point;
     window.SetStates("20", "100", "12", "95");
-    window.Open(kCapacity);
+    window.Open(Calculation::Capacity);
     panel.Kleist.text = " 20,5 ";
-    panel.VolumeFromCapacity(kCapacity);
+    panel.VolumeFromCapacity(Calculation::Capacity);
     EXPECT_EQ(panel.Kleist.text, "20.5");
     EXPECT_EQ(panel.LuftM1.text, " 2528");
     EXPECT_NEAR(ToDouble(panel.KLatent.text), 20.5 * 54.04 / 81.19, 0.02);
@@ -292,9 +297,9 @@ TEST(PointPanel, FlowFromCapacity) {
 TEST(PointPanel, FlowFromCapacityOfEqualStatesKeepsTheTrialFlow) {
     ProcessWindow window;
     window.SetStates("20", "80", "20", "80");
-    window.Open(kCapacity);
+    window.Open(Calculation::Capacity);
     window.point.Kleist.text = "20";
-    window.point.VolStrm_rech(kCapacity);
+    window.point.VolStrm_rech(Calculation::Capacity);
     EXPECT_EQ(ToDouble(window.point.LuftM1.text), 1000);
 }
 

@@ -5,14 +5,11 @@
 #include <string>
 
 #include "base/data_files.h"
-#include "base/number_text.h"
-#include "processes/plant_panel.h"
-#include "processes/point_panel.h"
+#include "processes/process_panels.h"
 
 namespace zandrell {
 
-// Both panels on one chart with their bars bound as the main window binds them, and what a user
-// does to them.
+// Both panels on one chart without the main window, and what a user does to them.
 struct ProcessWindow {
     SharedValues shared;
     Captions captions;
@@ -22,11 +19,12 @@ struct ProcessWindow {
     ChartScale scale;
     Overlay overlay;
     ReadOutPanel read_out;
-    ProcessFigures figures;
-    ProcessContext context{shared, captions, solver, settings, scale, overlay, read_out, figures};
-    PointPanel point{context};
-    PlantPanel plant{context};
-    int Rechenmodus = 0;
+    ProcessPanels processes{{shared, captions, solver, settings, scale, overlay, read_out}};
+    ProcessFigures& figures = processes.figures;
+    PointPanel& point = processes.point;
+    PlantPanel& plant = processes.plant;
+    Calculation& Rechenmodus = processes.Rechenmodus;
+    ActTable acts;
     int plant_runs = 0;  // started by bars
 
     ProcessWindow() {
@@ -38,8 +36,8 @@ struct ProcessWindow {
         captions.QVCaptList[13] = "outer air";
         ApplyBaseScale(settings, scale);
         scale.CarrierFaktor = 2.5;
-        BindPointBars();
-        BindPlantBars();
+        processes.BindActs(acts);
+        CountPlantRuns();
     }
 
     void ChooseChart(int kind) {
@@ -48,7 +46,7 @@ struct ProcessWindow {
     }
 
     // The point panel.
-    void Open(int mode) {
+    void Open(Calculation mode) {
         Rechenmodus = mode;
         point.ShowForMode(mode);
     }
@@ -58,16 +56,8 @@ struct ProcessWindow {
         point.Temp2.text = t2;
         point.relF2.text = relF2;
     }
-    void Calculate() { point.ZustandRechnen(Rechenmodus, kMarksFromFields); }
-    void ReturnInState() {
-        point.SchieberAbgleich();
-        Calculate();
-    }
-    void ReturnInFlow1() {
-        Calculate();
-        point.SchieberAbgleich();
-        point.TakeFlowStep1();
-    }
+    void Calculate() { point.ZustandRechnen(Rechenmodus, MarkPlacing::FromFields); }
+    void Return(const TextField& field) { acts.Perform(field.name, ActKind::Return); }
 
     // The plant: flow, ratio, exhaust, outside, supply, coil (t and humidity), fan rises.
     void SetPlant(const char* V, const char* r, const char* tAb, const char* phiAb,
@@ -88,54 +78,20 @@ struct ProcessWindow {
     }
     void OpenPlant() {
         plant.TakeBarsFromFields();
-        Rechenmodus = kPlant;
+        Rechenmodus = Calculation::Plant;
         plant.AnlageBerechnen();
     }
     void ChooseWater() { Choose(plant.Option3D4, plant.Option3D3); }
 
   private:
-    void AfterPointBar(bool clears_flag = true) {
-        Calculate();
-        point.SchieberAbgleich();
-        if (clears_flag) shared.ZurueckVomDialog = 0;
-    }
-    void BindField(ScrollBar& bar, TextField& field) {
-        bar.on_change = [this, &bar, &field] {
-            if (!IsPointMode(Rechenmodus)) return;
-            field.text = NumberText(bar.Position() / 10.0);
-            AfterPointBar();
-        };
-    }
-    void BindFlow(ScrollBar& bar, TextField& field, const double& step, bool clears_flag) {
-        bar.on_change = [this, &bar, &field, &step, clears_flag] {
-            if (!IsPointMode(Rechenmodus) || !(ParsedNumber(field.text) > 0)) return;
-            field.text = NumberText(bar.Position() * step);
-            AfterPointBar(clears_flag);
-        };
-    }
-    void BindPointBars() {
-        BindField(point.Tscroll1, point.Temp1);
-        BindField(point.FScroll1, point.relF1);
-        BindField(point.Tscroll2, point.Temp2);
-        BindField(point.FScroll2, point.relF2);
-        BindFlow(point.VScroll1, point.LuftM1, point.LuftSchritt1, true);
-        BindFlow(point.Vscroll2, point.LuftM2, point.LuftSchritt2, false);
-    }
-    void BindPlantBar(ScrollBar& bar, TextField& field) {
-        bar.on_change = [this, &bar, &field] {
-            if (Rechenmodus != kPlant) return;
-            field.text = NumberText(bar.Position() / 10.0);
-            ++plant_runs;
-            plant.AnlageBerechnen();
-        };
-    }
-    void BindPlantBars() {
-        BindPlantBar(plant.taScroll, plant.Taus);
-        BindPlantBar(plant.tzuScroll, plant.TZuluft);
-        BindPlantBar(plant.tabScroll, plant.tabLuft);
-        BindPlantBar(plant.Phiaussenscroll, plant.PhiAussen);
-        BindPlantBar(plant.PHIAbscroll, plant.PHIAbluft);
-        BindPlantBar(plant.PhiZuscroll, plant.PHIZuluft);
+    void CountPlantRuns() {
+        for (ScrollBar* bar : {&plant.taScroll, &plant.tzuScroll, &plant.tabScroll,
+                               &plant.Phiaussenscroll, &plant.PHIAbscroll, &plant.PhiZuscroll}) {
+            bar->on_change = [this, handler = bar->on_change] {
+                if (Rechenmodus == Calculation::Plant) ++plant_runs;
+                handler();
+            };
+        }
     }
 };
 

@@ -54,18 +54,19 @@ TEST(LoadsBetween, OutsideTheLimitsThereAreNone) {
 TEST(LoadsOfTool, SignsAndShares) {
     const Loads loads{-8, -5, -3, -2};
     const struct {
-        int mode;
+        Calculation mode;
         Loads expected;
     } rows[] = {
-        {kCapacity, {-8, -5, -3, -2}},    {kCooler, {-8, -5, -3, -2}},      {kHeater, {8, 0, 8, 0}},
-        {kWaterHumidifier, {5, 5, 0, 2}}, {kSteamHumidifier, {8, 8, 0, 2}},
+        {Calculation::Capacity, {-8, -5, -3, -2}},    {Calculation::Cooler, {-8, -5, -3, -2}},
+        {Calculation::Heater, {8, 0, 8, 0}},          {Calculation::WaterHumidifier, {5, 5, 0, 2}},
+        {Calculation::SteamHumidifier, {8, 8, 0, 2}},
     };
     for (const auto& row : rows) {
         const Loads seen = LoadsOfTool(row.mode, loads);
-        EXPECT_EQ(seen.total_kw, row.expected.total_kw) << row.mode;
-        EXPECT_EQ(seen.latent_kw, row.expected.latent_kw) << row.mode;
-        EXPECT_EQ(seen.sensible_kw, row.expected.sensible_kw) << row.mode;
-        EXPECT_EQ(seen.water_g_per_s, row.expected.water_g_per_s) << row.mode;
+        EXPECT_EQ(seen.total_kw, row.expected.total_kw) << static_cast<int>(row.mode);
+        EXPECT_EQ(seen.latent_kw, row.expected.latent_kw) << static_cast<int>(row.mode);
+        EXPECT_EQ(seen.sensible_kw, row.expected.sensible_kw) << static_cast<int>(row.mode);
+        EXPECT_EQ(seen.water_g_per_s, row.expected.water_g_per_s) << static_cast<int>(row.mode);
     }
 }
 

@@ -123,16 +123,16 @@ TEST(MainForm, PanelsAreDraggedByTheirOutlineAndStayThere) {
     form.Resize(1280, 800);
     form.Activate();
     form.UserClick("ZAButt");
-    auto& panel = form.point_panel.Anlage1PN;
+    auto& panel = form.processes.point.Anlage1PN;
     // (12000 - 7680) / (12000 / 580) and (19200 - 8960) / (19200 / (2000 * 1.135417))
     EXPECT_NEAR(panel.top, 208.8, 1e-9);
     EXPECT_NEAR(panel.left, 1211.111, 1e-3);
-    form.PanelPress(panel, {panel.left + 10, panel.top + 4});
+    form.Panels().Press(panel, {panel.left + 10, panel.top + 4});
     EXPECT_FALSE(panel.visible);
     EXPECT_TRUE(form.controls.Shape3.visible);
-    form.PanelMove({110, 54});
+    form.Panels().Move({110, 54});
     EXPECT_EQ(form.controls.Shape3.left, 100);
-    form.PanelRelease();
+    form.Panels().Release();
     EXPECT_TRUE(panel.visible);
     EXPECT_EQ(panel.left, 100);
     EXPECT_EQ(panel.top, 50);

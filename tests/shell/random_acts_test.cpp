@@ -100,7 +100,7 @@ class RandomAnswers : public UserInterface {
 
 void ExpectSoundForm(MainForm& form, const std::string& after) {
     static const std::set<int> owners = {0, 1, 2, 4, 5, 33, 44, 77};
-    EXPECT_TRUE(owners.contains(form.PanelZustand)) << after;
+    EXPECT_TRUE(owners.contains(static_cast<int>(form.Pointer().PanelZustand()))) << after;
     for (const Control* control : form.form.Controls()) {
         const std::string& text = control->text;
         if (control->kind != ControlKind::Label) continue;

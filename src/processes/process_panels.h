@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/act_table.h"
+#include "forms/form.h"
+#include "processes/plant_panel.h"
+#include "processes/point_panel.h"
+
+namespace zandrell {
+
+// Both floating panels with what they share: the calculation in force and the figures that it
+// leaves. One of them, or neither, is in force at a time.
+class ProcessPanels {
+  public:
+    // What the calculations work on; all of it outlives the panels.
+    struct Surroundings {
+        SharedValues& shared;
+        const Captions& captions;
+        StateSolver& solver;
+        const ChartSettings& settings;
+        const ChartScale& scale;
+        Overlay& overlay;
+        ReadOutPanel& read_out;
+    };
+    explicit ProcessPanels(const Surroundings& around);
+    ProcessPanels(const ProcessPanels&) = delete;
+    ProcessPanels& operator=(const ProcessPanels&) = delete;
+
+    Calculation Rechenmodus = Calculation::None;
+    ProcessFigures figures;
+    PointPanel point;
+    PlantPanel plant;
+
+    void ListControls(Form& form);
+    void BindActs(ActTable& acts);
+
+    // Draws the process in force again, after the scale of the chart has changed.
+    void Repeat();
+
+  private:
+    const Overlay& overlay_;
+};
+
+}  // namespace zandrell

@@ -1,0 +1,50 @@
+#include "shell/input_keeper.h"
+
+namespace zandrell {
+namespace {
+
+constexpr std::string_view kWorkingStateFile = "QV_ACT.dat";
+
+}  // namespace
+
+WorkingStateFields InputKeeper::Fields() {
+    auto& plant = processes_.plant;
+    auto& point = processes_.point;
+    return {
+        {&plant.tKA, &plant.Taus, &plant.TZuluft, &plant.tabLuft, &plant.vhAnlage, &plant.aussenAnt,
+         &plant.PHIZuluft, &plant.PHIAbluft, &plant.PhiAussen, &point.LuftM1, &point.LuftM2,
+         &point.Temp1, &point.Temp2, &point.relF1, &point.relF2, &plant.dtVent1, &plant.dtVent2},
+        &plant.Option3D3,
+        &plant.Option3D4,
+        &plant.phiKanal};
+}
+
+void InputKeeper::LoadAtStart() {
+    if (!loaded_) Load();
+}
+
+void InputKeeper::Load() {
+    loaded_ = true;
+    const FileStatus status = ArbeitsfelderLaden(files_, kWorkingStateFile, Fields());
+    unread_ = status == FileStatus::Unreadable || status == FileStatus::Malformed;
+}
+
+bool InputKeeper::Save() {
+    const FileStatus status = ArbeitsfelderSpeichern(files_, kWorkingStateFile, Fields());
+    if (status != FileStatus::Ok) return TellUnsaved("Can not write file:   - ");
+    unread_ = false;
+    return true;
+}
+
+bool InputKeeper::SaveAtEnd() {
+    if (unread_) return TellUnsaved("Can not read file:   - ");
+    return Save();
+}
+
+bool InputKeeper::TellUnsaved(const std::string& reason) {
+    const std::string path = files_.Resolve(kWorkingStateFile).string();
+    user_.ShowMessage({shared_.AppTitle, reason + path + " - ", MessageIcon::Stop});
+    return false;
+}
+
+}  // namespace zandrell

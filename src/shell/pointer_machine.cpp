@@ -1,0 +1,292 @@
+#include "shell/pointer_machine.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/number_text.h"
+#include "canvas/palette.h"
+
+namespace zandrell {
+namespace {
+
+// The frame is taken a little larger than it was drawn.
+constexpr double kZoomAllowance = 1.05;
+constexpr double kChartWidth = 1800, kChartHeight = 580;
+
+constexpr std::string_view kNoState = "-";
+
+bool Contains(const Panel& frame, CanvasPoint place) {
+    return place.x >= frame.left && place.x <= frame.left + frame.width && place.y >= frame.top &&
+           place.y <= frame.top + frame.height;
+}
+
+}  // namespace
+
+PointerMachine::PointerMachine(ChartEngine& chart, StateSolver& solver, Overlay& overlay,
+                               ReadOutPanel& read_out, ProcessPanels& processes, Button& zoom_out)
+    : chart_(chart),
+      solver_(solver),
+      overlay_(overlay),
+      read_out_(read_out),
+      processes_(processes),
+      zoom_out_(zoom_out),
+      carriers_{
+          {{overlay.PP1, processes.plant.tabLuft, processes.plant.PHIAbluft,
+            &processes.plant.tabScroll, &processes.plant.PHIAbscroll, &processes.point.Temp1,
+            &processes.point.relF1, &processes.point.ZustandX1, MarkPlacing::FirstCarried},
+           {overlay.PP2, processes.plant.Taus, processes.plant.PhiAussen, &processes.plant.taScroll,
+            &processes.plant.Phiaussenscroll, &processes.point.Temp2, &processes.point.relF2,
+            &processes.point.ZustandX2, MarkPlacing::SecondCarried},
+           {overlay.PP5, processes.plant.TZuluft, processes.plant.PHIZuluft,
+            &processes.plant.tzuScroll, &processes.plant.PhiZuscroll},
+           {overlay.PP6, processes.plant.tKA, processes.plant.phiKanal, nullptr, nullptr}}} {}
+
+void PointerMachine::Paint(ChartTask task, double a, double b) {
+    chart_.DiagrammZeichnen(task, a, b, solver_.ChartDruckBar);
+}
+
+void PointerMachine::ReadOut(CanvasPoint place) {
+    // As long as the way back from a zoom is on offer, the picture has the zoomed scale.
+    Paint(zoom_out_.visible ? ChartTask::ReadOutAsScaled : ChartTask::ReadOutWhole, place.x,
+          place.y);
+}
+
+bool PointerMachine::IsPanelOpen() const {
+    return owner_ == PointerOwner::PointPanel || owner_ == PointerOwner::PlantPanel;
+}
+
+void PointerMachine::Press(CanvasPoint place) {
+    if (DropFirstCarriedMark(place)) return;
+    if (IsPanelOpen() && processes_.Rechenmodus != Calculation::None) {
+        PickUpMarks(place);
+        ReadOut(place);
+        return;
+    }
+    switch (owner_) {
+        case PointerOwner::InsideFrame: {
+            const Panel& frame = chart_.controls.ZoomShape;
+            if (!ZoomInto({frame.left, frame.top}, frame.width, frame.height)) DropFrame();
+            break;
+        }
+        case PointerOwner::OutsideFrame:
+        case PointerOwner::FrameDrawn:
+            DropFrame();
+            break;
+        case PointerOwner::Zoomed:
+            break;
+        case PointerOwner::Nobody:
+        case PointerOwner::FrameDrawing:
+        case PointerOwner::PlantPanel:
+        case PointerOwner::PointPanel:
+            StartFrame(place);
+    }
+}
+
+void PointerMachine::Move(CanvasPoint place) {
+    if (CarriesAny()) MoveCarriedMarks(place);
+    switch (owner_) {
+        case PointerOwner::Nobody:
+        case PointerOwner::Zoomed:
+        case PointerOwner::PlantPanel:
+            shape_ = PointerShape::Cross;
+            read_out_.Pn1.visible = true;
+            ReadOut(place);
+            break;
+        case PointerOwner::FrameDrawing:
+        case PointerOwner::FrameDrawn:
+        case PointerOwner::InsideFrame:
+        case PointerOwner::OutsideFrame:
+            FollowFrame(place);
+            break;
+        case PointerOwner::PointPanel:
+            break;
+    }
+}
+
+void PointerMachine::Release() {
+    if (owner_ != PointerOwner::FrameDrawing) return;
+    owner_ = PointerOwner::FrameDrawn;
+    shape_ = PointerShape::Arrow;
+}
+
+// --- The frame of a zoom.
+
+void PointerMachine::StartFrame(CanvasPoint place) {
+    auto& frame = chart_.controls.ZoomShape;
+    owner_ = PointerOwner::FrameDrawing;
+    frame.visible = true;
+    frame.left = place.x;
+    frame.top = place.y;
+    frame.width = frame.height = 0;
+}
+
+void PointerMachine::FollowFrame(CanvasPoint place) {
+    auto& frame = chart_.controls.ZoomShape;
+    if (owner_ == PointerOwner::FrameDrawing) {
+        frame.height = std::floor(std::abs(place.y - frame.top));
+        frame.width = std::floor(std::abs(place.x - frame.left));
+        return;
+    }
+    const bool inside = Contains(frame, place);
+    shape_ = inside ? PointerShape::Move : PointerShape::Arrow;
+    owner_ = inside ? PointerOwner::InsideFrame : PointerOwner::OutsideFrame;
+}
+
+void PointerMachine::DropFrame() {
+    if (!chart_.controls.ZoomShape.visible) return;
+    chart_.controls.ZoomShape.visible = false;
+    if (!IsPanelOpen()) owner_ = PointerOwner::Nobody;
+}
+
+bool PointerMachine::ZoomInto(CanvasPoint corner, double width, double height) {
+    if (CarriesAny() || width <= 0 || height <= 0) return false;
+    auto& frame = chart_.controls.ZoomShape;
+    frame.left = corner.x;
+    frame.top = corner.y;
+    frame.width = width;
+    frame.height = height;
+    frame.visible = false;
+    zoom_out_.visible = true;
+    owner_ = PointerOwner::Zoomed;
+    Paint(ChartTask::PaintZoomed, width * kZoomAllowance / kChartWidth,
+          height * kZoomAllowance / kChartHeight);
+    processes_.Repeat();
+    return true;
+}
+
+void PointerMachine::ZoomOut() {
+    shape_ = PointerShape::Busy;
+    Paint(ChartTask::PaintWhole);
+    processes_.Repeat();
+    shape_ = PointerShape::Arrow;
+    zoom_out_.visible = false;
+}
+
+// --- Marks that are picked up, carried and dropped.
+
+bool PointerMachine::CarriesAny() const {
+    return std::any_of(carriers_.begin(), carriers_.end(),
+                       [](const Carrier& carrier) { return carrier.carried; });
+}
+
+bool PointerMachine::IsCarried(const Mark& mark) const {
+    return std::any_of(carriers_.begin(), carriers_.end(), [&mark](const Carrier& carrier) {
+        return &carrier.mark == &mark && carrier.carried;
+    });
+}
+
+std::vector<const Mark*> PointerMachine::MarksToPickUp() const {
+    std::vector<const Mark*> marks;
+    if (!IsPanelOpen() || CarriesAny()) return marks;
+    for (const Carrier& carrier : carriers_) {
+        if (carrier.mark.visible) marks.push_back(&carrier.mark);
+    }
+    return marks;
+}
+
+void PointerMachine::PickUpMarks(CanvasPoint place) {
+    for (Carrier& carrier : carriers_) {
+        if (!carrier.mark.IsHitBy(place)) continue;
+        carrier.mark.shape = 1;
+        carrier.mark.colour = kLightGreen;
+        carrier.carried = true;
+    }
+}
+
+void PointerMachine::LetGo(Carrier& carrier) {
+    carrier.carried = false;
+    carrier.mark.shape = 0;
+    carrier.mark.colour = overlay_.ZAeLine.colour;  // that of the scheme, so that it shows on black
+}
+
+void PointerMachine::LetGoOfAll() {
+    for (Carrier& carrier : carriers_) {
+        if (carrier.carried) LetGo(carrier);
+    }
+}
+
+bool PointerMachine::DropFirstCarriedMark(CanvasPoint place) {
+    const auto first = std::find_if(carriers_.begin(), carriers_.end(),
+                                    [](const Carrier& carrier) { return carrier.carried; });
+    if (first == carriers_.end()) return false;
+    LetGo(*first);
+    ReadOut(place);
+    auto& humidity = read_out_.relF.text;
+    if (humidity == "< 0") humidity = "1";
+    if (humidity == "> 100") humidity = "100";
+    TakeDroppedState(*first);
+    return true;
+}
+
+// False where there is no state at all: the fields keep what they have.
+bool PointerMachine::TakeReadOut(TextField& temperature, TextField& humidity) {
+    if (read_out_.relF.text == kNoState) return false;
+    humidity.text = read_out_.relF.text;
+    temperature.text = read_out_.Temp.text;
+    return true;
+}
+
+void PointerMachine::TakeDroppedState(const Carrier& carrier) {
+    if (processes_.Rechenmodus != Calculation::Plant && carrier.temperature != nullptr) {
+        TakeReadOut(*carrier.temperature, *carrier.humidity);
+        processes_.point.SchieberAbgleich();
+        processes_.point.ZustandRechnen(processes_.Rechenmodus, MarkPlacing::FromFields);
+        return;
+    }
+    TakeReadOut(carrier.plant_temperature, carrier.plant_humidity);
+    if (carrier.plant_humidity_bar != nullptr) {
+        carrier.plant_humidity_bar->ShowTenths(ParsedNumber(read_out_.relF.text));
+    }
+    if (carrier.plant_temperature_bar != nullptr) {
+        carrier.plant_temperature_bar->ShowTenths(ParsedNumber(read_out_.Temp.text));
+    }
+    processes_.plant.AnlageBerechnen();
+}
+
+void PointerMachine::MoveCarriedMarks(CanvasPoint place) {
+    ReadOut(place);
+    const double x = ParsedNumber(read_out_.absF.text);
+    const bool in_plant = processes_.Rechenmodus == Calculation::Plant;
+    for (Carrier& carrier : carriers_) {
+        if (!carrier.carried) continue;
+        if (carrier.x == nullptr) {
+            // State 2 of the point panel follows the supply and the coil mark in every mode: what
+            // is drawn of it next starts where the pointer was.
+            processes_.point.ZustandX2 = x;
+        } else if (IsPointMode(processes_.Rechenmodus)) {
+            *carrier.x = x;
+            processes_.point.MarkenSetzen(processes_.Rechenmodus, carrier.placing);
+        }
+        if (in_plant) TakeReadOut(carrier.plant_temperature, carrier.plant_humidity);
+    }
+    if (in_plant) processes_.plant.AnlageBerechnen();
+}
+
+// --- What the window does.
+
+void PointerMachine::PanelOpened(PointerOwner owner) {
+    LetGoOfAll();
+    owner_ = owner;
+    if (owner == PointerOwner::PointPanel) shape_ = PointerShape::Arrow;
+}
+
+void PointerMachine::PanelClosed() {
+    LetGoOfAll();
+    shape_ = PointerShape::Cross;
+    owner_ = PointerOwner::Nobody;
+}
+
+void PointerMachine::OptionsOpened() {
+    LetGoOfAll();
+    if (owner_ == PointerOwner::Zoomed) return;
+    owner_ = PointerOwner::Nobody;
+    chart_.controls.ZoomShape.visible = false;
+}
+
+void PointerMachine::Activated() {
+    owner_ = PointerOwner::Nobody;
+    zoom_out_.visible = false;
+    chart_.controls.ZoomShape.visible = false;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "chart/chart_engine.h"
+#include "processes/process_panels.h"
+
+namespace zandrell {
+
+// Shapes of the mouse pointer over the chart (`MousePointer`).
+enum class PointerShape { Arrow = 1, Cross = 2, Move = 5, Busy = 11 };
+
+// Who owns the pointer on the chart (`PanelZustand`).
+enum class PointerOwner {
+    Nobody = 0,  // the read-out follows; a press starts a zoom frame
+    FrameDrawing = 1,
+    FrameDrawn = 2,  // the pointer is neither in nor out yet
+    InsideFrame = 4,
+    OutsideFrame = 5,
+    PlantPanel = 33,  // marks can be picked up, and the read-out follows
+    PointPanel = 44,  // marks can be picked up
+    Zoomed = 77
+};
+
+// The pointer on the chart: read-out, zoom frame and carried marks. It is told what happens and
+// decides alone who owns the pointer.
+class PointerMachine {
+  public:
+    // `zoom_out` is the button that is shown while the chart is zoomed. All of it outlives the
+    // machine.
+    PointerMachine(ChartEngine& chart, StateSolver& solver, Overlay& overlay,
+                   ReadOutPanel& read_out, ProcessPanels& processes, Button& zoom_out);
+    PointerMachine(const PointerMachine&) = delete;
+    PointerMachine& operator=(const PointerMachine&) = delete;
+
+    PointerOwner PanelZustand() const { return owner_; }
+    PointerShape MousePointer() const { return shape_; }
+    bool IsCarried(const Mark& mark) const;
+    // The marks that a press can pick up now.
+    std::vector<const Mark*> MarksToPickUp() const;
+
+    // The left button on the chart, in canvas units.
+    void Press(CanvasPoint place);
+    void Move(CanvasPoint place);
+    void Release();
+
+    // A frame is given up wherever the pointer is.
+    void DropFrame();
+    // Zooms into a part of the whole chart as a click into a frame drawn around it does. Refused
+    // while a mark is carried or the part is empty.
+    bool ZoomInto(CanvasPoint corner, double width, double height);
+    // Paints the whole chart again (`Zoom_min`).
+    void ZoomOut();
+
+    // What the window does.
+    void PanelOpened(PointerOwner owner);
+    void PanelClosed();
+    void OptionsOpened();
+    void Activated();
+
+  private:
+    // A mark that can be carried, and the state that it stands for: in the plant, and for the first
+    // two on the point panel.
+    struct Carrier {
+        Mark& mark;
+        TextField &plant_temperature, &plant_humidity;
+        ScrollBar *plant_temperature_bar, *plant_humidity_bar;
+        TextField *temperature = nullptr, *humidity = nullptr;
+        double* x = nullptr;  // g/kg
+        MarkPlacing placing = MarkPlacing::FromFields;
+        bool carried = false;
+    };
+
+    bool IsPanelOpen() const;
+    bool CarriesAny() const;
+    void ReadOut(CanvasPoint place);
+    void LetGo(Carrier& carrier);
+    void LetGoOfAll();
+    void PickUpMarks(CanvasPoint place);
+    bool DropFirstCarriedMark(CanvasPoint place);
+    void TakeDroppedState(const Carrier& carrier);
+    bool TakeReadOut(TextField& temperature, TextField& humidity);
+    void MoveCarriedMarks(CanvasPoint place);
+    void StartFrame(CanvasPoint place);
+    void FollowFrame(CanvasPoint place);
+    void Paint(ChartTask task, double a = 0, double b = 0);
+
+    ChartEngine& chart_;
+    StateSolver& solver_;
+    Overlay& overlay_;
+    ReadOutPanel& read_out_;
+    ProcessPanels& processes_;
+    Button& zoom_out_;
+    PointerOwner owner_ = PointerOwner::Nobody;
+    PointerShape shape_ = PointerShape::Arrow;
+    std::array<Carrier, 4> carriers_;
+};
+
+}  // namespace zandrell
