@@ -167,6 +167,7 @@ FileText DataFiles::OpenForInput(std::string_view name, std::uintmax_t largest) 
 
 FileStatus DataFiles::OpenForOutput(std::string_view name, std::string_view text,
                                     Durability durability) const {
+    ++own_writes_;
     fs::path path = Resolve(name);
     std::error_code error;
     const fs::path real = fs::canonical(path, error);
@@ -211,6 +212,7 @@ std::optional<FileStamp> DataFiles::Stamp(std::string_view name) const {
     const fs::path path = Resolve(name);
     std::error_code error;
     FileStamp stamp;
+    stamp.own_writes = own_writes_;
     stamp.size = fs::file_size(path, error);
     if (error) return std::nullopt;
     stamp.time = fs::last_write_time(path, error);

@@ -25,10 +25,12 @@ struct FileText {
 // What can be made again at any time need not wait for the disk.
 enum class Durability { Flushed, Cache };
 
-// Tells whether a file changed since it was last looked at.
+// Tells whether a file changed since it was last looked at. The clock of a file system ticks too
+// slowly to tell two quick changes apart, so the program's own are counted beside it.
 struct FileStamp {
     std::filesystem::file_time_type time{};
     std::uintmax_t size = 0;
+    std::uint64_t own_writes = 0;
     bool operator==(const FileStamp&) const = default;
 };
 
@@ -89,6 +91,7 @@ class DataFiles {
   private:
     std::filesystem::path data_folder_;
     bool delete_warning_given_ = false;
+    mutable std::uint64_t own_writes_ = 0;
 };
 
 }  // namespace zandrell

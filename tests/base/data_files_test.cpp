@@ -24,6 +24,21 @@ TEST(DataFiles, ABareNameIsLookedUpInTheDataFolderWithoutRegardToCase) {
     EXPECT_EQ(folder.Read("KParam.DAT"), "y") << "the file keeps its spelling";
 }
 
+// Within one tick of the file system's clock, and with the same size.
+TEST(DataFiles, AStampTellsEveryOwnWriteApart) {
+    const TestFolder folder;
+    const DataFiles files(folder.Path());
+    std::optional<FileStamp> before;
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_EQ(files.OpenForOutput("quick.dat", std::to_string(i % 10), Durability::Cache),
+                  FileStatus::Ok);
+        const auto after = files.Stamp("quick.dat");
+        ASSERT_NE(after, before) << i;
+        before = after;
+    }
+    EXPECT_EQ(files.Stamp("quick.dat"), before) << "nothing was written in between";
+}
+
 TEST(DataFiles, EachFailureIsToldApart) {
     const TestFolder folder;
     const DataFiles files(folder.Path());
