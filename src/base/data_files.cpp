@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <system_error>
 
 #include "base/captions.h"
 #include "base/text_encoding.h"
@@ -18,6 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kDefaultRecordLength = 128;
+
+std::string SystemWords(int error) { return std::generic_category().message(error); }
 
 class Descriptor {
   public:
@@ -54,36 +57,48 @@ fs::path ExistingSpelling(const fs::path& wanted) {
     return found;
 }
 
-FileStatus ReadAll(const fs::path& path, std::uintmax_t largest, std::string& bytes) {
+// The error number of a thing that is in the way of a file.
+int NoFileError(const struct stat& about) { return S_ISDIR(about.st_mode) ? EISDIR : EINVAL; }
+
+// `error` is the error number when the file is Unreadable.
+FileStatus ReadAll(const fs::path& path, std::uintmax_t largest, std::string& bytes, int& error) {
+    const auto unreadable = [&error](int number) {
+        error = number;
+        return FileStatus::Unreadable;
+    };
     // Without O_NONBLOCK a named pipe in the place of a file would hold the program up.
     Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.Valid()) {
-        return errno == ENOENT || errno == ENOTDIR ? FileStatus::Missing : FileStatus::Unreadable;
+        const bool missing = errno == ENOENT || errno == ENOTDIR;
+        return missing ? FileStatus::Missing : unreadable(errno);
     }
     struct stat about {};
-    if (::fstat(file.Handle(), &about) != 0 || !S_ISREG(about.st_mode))
-        return FileStatus::Unreadable;
+    if (::fstat(file.Handle(), &about) != 0) return unreadable(errno);
+    if (!S_ISREG(about.st_mode)) return unreadable(NoFileError(about));
     if (static_cast<std::uintmax_t>(about.st_size) > largest) return FileStatus::Malformed;
     std::array<char, 1U << 16U> block{};
     for (;;) {
         const auto count = ::read(file.Handle(), block.data(), block.size());
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return FileStatus::Unreadable;
+        if (count < 0) return unreadable(errno);
         if (count == 0) return FileStatus::Ok;
         bytes.append(block.data(), static_cast<std::size_t>(count));
         if (bytes.size() > largest) return FileStatus::Malformed;
     }
 }
 
-bool WriteAll(int handle, std::string_view bytes) {
+// 0, or the error number.
+int WriteAll(int handle, std::string_view bytes) {
     while (!bytes.empty()) {
         const auto count = ::write(handle, bytes.data(), bytes.size());
         if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) return false;
+        if (count <= 0) return count < 0 ? errno : EIO;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
-    return true;
+    return 0;
 }
+
+int ErrorOf(int called) { return called == 0 ? 0 : errno; }
 
 mode_t ModeFor(const fs::path& target) {
     constexpr mode_t kNewFile = 0644;
@@ -91,21 +106,24 @@ mode_t ModeFor(const fs::path& target) {
     return ::stat(target.c_str(), &about) == 0 ? (about.st_mode & 0777U) : kNewFile;
 }
 
-bool ReplaceFile(const fs::path& target, std::string_view bytes, Durability durability) {
+// 0, or the number of the first error.
+int ReplaceFile(const fs::path& target, std::string_view bytes, Durability durability) {
     std::string beside = target.string() + ".XXXXXX";
     Descriptor file(::mkstemp(beside.data()));
-    if (!file.Valid()) return false;
-    const bool flush = durability == Durability::Flushed;
-    const bool written = ::fchmod(file.Handle(), ModeFor(target)) == 0 &&
-                         WriteAll(file.Handle(), bytes) && (!flush || ::fsync(file.Handle()) == 0);
-    if (!file.Close() || !written || ::rename(beside.c_str(), target.c_str()) != 0) {
+    if (!file.Valid()) return errno;
+    int error = ErrorOf(::fchmod(file.Handle(), ModeFor(target)));
+    if (error == 0) error = WriteAll(file.Handle(), bytes);
+    if (error == 0 && durability == Durability::Flushed) error = ErrorOf(::fsync(file.Handle()));
+    if (!file.Close() && error == 0) error = errno;
+    if (error == 0) error = ErrorOf(::rename(beside.c_str(), target.c_str()));
+    if (error != 0) {
         ::unlink(beside.c_str());
-        return false;
+        return error;
     }
     const Descriptor folder(
         ::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder.Valid()) ::fsync(folder.Handle());
-    return true;
+    return 0;
 }
 
 // What stands for the read-only attribute: the owner's write permission is missing.
@@ -134,9 +152,11 @@ std::string_view StatusWord(FileStatus status) {
         case FileStatus::Unreadable:
             return "unreadable";
         case FileStatus::Malformed:
+            return "malformed";
+        case FileStatus::NotWritten:
             break;
     }
-    return "malformed";
+    return "not written";
 }
 
 RecordFile::RecordFile(FileStatus status, std::string bytes, std::size_t record_length)
@@ -161,28 +181,35 @@ FileText DataFiles::OpenForInput(std::string_view name, std::uintmax_t largest) 
     const fs::path path = Resolve(name);
     ClearReadOnly(path);
     std::string bytes;
-    const FileStatus status = ReadAll(path, largest, bytes);
-    return {status, status == FileStatus::Ok ? DecodeText(bytes) : std::string()};
+    int error = 0;
+    const FileStatus status = ReadAll(path, largest, bytes, error);
+    if (status == FileStatus::Unreadable) return {status, {}, SystemWords(error)};
+    return {status, status == FileStatus::Ok ? DecodeText(bytes) : std::string(), {}};
 }
 
 FileStatus DataFiles::OpenForOutput(std::string_view name, std::string_view text,
-                                    Durability durability) const {
+                                    Durability durability, std::string* reason) const {
     ++own_writes_;
     fs::path path = Resolve(name);
-    std::error_code error;
-    const fs::path real = fs::canonical(path, error);
-    if (!error) path = real;
+    std::error_code no_such_file;
+    const fs::path real = fs::canonical(path, no_such_file);
+    if (!no_such_file) path = real;
     ClearReadOnly(path);
-    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) return FileStatus::Unreadable;
-    return ReplaceFile(path, EncodeText(text), durability) ? FileStatus::Ok
-                                                           : FileStatus::Unreadable;
+    struct stat about {};
+    const bool in_the_way = ::stat(path.c_str(), &about) == 0 && !S_ISREG(about.st_mode);
+    const int error =
+        in_the_way ? NoFileError(about) : ReplaceFile(path, EncodeText(text), durability);
+    if (error == 0) return FileStatus::Ok;
+    if (reason != nullptr) *reason = SystemWords(error);
+    return FileStatus::NotWritten;
 }
 
 RecordFile DataFiles::OpenRandom(std::string_view name, std::size_t record_length) const {
     const fs::path path = Resolve(name);
     ClearReadOnly(path);
     std::string bytes;
-    const FileStatus status = ReadAll(path, kLargestRecordFile, bytes);
+    int error = 0;
+    const FileStatus status = ReadAll(path, kLargestRecordFile, bytes, error);
     if (status != FileStatus::Ok) bytes.clear();
     return RecordFile(status, std::move(bytes), record_length);
 }

@@ -11,15 +11,16 @@ namespace zandrell {
 
 struct Captions;
 
-enum class FileStatus { Ok, Missing, Unreadable, Malformed };
+enum class FileStatus { Ok, Missing, Unreadable, Malformed, NotWritten };
 
-// A word for messages: "missing", "unreadable" or "malformed".
+// A word or two for messages: "missing", "unreadable", "malformed" or "not written".
 std::string_view StatusWord(FileStatus status);
 
 // The text of a file, decoded to UTF-8; empty unless the status is Ok.
 struct FileText {
     FileStatus status = FileStatus::Missing;
     std::string text;
+    std::string reason;  // why it is Unreadable, in the words of the system
 };
 
 // What can be made again at any time need not wait for the disk.
@@ -69,9 +70,11 @@ class DataFiles {
     FileText OpenForInput(std::string_view name, std::uintmax_t largest = kLargestText) const;
 
     // Replaces the whole file by `text` (encoded as the suite's files are): written beside it,
-    // flushed and renamed, so that the old or the new content stands there, never half.
+    // flushed and renamed, so that the old or the new content stands there, never half. Ok, or
+    // NotWritten with the words of the system in `reason` ("No space left on device").
     FileStatus OpenForOutput(std::string_view name, std::string_view text,
-                             Durability durability = Durability::Flushed) const;
+                             Durability durability = Durability::Flushed,
+                             std::string* reason = nullptr) const;
 
     // For reading only; a missing file is not created. Record length 0 means 128.
     RecordFile OpenRandom(std::string_view name, std::size_t record_length) const;

@@ -21,7 +21,8 @@ FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings) {
     return whole ? FileStatus::Ok : FileStatus::Malformed;
 }
 
-FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings) {
+FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings,
+                              std::string* reason) {
     DelimitedWriter writer;
     writer.Number(settings.pressure_bar).EndLine();
     writer.Number(settings.ChartTMin).EndLine();
@@ -31,7 +32,7 @@ FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& setti
     writer.Number(settings.site_height_m).EndLine();
     writer.Number(settings.DiagrammArt).EndLine();
     writer.Number(settings.Helligkeit).EndLine();
-    return files.OpenForOutput(kSettingsFile, writer.Result());
+    return files.OpenForOutput(kSettingsFile, writer.Result(), Durability::Flushed, reason);
 }
 
 }  // namespace zandrell

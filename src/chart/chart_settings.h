@@ -19,6 +19,8 @@ struct ChartSettings {
 
 // Items that the file lacks keep their value in `settings`.
 FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings);
-FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings);
+// With NotWritten `reason` has the words of the system.
+FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings,
+                              std::string* reason = nullptr);
 
 }  // namespace zandrell

@@ -30,6 +30,7 @@ struct CalculationData {
         error = files.Resolve(kCoefficientFile).string() + ": ";
         if (file.status != FileStatus::Ok) {
             error += StatusWord(file.status);
+            if (!file.reason.empty()) error += ", " + file.reason;
             return false;
         }
         tables = ReadWaterAirTables(file.text);

@@ -29,13 +29,13 @@ FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
 }
 
 FileStatus ArbeitsfelderSpeichern(const DataFiles& files, std::string_view name,
-                                  const WorkingStateFields& state) {
+                                  const WorkingStateFields& state, std::string* reason) {
     DelimitedWriter writer;
     for (const TextField* field : state.fields) writer.Text(field->text).EndLine();
     writer.Boolean(state.steam->on).EndLine();
     writer.Boolean(state.water->on).EndLine();
     writer.Text(state.coil_humidity->text).EndLine();
-    return files.OpenForOutput(name, writer.Result());
+    return files.OpenForOutput(name, writer.Result(), Durability::Flushed, reason);
 }
 
 }  // namespace zandrell

@@ -23,7 +23,8 @@ struct WorkingStateFields {
 FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
                               const WorkingStateFields& state);
 
+// With NotWritten `reason` has the words of the system.
 FileStatus ArbeitsfelderSpeichern(const DataFiles& files, std::string_view name,
-                                  const WorkingStateFields& state);
+                                  const WorkingStateFields& state, std::string* reason = nullptr);
 
 }  // namespace zandrell

@@ -30,20 +30,22 @@ void InputKeeper::Load() {
 }
 
 bool InputKeeper::Save() {
-    const FileStatus status = ArbeitsfelderSpeichern(files_, kWorkingStateFile, Fields());
-    if (status != FileStatus::Ok) return TellUnsaved("Can not write file:   - ");
+    std::string reason;
+    const FileStatus status = ArbeitsfelderSpeichern(files_, kWorkingStateFile, Fields(), &reason);
+    if (status != FileStatus::Ok) return TellUnsaved("Can not write file:   - ", reason);
     unread_ = false;
     return true;
 }
 
 bool InputKeeper::SaveAtEnd() {
-    if (unread_) return TellUnsaved("Can not read file:   - ");
-    return Save();
+    if (!unread_) return Save();
+    return TellUnsaved("Can not read file:   - ", files_.OpenForInput(kWorkingStateFile).reason);
 }
 
-bool InputKeeper::TellUnsaved(const std::string& reason) {
-    const std::string path = files_.Resolve(kWorkingStateFile).string();
-    user_.ShowMessage({shared_.AppTitle, reason + path + " - ", MessageIcon::Stop});
+bool InputKeeper::TellUnsaved(const std::string& what, const std::string& reason) {
+    std::string text = what + files_.Resolve(kWorkingStateFile).string() + " - ";
+    if (!reason.empty()) text += ": " + reason;
+    user_.ShowMessage({shared_.AppTitle, text, MessageIcon::Stop});
     return false;
 }
 

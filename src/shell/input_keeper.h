@@ -27,7 +27,7 @@ class InputKeeper {
 
   private:
     WorkingStateFields Fields();
-    bool TellUnsaved(const std::string& reason);
+    bool TellUnsaved(const std::string& what, const std::string& reason);
 
     const DataFiles& files_;
     const SharedValues& shared_;

@@ -153,11 +153,11 @@ void OptionsForm::Opt_speich() {
     typed.DiagrammArt = Option3d2.on ? kCarrier : kMollier;
     if (!PassesTests(typed)) return;
     typed.Helligkeit = white.on ? kWhiteGround : kBlackGround;
-    const FileStatus status = WriteChartSettings(files_, typed);
-    if (status != FileStatus::Ok) {
+    std::string reason;
+    if (WriteChartSettings(files_, typed, &reason) != FileStatus::Ok) {
         const std::string path = files_.Resolve("qv_par.dat").string();
-        user_.ShowMessage(
-            {shared_.AppTitle, "Can not write file:   - " + path + " - ", MessageIcon::Stop});
+        user_.ShowMessage({shared_.AppTitle, "Can not write file:   - " + path + " - : " + reason,
+                           MessageIcon::Stop});
         return;
     }
     closed = true;

@@ -49,17 +49,32 @@ TEST(DataFiles, EachFailureIsToldApart) {
     const struct {
         const char* name;
         FileStatus status;
-    } cases[] = {{"none.dat", FileStatus::Missing},
-                 {"folder.dat", FileStatus::Unreadable},
-                 {"pipe.dat", FileStatus::Unreadable},
-                 {"huge.dat", FileStatus::Malformed}};
+        const char* reason;
+    } cases[] = {{"none.dat", FileStatus::Missing, ""},
+                 {"folder.dat", FileStatus::Unreadable, "Is a directory"},
+                 {"pipe.dat", FileStatus::Unreadable, "Invalid argument"},
+                 {"huge.dat", FileStatus::Malformed, ""}};
     for (const auto& c : cases) {
         const FileText file = files.OpenForInput(c.name);
         EXPECT_EQ(file.status, c.status) << c.name;
         EXPECT_TRUE(file.text.empty());
+        EXPECT_EQ(file.reason, c.reason) << c.name;
     }
-    EXPECT_EQ(files.OpenForOutput("folder.dat", "x"), FileStatus::Unreadable);
-    EXPECT_EQ(DataFiles(folder / "gone").OpenForOutput("a.dat", "x"), FileStatus::Unreadable);
+    const struct {
+        fs::path folder;
+        const char *name, *reason;
+    } targets[] = {{folder.Path(), "folder.dat", "Is a directory"},
+                   {folder / "gone", "a.dat", "No such file or directory"},
+                   {"/proc", "self/a.dat", "No such file or directory"},
+                   {folder.Path(), "/dev/full", "Invalid argument"}};
+    for (const auto& target : targets) {
+        std::string reason;
+        EXPECT_EQ(
+            DataFiles(target.folder).OpenForOutput(target.name, "x", Durability::Flushed, &reason),
+            FileStatus::NotWritten)
+            << target.name;
+        EXPECT_EQ(reason, target.reason) << target.name;
+    }
 }
 
 TEST(DataFiles, AReadOnlyFileIsReplacedAndWritableAfterwards) {
