@@ -72,7 +72,7 @@ TemperaturePoint EvaluateTemperature(const WaterAirTables& tables, const Pressur
     const double celsius = point.T - kKelvinOffset;
     point.dry_air_enthalpy = IntegrateSpecificHeat(tables.CpLuft, celsius);
     point.vapour_enthalpy_polynomial = IntegrateSpecificHeat(tables.CpDampf, celsius);
-    if (!(kMolarGasConstantSteam * point.T * point.saturated_density < kIdealVapourBelow)) {
+    if (!(kGasConstantSteam * point.T * point.saturated_density < kIdealVapourBelow)) {
         point.steam = MakeEnthalpyTerms(tables, at);
     }
     return point;
@@ -86,7 +86,7 @@ AirState EvaluateHumidity(const WaterAirTables& tables, const TemperaturePoint& 
     const double vapour_density = relF * point.saturated_density;
     // The pressure that EquationOfStatePressure finds for this density is not carried into the
     // state: the ideal-gas vapour pressure stands, and so that pass is not run here.
-    state.ZustandPDampf = kMolarGasConstantSteam * T * vapour_density;
+    state.ZustandPDampf = kGasConstantSteam * T * vapour_density;
     state.ZustandPLuft = total - state.ZustandPDampf;
     const double air_density = state.ZustandPLuft / (kGasConstantAir * T);
     double x = vapour_density / air_density;

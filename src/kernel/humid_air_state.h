@@ -8,8 +8,8 @@
 namespace zandrell {
 
 inline constexpr double kKelvinOffset = 273.15;
-inline constexpr double kMolarGasConstantSteam = 461.5;  // J/(kg K), named by the model
-inline constexpr double kGasConstantAir = 287.04;        // J/(kg K)
+// Specific gas constants, J/(kg K), rounded as the suite's other modules round them.
+inline constexpr double kGasConstantSteam = 461.5, kGasConstantAir = 287.04;
 
 // Limits of the state function, all inclusive.
 inline constexpr double kLowestPressureBar = 0, kHighestPressureBar = 8.5;

@@ -30,7 +30,7 @@ double SoavePressure(const WaterAirTables& tables, double T, double volume) {
     constexpr double kAttraction = 1724.55;     // a, Pa m6 / kg2
     constexpr double kCovolume = 0.00117007;    // b, m3/kg
     const double root = 1 + kAcentricSlope * (1 - std::sqrt(T / tables.RefTemp));
-    return kMolarGasConstantSteam * T / (volume - kCovolume) -
+    return kGasConstantSteam * T / (volume - kCovolume) -
            root * root * kAttraction / (volume * (volume + kCovolume));
 }
 
