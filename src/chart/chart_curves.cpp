@@ -21,9 +21,6 @@ constexpr std::array<double, 10> kDensityStarts = {-15, -7, 4, 14, 22, 29, 39, 5
 constexpr int kDensityLines = 9;
 constexpr double kFirstDensity = 1.35, kDensityStep = 0.05;  // kg/m3
 
-constexpr double kFoundEnthalpy =
-    0.02;  // kJ/kg, a search that ended further off has not found its target
-
 bool CurvePointAt(const ChartPainting& painting, double humidity, int t, CurvePoint& point) {
     if (painting.cache_is_good) return painting.cache.Read(point);
     if (!painting.solver.Evaluate(humidity, t, painting.settings.pressure_bar)) return false;
@@ -94,18 +91,17 @@ struct EnthalpyLine {
 std::optional<EnthalpyLine> FindEnthalpyLine(const ChartPainting& painting, int h, int h_step) {
     const auto& settings = painting.settings;
     double reach = (settings.ChartTMax + 10 * h_step) - (settings.ChartTMin + h_step);
-    const double dry_t =
+    const SearchResult dry =
         TempAusEnthalpie(painting.solver, h, h, EnthalpySearch::DryAirEstimate, reach, 100, 10);
-    const double saturated_t = TempAusEnthalpie(painting.solver, settings.ChartTMin, h,
-                                                EnthalpySearch::RelativeHumidity, reach, 100, 10);
-    const bool found = std::abs(painting.solver.ZustandH - h) <= kFoundEnthalpy;
-    if (!found || saturated_t < settings.ChartTMin ||
-        saturated_t > settings.ChartTMax + painting.steps.temperature_step) {
+    const SearchResult saturated = TempAusEnthalpie(
+        painting.solver, settings.ChartTMin, h, EnthalpySearch::RelativeHumidity, reach, 100, 10);
+    if (!saturated.Found() || saturated.value < settings.ChartTMin ||
+        saturated.value > settings.ChartTMax + painting.steps.temperature_step) {
         return std::nullopt;
     }
     const auto& scale = painting.scale;
-    EnthalpyLine line{{scale.Xm(0), scale.Ym(dry_t)},
-                      {scale.Xm(painting.solver.ZustandX), scale.Ym(saturated_t)}};
+    EnthalpyLine line{{scale.Xm(0), scale.Ym(dry.value)},
+                      {scale.Xm(painting.solver.ZustandX), scale.Ym(saturated.value)}};
     line.dry = ClippedAtTop(line.dry, line.saturated);
     return line;
 }
@@ -139,9 +135,11 @@ void PaintDensityLine(const ChartPainting& painting, int i) {
     const double density = kFirstDensity - kDensityStep * i;
     const double start = kDensityStarts[static_cast<std::size_t>(i)];
     const auto& scale = painting.scale;
-    const double dry_t = TempAusDichte(painting.solver, start, density, DensitySearch::DryEdge);
+    // The line ends where the searches stopped, found or not.
+    const double dry_t =
+        TempAusDichte(painting.solver, start, density, DensitySearch::DryEdge).value;
     const double saturated_t =
-        TempAusDichte(painting.solver, start - 2, density, DensitySearch::Saturation);
+        TempAusDichte(painting.solver, start - 2, density, DensitySearch::Saturation).value;
     const CanvasPoint saturated{scale.Xm(painting.solver.ZustandX), scale.Ym(saturated_t)};
     const CanvasPoint dry = ClippedAtTop({scale.Xm(0), scale.Ym(dry_t)}, saturated);
     const bool fits = saturated.y >= 0 && saturated.y <= 270;

@@ -9,6 +9,7 @@ namespace zandrell {
 namespace {
 
 using InputValues = std::span<const std::optional<double>>;
+using ResultCells = std::span<std::optional<double>>;
 
 // What the three searches share: they run on a solver at the pressure of the row.
 class InverseCalculation : public RowCalculation {
@@ -16,29 +17,33 @@ class InverseCalculation : public RowCalculation {
     InverseCalculation(const DataFiles& files, double default_p_bar)
         : solver_(files), default_p_bar_(default_p_bar) {}
 
-    bool Calculate(InputValues inputs, std::span<double> results, std::string& reason) override {
+    void Calculate(InputValues inputs, ResultCells results, std::string& reason) override {
         double relF = 0, p_bar = inputs.back().value_or(default_p_bar_);
         ClampArguments(relF, p_bar);
         const double t = FirstTemperature(inputs);
         if (!WithinLimits(relF, t, p_bar)) {
             reason = NoStateReason(t, p_bar);
-            return false;
+            return;
         }
         solver_.ChartDruckBar = p_bar;
-        const unsigned refused = solver_.RefusedCalls();
-        if (!Search(inputs, results, reason)) return false;
-        // The search went on from a state that there is not, so its end means nothing.
-        if (solver_.RefusedCalls() != refused) {
-            reason = "the search left the limits of the state";
-            return false;
-        }
-        return true;
+        Search(inputs, results, reason);
     }
 
   protected:
     // Where the search asks for its first state, degC.
     virtual double FirstTemperature(InputValues inputs) const = 0;
-    virtual bool Search(InputValues inputs, std::span<double> results, std::string& reason) = 0;
+    virtual void Search(InputValues inputs, ResultCells results, std::string& reason) = 0;
+
+    // Enters what was found as the first result, and with it the humidity of the state there as
+    // the last one. A target out of reach is answered by the nearest value.
+    void Enter(const SearchResult& found, ResultCells results, std::string& reason) const {
+        if (found.end == SearchEnd::NoState) {
+            reason = "the search left the limits of the state";
+            return;
+        }
+        results.front() = found.value;
+        if (results.size() > 1) results.back() = solver_.ZustandX;
+    }
 
     StateSolver solver_;
 
@@ -67,9 +72,8 @@ class HumidityFromX : public InverseCalculation {
 
   protected:
     double FirstTemperature(InputValues inputs) const override { return *inputs[0]; }
-    bool Search(InputValues inputs, std::span<double> results, std::string&) override {
-        results[0] = RelFeuchteAusX(solver_, *inputs[0], *inputs[1]);
-        return true;
+    void Search(InputValues inputs, ResultCells results, std::string& reason) override {
+        Enter(RelFeuchteAusX(solver_, *inputs[0], *inputs[1]), results, reason);
     }
 };
 
@@ -90,26 +94,25 @@ class TemperatureFromEnthalpy : public InverseCalculation {
 
   protected:
     double FirstTemperature(InputValues inputs) const override { return *inputs[0]; }
-    bool Search(InputValues inputs, std::span<double> results, std::string& reason) override {
+    void Search(InputValues inputs, ResultCells results, std::string& reason) override {
         const int kind = KindOf(*inputs[2], 3, reason);
-        if (kind == 0) return false;
+        if (kind == 0) return;
         const auto search = static_cast<EnthalpySearch>(kind);
         const bool by_x = search == EnthalpySearch::HumidityRatio;
         if (!inputs[by_x ? 5 : 4]) {
             reason = by_x ? "kind 3 needs x" : "kinds 1 and 2 need rh";
-            return false;
+            return;
         }
         const auto rel_percent = RoundToInteger(by_x ? 0 : *inputs[4]);
         if (!rel_percent) {
             reason = "rh is no percentage";
-            return false;
+            return;
         }
         double step = *inputs[3];
-        results[0] = TempAusEnthalpie(solver_, *inputs[0], *inputs[1], search, step, *rel_percent,
-                                      inputs[5].value_or(0));
+        Enter(TempAusEnthalpie(solver_, *inputs[0], *inputs[1], search, step, *rel_percent,
+                               inputs[5].value_or(0)),
+              results, reason);
         results[1] = step;
-        results[2] = solver_.ZustandX;
-        return true;
     }
 };
 
@@ -126,13 +129,11 @@ class TemperatureFromDensity : public InverseCalculation {
   protected:
     // The search begins 8 K above its start.
     double FirstTemperature(InputValues inputs) const override { return *inputs[0] + 8; }
-    bool Search(InputValues inputs, std::span<double> results, std::string& reason) override {
+    void Search(InputValues inputs, ResultCells results, std::string& reason) override {
         const int kind = KindOf(*inputs[2], 2, reason);
-        if (kind == 0) return false;
-        results[0] =
-            TempAusDichte(solver_, *inputs[0], *inputs[1], static_cast<DensitySearch>(kind));
-        results[1] = solver_.ZustandX;
-        return true;
+        if (kind == 0) return;
+        Enter(TempAusDichte(solver_, *inputs[0], *inputs[1], static_cast<DensitySearch>(kind)),
+              results, reason);
     }
 };
 

@@ -27,10 +27,11 @@ class RowCalculation {
     virtual std::span<const InputColumn> Inputs() const = 0;
     virtual std::span<const std::string_view> Results() const = 0;
 
-    // `inputs` and `results` stand in the order of the two lists. False, with the reason in a few
-    // words, when there is no result. Requires: numbers where the need of the column says so.
-    virtual bool Calculate(std::span<const std::optional<double>> inputs, std::span<double> results,
-                           std::string& reason) = 0;
+    // `inputs` and `results` stand in the order of the two lists; the results come empty. A result
+    // that does not exist stays empty, or may be no finite number; `reason` says in a few words why
+    // there is none, where that is known. Requires: numbers where the need of the column says so.
+    virtual void Calculate(std::span<const std::optional<double>> inputs,
+                           std::span<std::optional<double>> results, std::string& reason) = 0;
 };
 
 }  // namespace zandrell

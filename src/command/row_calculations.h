@@ -14,9 +14,10 @@ namespace zandrell {
 // The results of a state, in the order of the columns that the state calculation adds.
 inline constexpr std::size_t kStateResults = 8;
 extern const std::array<std::string_view, kStateResults> kStateResultNames;
+// Some may be no finite number: each stands for itself.
 std::array<double, kStateResults> ResultsOf(const AirState& state);
 
-// Why there is no state at t (degC) and p_bar.
+// Why there is no state at t (degC) and p_bar. Requires: one of them is outside the limits.
 std::string NoStateReason(double t, double p_bar);
 
 // The state of humid air from t (degC), rh (per cent) and p (bar). Rows without p have

@@ -59,9 +59,9 @@ class RowRun {
     void TakeRow(const LineReader::Line& line);
     bool ReadCells(const LineReader::Line& line, std::string& reason);
     bool ReadNumbers(std::string& reason);
-    bool FindResults(std::string& reason);
-    void WriteCsvRow(std::string_view text, bool found);
-    void WriteJsonRow(bool found);
+    void FindResults(std::string& reason);
+    void WriteCsvRow(std::string_view text);
+    void WriteJsonRow();
     void AppendJsonInput(std::string& json, std::size_t column) const;
 
     void Flush() {
@@ -78,7 +78,7 @@ class RowRun {
     std::vector<std::size_t> places_;  // of the inputs among them
     std::vector<std::string_view> cells_;
     std::vector<std::optional<double>> inputs_;
-    std::vector<double> results_;
+    std::vector<std::optional<double>> results_;
 };
 
 bool RowRun::TakeHeader(const LineReader::Line& line, std::string& error) {
@@ -131,17 +131,17 @@ bool RowRun::NamesAreFitForJson(std::string& error) const {
 void RowRun::TakeRow(const LineReader::Line& line) {
     std::string reason;
     std::fill(inputs_.begin(), inputs_.end(), std::nullopt);
-    const bool readable = ReadCells(line, reason);
-    const bool found = readable && ReadNumbers(reason) && FindResults(reason);
-    if (!found) {
+    std::fill(results_.begin(), results_.end(), std::nullopt);
+    if (ReadCells(line, reason) && ReadNumbers(reason)) FindResults(reason);
+    if (!reason.empty()) {
         reports_.buffer.append(LineName(line.number)).append(reason);
         reports_.EndLine();
     }
     if (json_) {
-        WriteJsonRow(found);
+        WriteJsonRow();
     } else {
         // A row that cannot be taken apart would take its neighbours along in the next program.
-        WriteCsvRow(cells_.empty() ? std::string_view() : line.text, found);
+        WriteCsvRow(cells_.empty() ? std::string_view() : line.text);
     }
     output_.EndLine();
 }
@@ -172,22 +172,26 @@ bool RowRun::ReadNumbers(std::string& reason) {
     return true;
 }
 
-bool RowRun::FindResults(std::string& reason) {
-    if (!calculation_.Calculate(inputs_, results_, reason)) return false;
-    const bool finite = std::all_of(results_.begin(), results_.end(),
-                                    [](double value) { return std::isfinite(value); });
-    return finite || Fail(reason, "the result is no finite number");
+void RowRun::FindResults(std::string& reason) {
+    calculation_.Calculate(inputs_, results_, reason);
+    for (std::size_t i = 0; i < results_.size(); ++i) {
+        if (results_[i] && std::isfinite(*results_[i])) continue;
+        results_[i].reset();
+        if (reason.empty()) {
+            reason.append(calculation_.Results()[i]).append(" is no finite number");
+        }
+    }
 }
 
-void RowRun::WriteCsvRow(std::string_view text, bool found) {
+void RowRun::WriteCsvRow(std::string_view text) {
     std::string& buffer = output_.buffer;
     buffer += text;
     // A row that is too short is filled up, so that later columns stay below their names.
     const std::size_t cells = std::max<std::size_t>(cells_.size(), 1);
     if (cells < names_.size()) buffer.append(names_.size() - cells, ',');
-    for (const double value : results_) {
+    for (const auto& value : results_) {
         buffer += ',';
-        if (found) AppendNumber(buffer, value);
+        if (value) AppendNumber(buffer, *value);
     }
 }
 
@@ -205,7 +209,7 @@ void RowRun::AppendJsonInput(std::string& json, std::size_t column) const {
     }
 }
 
-void RowRun::WriteJsonRow(bool found) {
+void RowRun::WriteJsonRow() {
     std::string& buffer = output_.buffer;
     char mark = '{';
     for (std::size_t i = 0; i < names_.size(); ++i, mark = ',') {
@@ -216,8 +220,8 @@ void RowRun::WriteJsonRow(bool found) {
     }
     for (std::size_t i = 0; i < results_.size(); ++i) {
         buffer.append(",\"").append(calculation_.Results()[i]).append("\":");
-        if (found) {
-            AppendNumber(buffer, results_[i]);
+        if (results_[i]) {
+            AppendNumber(buffer, *results_[i]);
         } else {
             buffer += "null";
         }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <optional>
 
 #include "command/row_calculations.h"
 #include "command/table_cells.h"
@@ -34,26 +36,33 @@ std::string SevenDigits(double value) {
     return {digits.data(), end};
 }
 
-void AppendRow(std::string& text, const Quantity& quantity, double value) {
-    const std::string digits = SevenDigits(value);
+void AppendRow(std::string& text, const Quantity& quantity, std::optional<double> value) {
+    const std::string digits = value ? SevenDigits(*value) : "-";
     text += quantity.name;
     text.append(kNameWidth - quantity.name.size(), ' ');
     text.append(kValueWidth - std::min(digits.size(), kValueWidth), ' ');
     text.append(digits).append("  ").append(quantity.unit).append("\n");
 }
 
+// What of a state is a finite number.
+using FoundResults = std::array<std::optional<double>, kStateResults>;
+
 // Replaces humidity and pressure in the question by those that were used.
-bool FindState(const WaterAirTables& tables, StateQuestion& question, AirState& state,
+bool FindState(const WaterAirTables& tables, StateQuestion& question, FoundResults& found,
                std::string& reason) {
     double relF = question.rh / 100;
     ClampArguments(relF, question.p);
-    const auto found = EvaluateState(tables, relF, question.t, question.p);
-    if (!found) {
+    if (!WithinLimits(relF, question.t, question.p)) {
         reason = NoStateReason(question.t, question.p);
         return false;
     }
     if (relF != question.rh / 100) question.rh = relF * 100;
-    state = *found;
+    const auto results = ResultsOf(EvaluateHumidity(
+        tables, EvaluateTemperature(tables, EvaluatePressure(tables, question.p), question.t),
+        relF));
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        if (std::isfinite(results[i])) found[i] = results[i];
+    }
     return true;
 }
 
@@ -62,10 +71,9 @@ bool FindState(const WaterAirTables& tables, StateQuestion& question, AirState& 
 bool StateAsTable(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
                   std::string& reason) {
     StateQuestion used = question;
-    AirState state;
-    if (!FindState(tables, used, state, reason)) return false;
+    FoundResults results;
+    if (!FindState(tables, used, results, reason)) return false;
     const std::array<double, kGiven.size()> given{used.t, used.rh, used.p};
-    const auto results = ResultsOf(state);
     for (std::size_t i = 0; i < given.size(); ++i) AppendRow(text, kGiven[i], given[i]);
     for (std::size_t i = 0; i < results.size(); ++i) AppendRow(text, kFound[i], results[i]);
     return true;
@@ -74,19 +82,22 @@ bool StateAsTable(const WaterAirTables& tables, const StateQuestion& question, s
 bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
                  std::string& reason) {
     StateQuestion used = question;
-    AirState state;
-    if (!FindState(tables, used, state, reason)) return false;
+    FoundResults results;
+    if (!FindState(tables, used, results, reason)) return false;
     char mark = '{';
-    const auto member = [&](std::string_view name, double value) {
+    const auto member = [&](std::string_view name, std::optional<double> value) {
         text += mark;
         text.append("\"").append(name).append("\":");
-        AppendNumber(text, value);
+        if (value) {
+            AppendNumber(text, *value);
+        } else {
+            text += "null";
+        }
         mark = ',';
     };
     member("t", question.t);
     member("rh", question.rh);
     member("p", question.p);
-    const auto results = ResultsOf(state);
     for (std::size_t i = 0; i < results.size(); ++i) member(kStateResultNames[i], results[i]);
     text += "}\n";
     return true;

@@ -17,27 +17,22 @@ class StateCalculation : public RowCalculation {
     std::span<const InputColumn> Inputs() const override { return kInputs; }
     std::span<const std::string_view> Results() const override { return kStateResultNames; }
 
-    bool Calculate(std::span<const std::optional<double>> inputs, std::span<double> results,
-                   std::string& reason) override {
+    void Calculate(std::span<const std::optional<double>> inputs,
+                   std::span<std::optional<double>> results, std::string& reason) override {
         const double t = *inputs[0];
         double relF = *inputs[1] / 100;
         double p_bar = inputs[2].value_or(default_p_bar_);
         ClampArguments(relF, p_bar);
         if (!WithinLimits(relF, t, p_bar)) {
             reason = NoStateReason(t, p_bar);
-            return false;
+            return;
         }
         // Measurements mostly share one pressure, and its boiling point costs as much as a state.
         if (!pressure_ || pressure_->p_bar != p_bar) pressure_ = EvaluatePressure(tables_, p_bar);
         const AirState state =
             EvaluateHumidity(tables_, EvaluateTemperature(tables_, *pressure_, t), relF);
-        if (!AllFinite(state)) {
-            reason = NoStateReason(t, p_bar);
-            return false;
-        }
         const auto found = ResultsOf(state);
         std::copy(found.begin(), found.end(), results.begin());
-        return true;
     }
 
   private:
@@ -75,10 +70,7 @@ std::string NoStateReason(double t, double p_bar) {
     if (!(p_bar >= kLowestPressureBar && p_bar <= kHighestPressureBar)) {
         return OutsideText("p", p_bar, kLowestPressureBar, kHighestPressureBar, "bar");
     }
-    if (!(t >= kLowestTemperature && t <= kHighestTemperature)) {
-        return OutsideText("t", t, kLowestTemperature, kHighestTemperature, "degC");
-    }
-    return "no finite state there";
+    return OutsideText("t", t, kLowestTemperature, kHighestTemperature, "degC");
 }
 
 std::unique_ptr<RowCalculation> MakeStateCalculation(const WaterAirTables& tables,

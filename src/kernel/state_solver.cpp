@@ -10,10 +10,7 @@ constexpr std::string_view kCoefficientFile = "qvdata.dat";
 bool StateSolver::ZustandBerechnen(double& relF, double& t, double& p_bar) {
     ClampArguments(relF, p_bar);
     if (!tables_.Loaded() || LetzterDruckBar != p_bar) RefreshTables();
-    const bool completed =
-        tables_.Loaded() && WithinLimits(relF, t, p_bar) && Compute(relF, t, p_bar);
-    if (!completed) ++refused_calls_;
-    return completed;
+    return tables_.Loaded() && WithinLimits(relF, t, p_bar) && Compute(relF, t, p_bar);
 }
 
 bool StateSolver::Evaluate(double relF, double t, double p_bar) {

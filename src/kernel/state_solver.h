@@ -38,9 +38,6 @@ class StateSolver : public AirState {
     FileStatus CoefficientStatus() const { return coefficient_status_; }
     bool HasCoefficients() { return Tables().Loaded(); }
 
-    // Calls refused so far; a search that passed through no refused call leaves it unchanged.
-    unsigned RefusedCalls() const { return refused_calls_; }
-
   private:
     bool Compute(double relF, double t, double p_bar);
     void RefreshTables();
@@ -53,7 +50,6 @@ class StateSolver : public AirState {
     // What the last call left to build on; the searches ask twice at each temperature.
     std::optional<TemperaturePoint> point_;
     double point_t_ = 0;  // degC
-    unsigned refused_calls_ = 0;
 };
 
 }  // namespace zandrell

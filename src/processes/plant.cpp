@@ -51,7 +51,8 @@ std::optional<WaterHumidifierInlet> InletFor(StateSolver& solver, const AirPoint
     inlet.hW = solver.ZustandH;
     double step = kEnthalpySearchStep;
     inlet.tH =
-        TempAusEnthalpie(solver, before_fan.t, inlet.hW, EnthalpySearch::HumidityRatio, step, 0, x);
+        TempAusEnthalpie(solver, before_fan.t, inlet.hW, EnthalpySearch::HumidityRatio, step, 0, x)
+            .value;
     return inlet;
 }
 
@@ -127,7 +128,7 @@ std::optional<FanInlet> FanInletOf(StateSolver& solver, const AirPoint& supply, 
 std::optional<RoomLoads> RoomLoadsOf(StateSolver& solver, const MixingSection& mixing,
                                      const AirPoint& supply) {
     const AirPoint& room = mixing.exhaust;
-    const double percent = RelFeuchteAusX(solver, room.t, supply.x);
+    const double percent = RelFeuchteAusX(solver, room.t, supply.x).value;
     if (!solver.Evaluate(percent / 100, room.t)) return std::nullopt;
     const double hR = solver.ZustandH;
     const double kg_per_s = mixing.mL / kSecondsPerHour;

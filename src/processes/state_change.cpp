@@ -12,7 +12,7 @@ std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
     const bool first_is_warmer = first.t >= second.t;
     const double t = first_is_warmer ? first.t : second.t;
     const double x = first_is_warmer ? second.x : first.x;
-    if (!solver.Evaluate(RelFeuchteAusX(solver, t, x) / 100, t)) return std::nullopt;
+    if (!solver.Evaluate(RelFeuchteAusX(solver, t, x).value / 100, t)) return std::nullopt;
     const double auxiliary_h = solver.ZustandH;
 
     Loads loads;
@@ -66,7 +66,7 @@ Mixture MixtureOf(StateSolver& solver, const AirPoint& first, double flow1_m3_pe
     Mixture mixture;
     mixture.MischTemp = second.t + weight * (first.t - second.t);
     mixture.MischX = second.x + weight * (first.x - second.x);
-    mixture.rel_percent = RelFeuchteAusX(solver, mixture.MischTemp, mixture.MischX);
+    mixture.rel_percent = RelFeuchteAusX(solver, mixture.MischTemp, mixture.MischX).value;
     // Leaves the mixture as the solver's current state.
     solver.Evaluate(mixture.rel_percent / 100, mixture.MischTemp);
     return mixture;

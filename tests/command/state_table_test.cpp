@@ -144,6 +144,33 @@ TEST(StateTable, WritesOneJsonObjectALine) {
     EXPECT_TRUE(nlohmann::json::parse(lines[2])["p"].is_null());
 }
 
+// A specific heat of vapour that overflows above some 30 degC takes the enthalpy away, not the
+// rest.
+TEST(StateTable, ResultsAreLackingOneByOne) {
+    kernel_test::TemporaryFolder folder;
+    folder.WriteCoefficients(kernel_test::FirstNumbers(116) + ",1e295,0");
+    CommandLine line = StateLine();
+    line.data = folder.Path();
+    const TableRun run = RunTable(line, "t,rh,p\n20,5,1.013\n60,2,1.013\n");
+    EXPECT_EQ(run.reports, "line 3: h_kj_per_kg is no finite number\n");
+    const auto lines = Lines(run.output);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[1].find(",,"), std::string::npos) << lines[1];
+    const auto empty = lines[2].find(",,");
+    ASSERT_NE(empty, std::string::npos) << lines[2];
+    // p_vapour is 2 % of the published 0.19920 bar at 60 degC; dry air has 60.4 kJ/kg there.
+    EXPECT_NEAR(LastNumbers(lines[2], 6)[0], 60.4, 0.1);
+    EXPECT_NEAR(LastNumbers(lines[2], 4)[0], 0.02 * 19920, 5);
+
+    line.state = StateOptions{60, 2, 1.013};
+    EXPECT_EQ(Lines(RunTable(line, "").output)[4],
+              "Enthalpy                                    -  kJ/kg dry air");
+    line.json = true;
+    const auto json = nlohmann::json::parse(RunTable(line, "").output);
+    EXPECT_TRUE(json["h_kj_per_kg"].is_null());
+    EXPECT_NEAR(json["p_vapour_pa"].get<double>(), 0.02 * 19920, 5);
+}
+
 TEST(StateTable, RefusesATableWithoutItsColumns) {
     struct Case {
         std::string table;

@@ -41,22 +41,27 @@ TEST_F(InverseState, HumidityFromHumidityRatio) {
         {"equal to the search's start value, so that no round runs", 200, 50},
     };
     for (const auto& row : rows) {
-        EXPECT_NEAR(RelFeuchteAusX(solver_, t, row.x), row.expected, 1e-12) << row.name;
+        const SearchResult result = RelFeuchteAusX(solver_, t, row.x);
+        EXPECT_NEAR(result.value, row.expected, 1e-12) << row.name;
+        EXPECT_TRUE(result.Found()) << row.name;
     }
     // Above saturation f runs through 1 - 2^-n until the rounds end.
-    const double above = RelFeuchteAusX(solver_, t, 20);
-    EXPECT_GT(above, 99.999);
-    EXPECT_LE(above, 100);
+    const SearchResult above = RelFeuchteAusX(solver_, t, 20);
+    EXPECT_GT(above.value, 99.999);
+    EXPECT_LE(above.value, 100);
+    EXPECT_EQ(above.end, SearchEnd::OutOfReach);
     for (const double relF : {0.07, 0.33, 0.5, 0.81, 0.99}) {
         // The tolerance of 0.005 g/kg is 0.02 % here; the move of the last round adds to it.
-        EXPECT_NEAR(RelFeuchteAusX(solver_, 30, At(relF, 30).ZustandX), 100 * relF, 0.25) << relF;
+        EXPECT_NEAR(RelFeuchteAusX(solver_, 30, At(relF, 30).ZustandX).value, 100 * relF, 0.25)
+            << relF;
     }
 }
 
 TEST_F(InverseState, DryAirEstimate) {
     double step = 8;
     const auto estimate = [&](double t_start, double h) {
-        return TempAusEnthalpie(solver_, t_start, h, EnthalpySearch::DryAirEstimate, step, 100, 0);
+        return TempAusEnthalpie(solver_, t_start, h, EnthalpySearch::DryAirEstimate, step, 100, 0)
+            .value;
     };
     EXPECT_EQ(estimate(0, 40), 0);
     // Dry air of 30 degC has 1.0045 kJ/(kg K) on the way up from 0 degC (table of cp), so 30 kJ/kg
@@ -71,20 +76,22 @@ TEST_F(InverseState, TemperatureFromEnthalpy) {
     const struct {
         const char* name;
         double h, step, t, step_after;
+        bool found = true;
     } rows[] = {
         {"already there", h50(20) + 0.009, 8, 20, 8},
         {"one move up", h50(24), 8, 24, 4},
         {"one move down", h50(16), 8, 16, 4},
         {"up and back", h50(22), 8, 22, 2},
         {"up, up, back", h50(25), 8, 25, 1},
-        {"a negative step goes the wrong way", h50(24), -8, 20 - 8, -8 * std::ldexp(1, -40)},
-        {"out of reach, 39 moves", h50(60), 8, 28, 8 * std::ldexp(1, -40)},
+        {"a negative step goes the wrong way", h50(24), -8, 20 - 8, -8 * std::ldexp(1, -40), false},
+        {"out of reach, 39 moves", h50(60), 8, 28, 8 * std::ldexp(1, -40), false},
     };
     for (const auto& row : rows) {
         double step = row.step;
-        const double t =
+        const auto [t, end] =
             TempAusEnthalpie(solver_, 20, row.h, EnthalpySearch::RelativeHumidity, step, 50, 0);
         EXPECT_NEAR(t, row.t, 1e-9) << row.name;
+        EXPECT_EQ(end, row.found ? SearchEnd::Found : SearchEnd::OutOfReach) << row.name;
         EXPECT_EQ(step, row.step_after) << row.name;
         EXPECT_EQ(solver_.ZustandX, At(0.5, t).ZustandX) << row.name;
     }
@@ -96,15 +103,17 @@ TEST_F(InverseState, TemperatureFromEnthalpyAtConstantHumidityRatio) {
     for (const double target : {12.0, 20.0, 31.0, 45.0}) {
         double step = 40;
         const double t = TempAusEnthalpie(solver_, 25, state(target).ZustandH,
-                                          EnthalpySearch::HumidityRatio, step, 0, x);
+                                          EnthalpySearch::HumidityRatio, step, 0, x)
+                             .value;
         EXPECT_NEAR(t, target, 0.011) << target;  // 0.01 kJ/kg at no less than 0.95 kJ/(kg K)
         EXPECT_EQ(solver_.ZustandX, state(t).ZustandX) << target;
         EXPECT_EQ(std::exp2(std::round(std::log2(40 / step))) * step, 40) << target;
     }
     // Enthalpy of 7 g/kg at 20 degC: 1.0043 * 20 + 0.007 * 2538.5 = 37.9 kJ/kg.
     double step = 30;
-    EXPECT_NEAR(TempAusEnthalpie(solver_, 10, 37.86, EnthalpySearch::HumidityRatio, step, 0, x), 20,
-                0.3);
+    EXPECT_NEAR(
+        TempAusEnthalpie(solver_, 10, 37.86, EnthalpySearch::HumidityRatio, step, 0, x).value, 20,
+        0.3);
 }
 
 // A first move of a full 8 K from t_start + 8, then 4, 2, ...
@@ -113,6 +122,7 @@ TEST_F(InverseState, TemperatureFromDensity) {
         const char* name;
         DensitySearch kind;
         double relF, at, expected;
+        bool found = true;
     } rows[] = {
         {"start point", DensitySearch::Saturation, 1, 28, 28},
         {"one move up", DensitySearch::Saturation, 1, 36, 36},
@@ -120,28 +130,40 @@ TEST_F(InverseState, TemperatureFromDensity) {
         {"up, back", DensitySearch::DryEdge, 0.01, 32, 32},
         {"up, back, back", DensitySearch::Saturation, 1, 30, 30},
         // 30 moves reach 16 K less 16 * 2^-30.
-        {"too thin", DensitySearch::DryEdge, 0.01, 90, 44 - 16 * std::ldexp(1, -30)},
-        {"too dense", DensitySearch::Saturation, 1, -30, 12 + 16 * std::ldexp(1, -30)},
+        {"too thin", DensitySearch::DryEdge, 0.01, 90, 44 - 16 * std::ldexp(1, -30), false},
+        {"too dense", DensitySearch::Saturation, 1, -30, 12 + 16 * std::ldexp(1, -30), false},
     };
     for (const auto& row : rows) {
         const double rho = At(row.relF, row.at).ZustandDichte;
-        const double t = TempAusDichte(solver_, 20, rho, row.kind);
+        const auto [t, end] = TempAusDichte(solver_, 20, rho, row.kind);
         EXPECT_NEAR(t, row.expected, 1e-11) << row.name;
+        EXPECT_EQ(end, row.found ? SearchEnd::Found : SearchEnd::OutOfReach) << row.name;
         EXPECT_EQ(solver_.ZustandX, At(row.relF, t).ZustandX) << row.name;
     }
 }
 
-// Searches that leave the limits, and targets that are no numbers, end with a number.
+// Searches that leave the limits say so, and they and targets that are no numbers end with a
+// number.
 TEST_F(InverseState, AlwaysEndsWithANumber) {
+    const auto expect = [](const SearchResult& result, SearchEnd end, double odd) {
+        EXPECT_TRUE(std::isfinite(result.value)) << odd;
+        EXPECT_EQ(result.end, end) << odd;
+    };
     for (const double odd : {-1e308, -200.0, 5000.0, 1e308, std::nan("")}) {
+        // What is no number is off by no number, so that no search begins for it.
+        const bool nan = std::isnan(odd);
+        const SearchEnd missed = SearchEnd::OutOfReach, low = odd < 0 ? SearchEnd::NoState : missed;
         double step = 100;
-        EXPECT_TRUE(std::isfinite(RelFeuchteAusX(solver_, 20, odd)));
-        EXPECT_TRUE(std::isfinite(TempAusDichte(solver_, -50, odd, DensitySearch::Saturation)));
-        for (const auto kind : {EnthalpySearch::RelativeHumidity, EnthalpySearch::HumidityRatio}) {
-            EXPECT_TRUE(std::isfinite(TempAusEnthalpie(solver_, 750, odd, kind, step, 50, 5)));
-        }
+        expect(RelFeuchteAusX(solver_, 20, odd), missed, odd);
+        expect(RelFeuchteAusX(solver_, 900, odd), nan ? missed : SearchEnd::NoState, odd);
+        expect(TempAusDichte(solver_, -50, odd, DensitySearch::Saturation),
+               odd > 0 ? SearchEnd::NoState : missed, odd);
+        expect(TempAusEnthalpie(solver_, -40, odd, EnthalpySearch::RelativeHumidity, step, 50, 5),
+               low, odd);
+        step = 100;
+        expect(TempAusEnthalpie(solver_, 750, odd, EnthalpySearch::HumidityRatio, step, 50, 5),
+               odd > 0 ? SearchEnd::NoState : missed, odd);
     }
-    EXPECT_GT(solver_.RefusedCalls(), 0U);
 }
 
 }  // namespace

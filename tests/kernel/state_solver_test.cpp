@@ -41,7 +41,6 @@ TEST(StateSolver, KeptPointsGiveTheSameStates) {
             }
         }
     }
-    EXPECT_EQ(solver.RefusedCalls(), 0U);
 }
 
 TEST(StateSolver, RefusedCallLeavesTheFieldsAndClampsTheArguments) {
@@ -57,14 +56,12 @@ TEST(StateSolver, RefusedCallLeavesTheFieldsAndClampsTheArguments) {
         {1.5, 900, 0, 1, 1.01}, {-3, -51, 1.02, 0.01, 1.02}, {0.5, 20, 9, 0.5, 9},
         {0.5, kNan, 1, 0.5, 1}, {0.5, 20, -1, 0.5, -1},
     };
-    unsigned refused = 0;
     for (auto row : rows) {
         EXPECT_FALSE(solver.ZustandBerechnen(row.relF, row.t, row.p));
         EXPECT_EQ(row.relF, row.relF_after);
         EXPECT_EQ(row.p, row.p_after);
         ExpectSame(solver, before, std::to_string(row.t));
         EXPECT_EQ(solver.LetzterDruckBar, 1.013);
-        EXPECT_EQ(solver.RefusedCalls(), ++refused);
     }
     double relF = -0.2, t = 20, p = 0;
     EXPECT_TRUE(solver.ZustandBerechnen(relF, t, p));
