@@ -1,8 +1,11 @@
 // make_captions SOURCE_FOLDER OUTPUT_FOLDER
+// make_captions --names SOURCE_FOLDER HEADER
 //
 // Turns the caption tables (slots.tsv and one table a language, UTF-8) into the suite's positional
 // files Caption.XXX, AirCoCap.XXX and QVCapt.XXX: one field a line in double quotes, slots that
-// nothing uses as "". A fault in a table is reported with file and line, and ends with status 1.
+// nothing uses as "". With --names it writes the header by which the program addresses a word
+// through the name of its slot. A fault in a table is reported with file and line, and ends with
+// status 1.
 
 #include <algorithm>
 #include <array>
@@ -20,13 +23,11 @@
 #include <utility>
 #include <vector>
 
-#include "base/captions.h"
-#include "base/shared_values.h"
+#include "base/caption_lists.h"
 #include "base/text_encoding.h"
 
 namespace {
 
-using zandrell::Captions;
 namespace fs = std::filesystem;
 
 struct List {
@@ -34,14 +35,20 @@ struct List {
     int fields;
 };
 
-constexpr std::array<List, 3> kLists{{{"Caption", Captions::kCaptionFields},
-                                      {"AirCoCap", Captions::kAirCoFields},
-                                      {"QVCapt", Captions::kQvFields}}};
+constexpr std::array<List, 3> kLists{{{"Caption", zandrell::kCaptionFields},
+                                      {"AirCoCap", zandrell::kAirCoFields},
+                                      {"QVCapt", zandrell::kQvFields}}};
 
 constexpr std::string_view kSlotTable = "slots.tsv";
 
-using Slot = std::pair<std::string, int>;  // list name, number from 1
-using Texts = std::map<Slot, std::string>;
+using Place = std::pair<std::string, int>;  // list name, number from 1
+using Texts = std::map<Place, std::string>;
+
+struct Slot {
+    Place place;
+    std::string name;  // by which program and language tables address it
+    std::string role;
+};
 
 struct Row {
     std::size_t line;
@@ -87,7 +94,7 @@ std::vector<Row> ReadTable(const fs::path& file, const std::string& head) {
     return rows;
 }
 
-Slot ReadSlot(const fs::path& file, const Row& row) {
+Place ReadPlace(const fs::path& file, const Row& row) {
     const std::string& name = row.columns[0];
     const std::string& digits = row.columns[1];
     const auto list = std::find_if(kLists.begin(), kLists.end(),
@@ -108,37 +115,63 @@ void CheckText(const fs::path& file, const Row& row, const std::string& text) {
         Fail(file, row.line, "a double quote or control character in \"" + text + "\"");
 }
 
+bool IsCapital(char c) { return c >= 'A' && c <= 'Z'; }
+
+// The name becomes one of the program's own: a capital first, then letters and digits.
+void CheckName(const fs::path& file, const Row& row, const std::string& name) {
+    const auto fits = [](char c) {
+        return IsCapital(c) || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+    };
+    if (name.empty() || !IsCapital(name[0]) || !std::all_of(name.begin(), name.end(), fits))
+        Fail(file, row.line, "\"" + name + "\" is no name such as SupplyAir");
+}
+
 std::vector<Slot> ReadSlots(const fs::path& file) {
     std::vector<Slot> slots;
-    for (const Row& row : ReadTable(file, "list\tnumber\trole\twhere")) {
-        const Slot slot = ReadSlot(file, row);
-        if (std::find(slots.begin(), slots.end(), slot) != slots.end())
-            Fail(file, row.line, "a second row for " + row.columns[0] + " " + row.columns[1]);
-        CheckText(file, row, row.columns[2]);
-        CheckText(file, row, row.columns[3]);
+    for (const Row& row : ReadTable(file, "list\tnumber\tname\trole\twhere")) {
+        const Slot slot{ReadPlace(file, row), row.columns[2], row.columns[3]};
+        CheckName(file, row, slot.name);
+        CheckText(file, row, slot.role);
+        CheckText(file, row, row.columns[4]);
+        for (const Slot& before : slots) {
+            if (before.place == slot.place)
+                Fail(file, row.line, "a second row for " + row.columns[0] + " " + row.columns[1]);
+            if (before.name == slot.name) Fail(file, row.line, "a second slot named " + slot.name);
+        }
         slots.push_back(slot);
     }
     return slots;
+}
+
+// The places %1 to %9 of a message, for values that are known at run time only, in order.
+std::string ValuePlaces(std::string_view text) {
+    std::string places;
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        if (text[i - 1] == '%' && text[i] >= '1' && text[i] <= '9') places += text[i];
+    }
+    std::sort(places.begin(), places.end());
+    return places;
 }
 
 // The tables of all languages stand in one order, so that they can be compared line by line.
 Texts ReadLanguage(const fs::path& file, const std::vector<Slot>& slots) {
     Texts texts;
     std::size_t last_line = 1;
-    for (const Row& row : ReadTable(file, "list\tnumber\ttext")) {
+    for (const Row& row : ReadTable(file, "name\ttext")) {
         last_line = row.line;
-        const Slot slot = ReadSlot(file, row);
-        if (texts.size() >= slots.size() || slot != slots[texts.size()])
+        const std::string& name = row.columns[0];
+        const std::string& text = row.columns[1];
+        if (texts.size() >= slots.size() || name != slots[texts.size()].name)
             Fail(file, row.line,
-                 row.columns[0] + " " + row.columns[1] + " is not the slot that " +
-                     std::string(kSlotTable) + " has here");
-        CheckText(file, row, row.columns[2]);
-        texts[slot] = row.columns[2];
+                 name + " is not the slot that " + std::string(kSlotTable) + " has here");
+        const Slot& slot = slots[texts.size()];
+        CheckText(file, row, text);
+        if (ValuePlaces(text) != ValuePlaces(slot.role))
+            Fail(file, row.line, name + " has not the places of \"" + slot.role + "\"");
+        texts[slot.place] = text;
     }
-    if (texts.size() < slots.size()) {
-        const auto& [name, number] = slots[texts.size()];
-        Fail(file, last_line, "the table ends before " + name + " " + std::to_string(number));
-    }
+    if (texts.size() < slots.size())
+        Fail(file, last_line, "the table ends before " + slots[texts.size()].name);
     return texts;
 }
 
@@ -147,7 +180,7 @@ std::string ListFile(const List& list, const Texts& texts) {
     for (int number = 1; number <= list.fields; ++number) {
         const auto text = texts.find({std::string(list.name), number});
         content += '"' + (text == texts.end() ? std::string() : text->second) + '"';
-        content += zandrell::CrLf;
+        content += "\r\n";
     }
     return content;
 }
@@ -188,15 +221,58 @@ void MakeCaptions(const fs::path& source, const fs::path& output) {
             WriteList(output / (std::string(list.name) + "." + tag), ListFile(list, texts));
 }
 
+// The lists laid end to end: "316 + 6" is the sixth of the second one.
+std::string Position(const Place& place) {
+    int before = 0;
+    for (const List& list : kLists) {
+        if (list.name == place.first) break;
+        before += list.fields;
+    }
+    const std::string number = std::to_string(place.second);
+    return before == 0 ? number : std::to_string(before) + " + " + number;
+}
+
+std::string NamesHeader(const std::vector<Slot>& slots) {
+    std::string words, names;
+    for (const Slot& slot : slots) {
+        words += "    " + slot.name + " = " + Position(slot.place) + ",  // " + slot.role + "\n";
+        names += "    {\"" + slot.name + "\", Caption::" + slot.name + "},\n";
+    }
+    return "// Made from " + std::string(kSlotTable) +
+           " at build time.\n#pragma once\n\n#include <array>\n#include <string_view>\n"
+           "#include <utility>\n\nnamespace zandrell {\n\n"
+           "// The words of the program by name.\nenum class Caption {\n" +
+           words + "};\n\nusing CaptionName = std::pair<std::string_view, Caption>;\n" +
+           "inline constexpr std::array<CaptionName, " + std::to_string(slots.size()) +
+           "> kCaptionNames{{\n" + names + "}};\n\n}  // namespace zandrell\n";
+}
+
+// Leaves an equal header untouched, so that a new word alone makes the program compile anew.
+void MakeNames(const fs::path& source, const fs::path& header) {
+    const std::string content = NamesHeader(ReadSlots(source / kSlotTable));
+    if (fs::exists(header) && ReadFile(header) == content) return;
+    if (header.has_parent_path()) fs::create_directories(header.parent_path());
+    std::ofstream stream(header, std::ios::binary | std::ios::trunc);
+    if (!(stream << content).flush())
+        throw std::runtime_error(header.string() + ": can not be written");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::cerr << "usage: make_captions SOURCE_FOLDER OUTPUT_FOLDER\n";
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const bool names = !arguments.empty() && arguments[0] == "--names";
+    if (arguments.size() != (names ? 3U : 2U)) {
+        std::cerr << "usage: make_captions SOURCE_FOLDER OUTPUT_FOLDER\n"
+                     "       make_captions --names SOURCE_FOLDER HEADER\n";
         return EXIT_FAILURE;
     }
     try {
-        MakeCaptions(argv[1], argv[2]);
+        if (names) {
+            MakeNames(arguments[1], arguments[2]);
+        } else {
+            MakeCaptions(arguments[0], arguments[1]);
+        }
     } catch (const std::exception& fault) {
         std::cerr << "make_captions: " << fault.what() << '\n';
         return EXIT_FAILURE;

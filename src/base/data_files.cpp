@@ -135,10 +135,11 @@ bool IsReadOnly(const fs::path& path) {
 std::string BlockedDeleteMessage(std::string_view name, const Captions& captions) {
     std::error_code error;
     const std::string folder = fs::current_path(error).string();
-    const auto& list = captions.CaptionList;
-    return list[269] + " : " + folder + " " + list[270] + "!\n\n" + list[271] + ".\n\n" +
-           list[272] + "!\n\nSystem blocked.\n\nCan not delete/overwrite file:   - " +
-           std::string(name) + " - ";
+    return captions[Caption::DeleteFailureFolder] + " : " + folder + " " +
+           captions[Caption::DeleteFailureAccess] + "!\n\n" + captions[Caption::DeleteFailureFile] +
+           ".\n\n" + captions[Caption::DeleteFailureAdvice] +
+           "!\n\nSystem blocked.\n\nCan not delete/overwrite file:   - " + std::string(name) +
+           " - ";
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 
 namespace zandrell {
 
-struct Captions;
+class Captions;
 
 enum class FileStatus { Ok, Missing, Unreadable, Malformed, NotWritten };
 

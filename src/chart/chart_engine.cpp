@@ -124,7 +124,7 @@ void ChartEngine::Paint(Canvas& canvas, bool on_printer) {
                            on_printer};
     if (!on_printer) {
         painting.progress = &controls.ConsPN2;
-        painting.progress_word = captions_.QVCaptList[2];
+        painting.progress_word = captions_[Caption::RelativeHumidity];
     }
     if (solver_.HasCoefficients()) painting.cache_is_good = cache_.Begin(settings);
     PaintComfortField(painting);

@@ -92,8 +92,8 @@ OptionsWindow::OptionsWindow(OptionsForm& form, const Captions& captions,
     PanelBuilder build(mirror_, this);
     layout->addWidget(build.Caption(form.OptPNUeb, true));
     layout->addWidget(MakeFields());
-    layout->addWidget(MakeKinds(ShownText(captions.CaptionList[109])));
-    layout->addWidget(MakeSchemes(ShownText(captions.CaptionList[106]), picture));
+    layout->addWidget(MakeKinds(ShownText(captions[Caption::ChartKind])));
+    layout->addWidget(MakeSchemes(ShownText(captions[Caption::Colours]), picture));
     layout->addWidget(MakeButtons());
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }

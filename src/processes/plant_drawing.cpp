@@ -31,8 +31,8 @@ void PlantDrawing::DrawMixing(const MixingSection& mixing) {
     overlay_.ZAeLine.Run(behind_fan, outside);
     overlay_.PP1.PlaceAt(behind_fan, kCorner);
     overlay_.PP2.PlaceAt(outside, kCorner);
-    Show(overlay_.t1Lab, Place(mixing.exhaust), captions_.QVCaptList[12]);
-    Show(overlay_.t2lab, outside, captions_.QVCaptList[13]);
+    Show(overlay_.t1Lab, Place(mixing.exhaust), captions_[Caption::RecirculatedAir]);
+    Show(overlay_.t2lab, outside, captions_[Caption::OutdoorAir]);
 }
 
 void PlantDrawing::StartWay(bool other_way_than_before) {
@@ -47,7 +47,7 @@ void PlantDrawing::DrawCoolerWay(const PlantRun& run, const AirPoint& heated) {
     const CanvasPoint coil = Place(run.coil.air), heater = Place(heated);
     const CanvasPoint supply = Place(run.supply), before_fan = Place(run.fan_inlet.air);
     const CanvasPoint mixed = Place(run.mixing.mixed);
-    Show(overlay_.t3Lab, coil, captions_.QVCaptList[11] + " " + captions_.CaptionList[13]);
+    Show(overlay_.t3Lab, coil, captions_[Caption::Leaving] + " " + captions_[Caption::Cooler]);
     Show(overlay_.PP6, coil, kWideCorner);
     Show(overlay_.PP5, supply, kWideCorner);
     Show(overlay_.PP7, before_fan, kWideCorner);
@@ -73,7 +73,7 @@ void PlantDrawing::DrawHeaterWay(const PlantRun& run, const AirPoint& heated) {
 }
 
 void PlantDrawing::DrawMixedAir(CanvasPoint place) {
-    Show(overlay_.tmLab, place, captions_.QVCaptList[6]);
+    Show(overlay_.tmLab, place, captions_[Caption::Mixing]);
     Show(overlay_.PP3, place, kCorner);
 }
 

@@ -267,7 +267,7 @@ void PointPanel::PlaceMixture() {
     Overlay& overlay = context_.overlay;
     const ProcessFigures& figures = context_.figures;
     const CanvasPoint point = context_.scale.PointOf(figures.MischX, figures.MischTemp);
-    overlay.tmLab.text = context_.captions.QVCaptList[6];
+    overlay.tmLab.text = context_.captions[Caption::Mixing];
     overlay.tmLab.left = point.x;  // exactly at the point, unlike the other labels: this is meant
     overlay.tmLab.top = point.y;
     overlay.PP3.PlaceAt(point, kMarkCorner);

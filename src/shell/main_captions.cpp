@@ -1,6 +1,5 @@
 #include "shell/main_captions.h"
 
-#include <array>
 #include <string>
 
 #include "base/number_text.h"
@@ -11,9 +10,6 @@
 namespace zandrell {
 namespace {
 
-using Words = std::array<std::string, Captions::kCaptionFields + 1>;
-using AirWords = std::array<std::string, Captions::kQvFields + 1>;
-
 bool IsOneOf(const std::string& tag, std::initializer_list<const char*> tags) {
     for (const char* candidate : tags) {
         if (tag == candidate) return true;
@@ -22,78 +18,89 @@ bool IsOneOf(const std::string& tag, std::initializer_list<const char*> tags) {
 }
 
 // The entry that loads a project, in the word order of the language.
-std::string LoadProjectEntry(const Words& words, const std::string& tag) {
-    if (IsOneOf(tag, {"NDL", "ENG"})) return words[29] + " " + words[25];
-    if (IsOneOf(tag, {"FRA", "POR", "ITA"})) return words[29] + " un " + words[25];
-    return words[25] + " &" + words[29];
+std::string LoadProjectEntry(const Captions& words, const std::string& tag) {
+    if (IsOneOf(tag, {"NDL", "ENG"})) return words[Caption::Load] + " " + words[Caption::Project];
+    if (IsOneOf(tag, {"FRA", "POR", "ITA"}))
+        return words[Caption::Load] + " un " + words[Caption::Project];
+    return words[Caption::Project] + " &" + words[Caption::Load];
 }
 
 std::string WithUnit(const std::string& word, std::string_view unit) {
     return word + " /[" + std::string(unit) + "]:";
 }
 
-void SetMenuCaptions(MainControls& c, const Words& words, const AirWords& air,
-                     const std::string& tag) {
-    const std::string calculate = words[81] + " ";
+void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& tag) {
+    const std::string calculate = words[Caption::Calculate] + " ";
     // The access key of an entry is its first letter unless its text marks another one.
     const auto entry = [](MenuEntry& target, const std::string& text) {
         target.text = text.find('&') == std::string::npos ? "&" + text : text;
     };
-    entry(c.proj, words[25]);
-    entry(c.NeuPro, words[28] + " " + words[25]);
+    entry(c.proj, words[Caption::Project]);
+    entry(c.NeuPro, words[Caption::New] + " " + words[Caption::Project]);
     entry(c.ProLad, LoadProjectEntry(words, tag));
-    entry(c.ProSpeich, words[32]);
-    entry(c.ProSpeichU, words[32] + " &" + words[34]);
-    entry(c.PrinterSetup, words[166]);
-    entry(c.Ende, words[75]);
-    entry(c.Opt, words[63]);
-    entry(c.qveinst, words[180]);
+    entry(c.ProSpeich, words[Caption::Save]);
+    entry(c.ProSpeichU, words[Caption::Save] + " &" + words[Caption::SaveAsSecond]);
+    entry(c.PrinterSetup, words[Caption::Printer]);
+    entry(c.Ende, words[Caption::Exit]);
+    entry(c.Opt, words[Caption::Settings]);
+    entry(c.qveinst, words[Caption::ModuleName]);
     entry(c.wrgEinst, "Wärmerückgewinnung");
-    entry(c.Bearb, words[62]);
-    entry(c.ZustAe, air[5]);
-    entry(c.Misch, air[6]);
-    entry(c.Kleis, words[177]);
-    entry(c.AnlageS, words[59]);
-    entry(c.Leist_Ber, calculate + words[177]);
-    entry(c.Heiz_start, calculate + air[16]);
-    entry(c.Kuehl_start, calculate + words[13]);
-    entry(c.Humid_W_Start, calculate + air[17] + " " + air[15]);
-    entry(c.Humid_D_Start, calculate + air[18] + " " + air[15]);
-    entry(c.kopieren, words[180] + " &" + words[96]);
-    entry(c.Hsich, words[30]);
-    entry(c.Hlad, words[29]);
+    entry(c.Bearb, words[Caption::Edit]);
+    entry(c.ZustAe, words[Caption::StateChange]);
+    entry(c.Misch, words[Caption::Mixing]);
+    entry(c.Kleis, words[Caption::Capacity]);
+    entry(c.AnlageS, words[Caption::AirHandlingUnit]);
+    entry(c.Leist_Ber, calculate + words[Caption::Capacity]);
+    entry(c.Heiz_start, calculate + words[Caption::Heater]);
+    entry(c.Kuehl_start, calculate + words[Caption::Cooler]);
+    entry(c.Humid_W_Start,
+          calculate + words[Caption::WaterHumidifier] + " " + words[Caption::HumidifierSecond]);
+    entry(c.Humid_D_Start,
+          calculate + words[Caption::SteamHumidifier] + " " + words[Caption::HumidifierSecond]);
+    entry(c.kopieren, words[Caption::ModuleName] + " &" + words[Caption::CopyToClipboard]);
+    entry(c.Hsich, words[Caption::SaveButton]);
+    entry(c.Hlad, words[Caption::Load]);
 }
 
-void SetToolCaptions(MainControls& c, const Words& words, const AirWords& air) {
+void SetToolCaptions(MainControls& c, const Captions& words) {
     // Leading blanks keep the text clear of the picture that it lies on.
     const auto caption = [](ToolButton& button, const std::string& blanks,
                             const std::string& text) { button.caption.text = blanks + text; };
     const std::string four(4, ' '), five(5, ' ');
-    caption(c.optButt, four, words[63]);
-    caption(c.ZAButt, five, air[5]);
-    caption(c.MischButt, four, air[6]);
-    caption(c.BearButt, five, words[177]);
-    caption(c.AnlageButt, four, words[59]);
-    caption(c.druckbutt, four, words[76]);
-    caption(c.PSButt, four, words[30]);
-    caption(c.PLbutt, four, words[29]);
+    caption(c.optButt, four, words[Caption::Settings]);
+    caption(c.ZAButt, five, words[Caption::StateChange]);
+    caption(c.MischButt, four, words[Caption::Mixing]);
+    caption(c.BearButt, five, words[Caption::Capacity]);
+    caption(c.AnlageButt, four, words[Caption::AirHandlingUnit]);
+    caption(c.druckbutt, four, words[Caption::Print]);
+    caption(c.PSButt, four, words[Caption::SaveButton]);
+    caption(c.PLbutt, four, words[Caption::Load]);
 
     const auto tip = [](ToolButton& button, const std::string& own, const std::string& text) {
         button.picture.tool_tip = button.caption.tool_tip = own + " : " + text;
     };
-    tip(c.optButt, words[63], words[171] + ", " + air[1] + ", " + words[172] + ", " + air[8]);
-    tip(c.ZAButt, air[5], air[1] + "/" + air[2] + ", " + words[173]);
-    tip(c.MischButt, air[6], air[1] + "/" + air[2]);
-    tip(c.BearButt, words[177], words[177] + "  " + air[9] + "/" + air[10] + ", " + air[7]);
-    tip(c.AnlageButt, words[59], air[20] + ", " + air[15] + ", " + words[13] + ", " + air[16]);
-    tip(c.druckbutt, words[76], words[180]);
-    c.mPributt.tool_tip = c.mPributt_2.tool_tip = words[76];
-    c.ZOOMMIN.text = words[126];
-    c.Command3D7.text = words[75];
-    c.Command3D2.text = words[35];
+    tip(c.optButt, words[Caption::Settings],
+        words[Caption::Temperature] + ", " + words[Caption::HumidityRatio] + ", " +
+            words[Caption::Pressure] + ", " + words[Caption::Altitude]);
+    tip(c.ZAButt, words[Caption::StateChange],
+        words[Caption::HumidityRatio] + "/" + words[Caption::RelativeHumidity] + ", " +
+            words[Caption::Enthalpy]);
+    tip(c.MischButt, words[Caption::Mixing],
+        words[Caption::HumidityRatio] + "/" + words[Caption::RelativeHumidity]);
+    tip(c.BearButt, words[Caption::Capacity],
+        words[Caption::Capacity] + "  " + words[Caption::Latent] + "/" + words[Caption::Sensible] +
+            ", " + words[Caption::Water]);
+    tip(c.AnlageButt, words[Caption::AirHandlingUnit],
+        words[Caption::MixingSection] + ", " + words[Caption::HumidifierSecond] + ", " +
+            words[Caption::Cooler] + ", " + words[Caption::Heater]);
+    tip(c.druckbutt, words[Caption::Print], words[Caption::ModuleName]);
+    c.mPributt.tool_tip = c.mPributt_2.tool_tip = words[Caption::Print];
+    c.ZOOMMIN.text = words[Caption::ZoomOut];
+    c.Command3D7.text = words[Caption::Exit];
+    c.Command3D2.text = words[Caption::Cancel];
 }
 
-void SetReadOutCaptions(MainControls& c, const Words& words, const AirWords& air) {
+void SetReadOutCaptions(MainControls& c, const Captions& words) {
     // The symbols of the chart's own axes leave the column narrow; the words stand in the tool
     // tips.
     const auto symbol = [](Label& label, const std::string& sign, std::string_view unit,
@@ -101,38 +108,41 @@ void SetReadOutCaptions(MainControls& c, const Words& words, const AirWords& air
         label.text = WithUnit(sign, unit);
         label.tool_tip = word;
     };
-    symbol(c.temperature_word, "t", UnitDegC, words[171]);
-    symbol(c.humidity_word, "φ", "%", air[2]);
-    symbol(c.ratio_word, "x", "g/kg", air[1]);
-    symbol(c.enthalpy_word, "h", UnitKJkg, words[173]);
-    symbol(c.density_word, "ρ", "kg/m³", words[104]);
-    symbol(c.vapour_word, "pD", "hPa", words[105]);
-    symbol(c.pressure_word, "p", UnitBar, words[172]);
-    c.Label24.text = words[25] + " :";
-    c.Label25.text = words[26] + " :";
+    symbol(c.temperature_word, "t", UnitDegC, words[Caption::Temperature]);
+    symbol(c.humidity_word, "φ", "%", words[Caption::RelativeHumidity]);
+    symbol(c.ratio_word, "x", "g/kg", words[Caption::HumidityRatio]);
+    symbol(c.enthalpy_word, "h", UnitKJkg, words[Caption::Enthalpy]);
+    symbol(c.density_word, "ρ", "kg/m³", words[Caption::Density]);
+    symbol(c.vapour_word, "pD", "hPa", words[Caption::VapourPressure]);
+    symbol(c.pressure_word, "p", UnitBar, words[Caption::Pressure]);
+    c.Label24.text = words[Caption::Project] + " :";
+    c.Label25.text = words[Caption::Remark] + " :";
 }
 
-void SetPointPanelCaptions(PointPanel& p, const Words& words, const AirWords& air) {
-    p.Label33.text = air[4] + " " + air[3] + " /[m³/h]:";
+void SetPointPanelCaptions(PointPanel& p, const Captions& words) {
+    p.Label33.text = words[Caption::AirFlow] + " " + words[Caption::AirFlowSecond] + " /[m³/h]:";
     p.second_flow_label.text = p.Label33.text;
-    p.Label35.text = WithUnit(words[171], UnitDegC);
-    p.Label36.text = WithUnit(air[2], "%");
-    p.label37.text = WithUnit(air[1], "g/kg");
-    p.enthPN.text = WithUnit(words[173], UnitKJkg);
-    p.mixture_label.text = air[6];
-    p.capacity_label.text = WithUnit(words[177] + " " + air[14], UnitKW);
-    p.latent_label.text = WithUnit(words[177] + " " + air[9], UnitKW);
-    p.sensible_label.text = WithUnit(words[177] + " " + air[10], UnitKW);
-    p.water_label.text = WithUnit(air[7], "kg/h");
-    p.VolBer_l.text = air[4];
-    p.VolBer.tool_tip = p.VolBer_l.tool_tip = words[81] + " " + air[4] + " " + air[3];
+    p.Label35.text = WithUnit(words[Caption::Temperature], UnitDegC);
+    p.Label36.text = WithUnit(words[Caption::RelativeHumidity], "%");
+    p.label37.text = WithUnit(words[Caption::HumidityRatio], "g/kg");
+    p.enthPN.text = WithUnit(words[Caption::Enthalpy], UnitKJkg);
+    p.mixture_label.text = words[Caption::Mixing];
+    p.capacity_label.text =
+        WithUnit(words[Caption::Capacity] + " " + words[Caption::Total], UnitKW);
+    p.latent_label.text = WithUnit(words[Caption::Capacity] + " " + words[Caption::Latent], UnitKW);
+    p.sensible_label.text =
+        WithUnit(words[Caption::Capacity] + " " + words[Caption::Sensible], UnitKW);
+    p.water_label.text = WithUnit(words[Caption::Water], "kg/h");
+    p.VolBer_l.text = words[Caption::AirFlow];
+    p.VolBer.tool_tip = p.VolBer_l.tool_tip = words[Caption::Calculate] + " " +
+                                              words[Caption::AirFlow] + " " +
+                                              words[Caption::AirFlowSecond];
     p.Command3D4.text = "O.K.";
-    p.abbcom.text = words[35];
+    p.abbcom.text = words[Caption::Cancel];
     p.wrgButt.tool_tip = "Wärmerückgewinnung";
 }
 
-void SetPlantPanelCaptions(PlantPanel& p, const Words& words, const AirWords& air,
-                           const std::string& tag) {
+void SetPlantPanelCaptions(PlantPanel& p, const Captions& words, const std::string& tag) {
     for (Label* label : {&p.Label34, &p.Label38, &p.Label39, &p.coil_temperature_label}) {
         label->text = "t  /[" + std::string(UnitDegC) + "]";
     }
@@ -141,28 +151,29 @@ void SetPlantPanelCaptions(PlantPanel& p, const Words& words, const AirWords& ai
         label->text = latin ? "HR /[%]:" : "φ /[%]:";
     }
     p.Label11.text = latin ? "HR:" : "φ:";
-    p.Option3D3.text = air[18];
-    p.Option3D4.text = air[17];
-    p.flow_label.text = air[4] + " " + air[3] + " " + words[212] + " /[m³/h]:";
-    p.ratio_label.text = words[99] + ":";
-    p.inner_flow_label.text = WithUnit(air[12], UnitM3h);
-    p.outer_flow_label.text = WithUnit(air[13], UnitM3h);
-    p.exhaust_label.text = words[98];
-    p.outside_label.text = air[13];
-    p.supply_label.text = words[97];
-    p.coil_label.text = air[11] + " " + words[13];
-    p.supply_fan_label.text = WithUnit(words[100], UnitK);
-    p.return_fan_label.text = WithUnit(words[101], UnitK);
-    p.room_label.text = words[102];
-    p.room_total_label.text = words[177] + " " + air[14] + ":";
-    p.room_sensible_label.text = words[177] + " " + air[10] + ":";
-    p.room_latent_label.text = words[177] + " " + air[9] + ":";
-    p.room_water_label.text = air[7] + ":";
-    p.cooler_label.text = words[177] + " " + words[13] + ":";
-    p.heater_label.text = words[177] + " " + air[16] + ":";
-    p.humidifier_label.text = words[103] + ":";
+    p.Option3D3.text = words[Caption::SteamHumidifier];
+    p.Option3D4.text = words[Caption::WaterHumidifier];
+    p.flow_label.text = words[Caption::AirFlow] + " " + words[Caption::AirFlowSecond] + " " +
+                        words[Caption::AirFlowTotal] + " /[m³/h]:";
+    p.ratio_label.text = words[Caption::RecirculatedToOutdoorAir] + ":";
+    p.inner_flow_label.text = WithUnit(words[Caption::RecirculatedAir], UnitM3h);
+    p.outer_flow_label.text = WithUnit(words[Caption::OutdoorAir], UnitM3h);
+    p.exhaust_label.text = words[Caption::ExtractAir];
+    p.outside_label.text = words[Caption::OutdoorAir];
+    p.supply_label.text = words[Caption::SupplyAir];
+    p.coil_label.text = words[Caption::Leaving] + " " + words[Caption::Cooler];
+    p.supply_fan_label.text = WithUnit(words[Caption::SupplyFanRise], UnitK);
+    p.return_fan_label.text = WithUnit(words[Caption::ExtractFanRise], UnitK);
+    p.room_label.text = words[Caption::Room];
+    p.room_total_label.text = words[Caption::Capacity] + " " + words[Caption::Total] + ":";
+    p.room_sensible_label.text = words[Caption::Capacity] + " " + words[Caption::Sensible] + ":";
+    p.room_latent_label.text = words[Caption::Capacity] + " " + words[Caption::Latent] + ":";
+    p.room_water_label.text = words[Caption::Water] + ":";
+    p.cooler_label.text = words[Caption::Capacity] + " " + words[Caption::Cooler] + ":";
+    p.heater_label.text = words[Caption::Capacity] + " " + words[Caption::Heater] + ":";
+    p.humidifier_label.text = words[Caption::Humidifier] + ":";
     p.Command3D6.text = p.Command3D6_l.text = "O.K.";
-    p.AnlageAbButt.text = p.AnlageAbButt_l.text = words[35];
+    p.AnlageAbButt.text = p.AnlageAbButt_l.text = words[Caption::Cancel];
 }
 
 bool IsCaption(const Control& control) {
@@ -173,15 +184,14 @@ bool IsCaption(const Control& control) {
 }  // namespace
 
 void SetCaptions(MainForm& main) {
-    const auto& words = main.captions.CaptionList;
-    const auto& air = main.captions.QVCaptList;
+    const Captions& captions = main.captions;
     const std::string& tag = main.shared.LanguageTag;
-    SetMenuCaptions(main.controls, words, air, tag);
-    SetToolCaptions(main.controls, words, air);
-    SetReadOutCaptions(main.controls, words, air);
-    SetPointPanelCaptions(main.processes.point, words, air);
-    SetPlantPanelCaptions(main.processes.plant, words, air, tag);
-    main.controls.Label7.text = words[180];
+    SetMenuCaptions(main.controls, captions, tag);
+    SetToolCaptions(main.controls, captions);
+    SetReadOutCaptions(main.controls, captions);
+    SetPointPanelCaptions(main.processes.point, captions);
+    SetPlantPanelCaptions(main.processes.plant, captions, tag);
+    main.controls.Label7.text = captions[Caption::ModuleName];
     main.controls.Label19.text = main.shared.AppTitle;
 }
 

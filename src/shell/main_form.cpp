@@ -113,7 +113,7 @@ void MainForm::AuswahlOeffnen() {
 
 void MainForm::SetTitle() {
     const std::string base = shared.AppTitle + " " + shared.VersionText + " : " +
-                             captions.CaptionList[180] + " " + captions.CaptionList[25];
+                             captions[Caption::ModuleName] + " " + captions[Caption::Project];
     title = base + " " + shared.ProjectTitle + " " + shared.HandOverTitle;
     processes.point.Label15.text = processes.plant.Label16.text = base;
 }

@@ -60,24 +60,25 @@ void OptionsForm::BindActs() {
 }
 
 void OptionsForm::SetCaptions() {
-    const auto& words = captions_.CaptionList;
-    const std::string& temperature = words[171];
-    const std::string& humidity = captions_.QVCaptList[1];
-    title = words[63] + " " + shared_.AppTitle + " " + shared_.VersionText + " " + words[180];
+    const Captions& words = captions_;
+    const std::string& temperature = words[Caption::Temperature];
+    const std::string& humidity = words[Caption::HumidityRatio];
+    title = words[Caption::Settings] + " " + shared_.AppTitle + " " + shared_.VersionText + " " +
+            words[Caption::ModuleName];
     OptPNUeb.text = title + " :";
     Option3d1.text = "Mollier ";
     Option3d2.text = "Carrier ";
-    Black.text = words[107];
-    white.text = words[108];
-    pressure_label.text = words[172] + " /[" + std::string(UnitBar) + "]:";
-    height_label.text = captions_.QVCaptList[8] + " /[" + std::string(UnitM) + "]:";
+    Black.text = words[Caption::DarkGround];
+    white.text = words[Caption::LightGround];
+    pressure_label.text = words[Caption::Pressure] + " /[" + std::string(UnitBar) + "]:";
+    height_label.text = words[Caption::Altitude] + " /[" + std::string(UnitM) + "]:";
     tmin_label.text = temperature + " min. :";
     tmax_label.text = temperature + " max. :";
     xmin_label.text = humidity + " min. :";
     xmax_label.text = humidity + " max. :";
     Command3D1_l.text = "O.K.";
-    Command3D5_l.text = words[35];
-    for (auto* panel : {&Panel3D12, &Panel3D13}) panel->tool_tip = words[106];
+    Command3D5_l.text = words[Caption::Cancel];
+    for (auto* panel : {&Panel3D12, &Panel3D13}) panel->tool_tip = words[Caption::Colours];
 }
 
 void OptionsForm::Open() {
@@ -122,8 +123,8 @@ int OptionsForm::FeuchteGrenze(bool write_field) {
 }
 
 bool OptionsForm::PassesTests(const ChartSettings& typed) {
-    const std::string& temperature = captions_.CaptionList[171];
-    const std::string& humidity = captions_.QVCaptList[1];
+    const std::string& temperature = captions_[Caption::Temperature];
+    const std::string& humidity = captions_[Caption::HumidityRatio];
     const auto complain = [this](const std::string& text) {
         user_.ShowMessage({shared_.AppTitle, text, MessageIcon::Stop});
     };

@@ -116,8 +116,8 @@ TEST(DataFiles, AFailedDeleteWarnsOnceARun) {
     const TestFolder folder;
     DataFiles files(folder.Path());
     Captions captions;
-    captions.CaptionList[269] = "Failure";
-    captions.CaptionList[272] = "Help";
+    captions[Caption::DeleteFailureFolder] = "Failure";
+    captions[Caption::DeleteFailureAdvice] = "Help";
     std::vector<std::string> warnings;
     const auto warn = [&](const std::string& text) { warnings.push_back(text); };
     files.DeleteDataFile("none.dat", captions, warn);
@@ -148,19 +148,31 @@ TEST(DataFiles, AFailedDeleteWarnsOnceARun) {
 
 TEST(Captions, AShortFileLeavesTheRestEmptyAndTheFixedWordsStand) {
     const TestFolder folder;
-    folder.Write("Caption.DEU", "\"skipped\"\r\n\"two, with comma\"\r\nK\xFChler  \r\n");
+    std::string fields;
+    for (int field = 1; field < 12; ++field) fields += "\"unused\"\r\n";
+    folder.Write("Caption.DEU", fields + "\"twelve, with comma\"\r\nK\xFChler  \r\n");
+    folder.Write("QVCapt.DEU", "Feuchtegehalt");
     const DataFiles files(folder.Path());
     Captions captions;
-    captions.CaptionList[5] = "left over";
+    captions[Caption::Condenser] = captions[Caption::OfTheRoom] = "left over";
     LoadCaptions(files, "DEU", captions);
-    EXPECT_EQ(captions.CaptionList[1], "");
-    EXPECT_EQ(captions.CaptionList[2], "two, with comma");
-    EXPECT_EQ(captions.CaptionList[3], "Kühler");
-    EXPECT_EQ(captions.CaptionList[5], "");
-    EXPECT_EQ(captions.CaptionList[312], "Transkritisch");
-    EXPECT_EQ(captions.CaptionList[313], "Booster");
+    LoadAirCoCaptions(files, "DEU", captions);
     LoadQVCaptions(files, "DEU", captions);
+    EXPECT_EQ(captions[Caption::Compressor], "twelve, with comma");
+    EXPECT_EQ(captions[Caption::Cooler], "Kühler");
+    EXPECT_EQ(captions[Caption::Condenser], "");
+    EXPECT_EQ(captions[Caption::Transcritical], "Transkritisch");
+    EXPECT_EQ(captions[Caption::Booster], "Booster");
+    EXPECT_EQ(captions[Caption::OfTheRoom], "");
+    EXPECT_EQ(captions[Caption::HumidityRatio], "Feuchtegehalt");
+    EXPECT_EQ(captions[Caption::MixingSection], "");
     EXPECT_EQ(captions.heat_recovery_words[0], "Wärmerückgewinnung");
+}
+
+TEST(Captions, MessagesTakeTheirValues) {
+    EXPECT_EQ(FilledIn("raised to %1 %", {"61.2"}), "raised to 61.2 %");
+    EXPECT_EQ(FilledIn("%2 before %1", {"%2", "b"}), "b before %2");
+    EXPECT_EQ(FilledIn("%1, %2, 5 %0 100%", {"a"}), "a, %2, 5 %0 100%");
 }
 
 }  // namespace

@@ -29,11 +29,11 @@ struct ProcessWindow {
 
     ProcessWindow() {
         solver.ChartDruckBar = 1.013;
-        captions.QVCaptList[6] = "mix";
-        captions.QVCaptList[11] = "behind";
-        captions.CaptionList[13] = "cooler";
-        captions.QVCaptList[12] = "inner air";
-        captions.QVCaptList[13] = "outer air";
+        captions[Caption::Mixing] = "mix";
+        captions[Caption::Leaving] = "behind";
+        captions[Caption::Cooler] = "cooler";
+        captions[Caption::RecirculatedAir] = "inner air";
+        captions[Caption::OutdoorAir] = "outer air";
         ApplyBaseScale(settings, scale);
         scale.CarrierFaktor = 2.5;
         processes.BindActs(acts);

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,19 +35,21 @@ std::string Bytes(const std::string& path) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-std::string Text(const Captions& captions, char list, std::size_t number) {
-    if (list == 'A') return captions.AirCoCapList.at(number);
-    return list == 'Q' ? captions.QVCaptList.at(number) : captions.CaptionList.at(number);
+Caption Named(std::string_view name) {
+    for (const auto& [known, word] : kCaptionNames) {
+        if (known == name) return word;
+    }
+    ADD_FAILURE() << "no caption is named " << name;
+    return {};
 }
 
-// Replaces {C13}, {A6}, {Q4} by the texts of the three lists.
+// Replaces {Cooler} and the like by the word of that name.
 std::string Compose(const Captions& captions, std::string_view pattern) {
     std::string label;
     for (std::size_t open = 0; (open = pattern.find('{')) != std::string_view::npos;) {
         const std::size_t close = pattern.find('}', open);
         label += pattern.substr(0, open);
-        const std::string number(pattern.substr(open + 2, close - open - 2));
-        label += Text(captions, pattern[open + 1], std::stoul(number));
+        label += captions[Named(pattern.substr(open + 1, close - open - 1))];
         pattern.remove_prefix(close + 1);
     }
     return label.append(pattern);
@@ -75,29 +76,20 @@ TEST(CaptionsData, EveryFileHasAllItsFieldsInQuotesOnLinesOfTheirOwn) {
     }
 }
 
-TEST(CaptionsData, EverySlotInUseIsFilledInEveryLanguageAndNoOther) {
-    std::ifstream table(std::string(ZANDRELL_SOURCE_DATA) + "/captions/slots.tsv");
-    std::string line;
-    std::getline(table, line);  // the head line
-    std::vector<std::pair<char, std::size_t>> slots;
-    while (std::getline(table, line)) {
-        std::istringstream columns(line);
-        std::string list;
-        std::size_t number = 0;
-        ASSERT_TRUE(columns >> list >> number) << line;
-        slots.emplace_back(list[0], number);
-    }
-    ASSERT_GT(slots.size(), 80U);
+// A text in a slot without a name would be one that nobody can show.
+TEST(CaptionsData, EveryNamedSlotIsFilledInEveryLanguageAndNoOther) {
+    ASSERT_GT(kCaptionNames.size(), 110U);
     for (const std::string& tag : kTags) {
         const Captions captions = Load(tag);
-        for (const auto& [list, number] : slots)
-            EXPECT_NE(Text(captions, list, number), "") << tag << ' ' << list << number;
-        // Two slots of the long list have the same fixed words in all languages.
+        for (const auto& [name, word] : kCaptionNames)
+            EXPECT_NE(captions[word], "") << tag << ' ' << name;
         std::size_t filled = 0;
-        for (const std::string& text : captions.CaptionList) filled += text.empty() ? 0U : 1U;
-        for (const std::string& text : captions.AirCoCapList) filled += text.empty() ? 0U : 1U;
-        for (const std::string& text : captions.QVCaptList) filled += text.empty() ? 0U : 1U;
-        EXPECT_EQ(filled, slots.size() + 2) << tag;
+        for (const char* prefix : {"Caption.", "AirCoCap.", "QVCapt."}) {
+            const FileText file = StagedFiles().OpenForInput(prefix + tag);
+            DelimitedReader reader(file.text);
+            for (std::string item; reader.ReadText(item);) filled += item.empty() ? 0U : 1U;
+        }
+        EXPECT_EQ(filled, kCaptionNames.size()) << tag;
     }
 }
 
@@ -127,7 +119,7 @@ struct Label {
 
 const std::vector<Label> kLabels = {
     {"air flow field",
-     "{Q4} {Q3} /[m³/h]:",
+     "{AirFlow} {AirFlowSecond} /[m³/h]:",
      {{"ENG", "Air Flow Rate /[m³/h]:"},
       {"DEU", "Volumenstrom Luft /[m³/h]:"},
       {"NDL", "Debiet lucht /[m³/h]:"},
@@ -137,7 +129,7 @@ const std::vector<Label> kLabels = {
       {"POR", "Caudal de ar /[m³/h]:"},
       {"TWA", "風量 (空氣) /[m³/h]:"}}},
     {"cooling capacity on paper",
-     "{C177} {C13} /[kW] :",
+     "{Capacity} {Cooler} /[kW] :",
      {{"ENG", "Capacity Cooler /[kW] :"},
       {"DEU", "Leistung Kühler /[kW] :"},
       {"NDL", "Vermogen koeler /[kW] :"},
@@ -147,47 +139,47 @@ const std::vector<Label> kLabels = {
       {"POR", "Potência de arrefecimento /[kW] :"},
       {"TWA", "能力 冷卻器 /[kW] :"}}},
     {"water humidifier in the menu",
-     "{C81} {Q17} {Q15}",
+     "{Calculate} {WaterHumidifier} {HumidifierSecond}",
      {{"ENG", "Calculate Water Humidifier"},
       {"DEU", "Berechnung Wasser Befeuchter"},
       {"FRA", "Calcul Eau d'humidification"}}},
     {"heater in the menu",
-     "{C81} {Q16}",
+     "{Calculate} {Heater}",
      {{"ENG", "Calculate Heater"},
       {"DEU", "Berechnung Erhitzer"},
       {"ITA", "Calcolo di riscaldamento"}}},
     {"tip of the options button",
-     "{C63} : {C171}, {Q1}, {C172}, {Q8}",
+     "{Settings} : {Temperature}, {HumidityRatio}, {Pressure}, {Altitude}",
      {{"ENG", "Settings : Temperature, Abs. Humidity, Pressure, Altitude"},
       {"DEU", "Einstellungen : Temperatur, Abs. Feuchte, Druck, Höhe ü. NN"}}},
     {"tip of the capacity button",
-     "{C177} : {C177}  {Q9}/{Q10}, {Q7}",
+     "{Capacity} : {Capacity}  {Latent}/{Sensible}, {Water}",
      {{"ENG", "Capacity : Capacity  Latent/Sensible, Water"},
       {"DEU", "Leistung : Leistung  latent/sensibel, Wasser"}}},
     {"tip of the plant button",
-     "{C59} : {Q20}, {Q15}, {C13}, {Q16}",
+     "{AirHandlingUnit} : {MixingSection}, {HumidifierSecond}, {Cooler}, {Heater}",
      {{"ENG", "Air Handler : Mixing Box, Humidifier, Cooler, Heater"},
       {"DEU", "Klimaanlage : Mischkammer, Befeuchter, Kühler, Erhitzer"},
       {"FRA", "CTA : Fonctions de mélange, d'humidification, de refroidissement, de chauffage"}}},
     {"print-out, shares of the air",
-     "{Q4} {Q12}/{Q13} /[m³/h]: ",
+     "{AirFlow} {RecirculatedAir}/{OutdoorAir} /[m³/h]: ",
      {{"ENG", "Air Flow Indoor Air/Outdoor Air /[m³/h]: "},
       {"DEU", "Volumenstrom Innenluft/Außenluft /[m³/h]: "}}},
     {"chart label and tools",
-     "{Q11} {C13}, {Q5}, {Q6}",
+     "{Leaving} {Cooler}, {StateChange}, {Mixing}",
      {{"ENG", "Outlet Cooler, State Change, Mixing"},
       {"DEU", "Austritt Kühler, Zustände, Mischung"}}},
     {"print-out, room water",
-     "{Q7} {Q14}    /[kg/h] :",
+     "{Water} {Total}    /[kg/h] :",
      {{"ENG", "Water Total/Room    /[kg/h] :"}, {"DEU", "Wasser gesamt/Raum    /[kg/h] :"}}},
     {"printer dialog",
-     "{C166} {C63}",
+     "{Printer} {Settings}",
      {{"ENG", "Printer Settings"}, {"DEU", "Drucker Einstellungen"}}},
     {"page heading",
-     "Mollier {C180}, {C172} :",
+     "Mollier {ModuleName}, {Pressure} :",
      {{"ENG", "Mollier h,x Chart, Pressure :"}, {"DEU", "Mollier h,x-Diagramm, Druck :"}}},
     {"save and load",
-     "{C28} {C25}, {C32} &{C34}, {C30}, {C29}",
+     "{New} {Project}, {Save} &{SaveAsSecond}, {SaveButton}, {Load}",
      {{"ENG", "New Project, Save &As, Save, Load"},
       {"DEU", "Neues Projekt, Speichern &unter, Speichern, Laden"},
       {"NDL", "Nieuw Project, Bewaar &als, Bewaar, Laad"},
@@ -195,15 +187,16 @@ const std::vector<Label> kLabels = {
       {"POR", "Novo Projeto, Guardar &como, Guardar, Carregar"},
       {"TWA", "新增 專案, 儲存 &為新檔, 儲存, 載入"}}},
     {"page header",
-     "{C27} {C38} {C61} {C26} - {C146}",
+     "{Company} {Date} {Page} {Remark} - {SheetKind}",
      {{"ENG", "Company Date Page Remark - Calculation Report"},
       {"DEU", "Firma Datum Seite Bemerkung - Berechnungsprotokoll"}}},
     {"failure message",
-     "{C269} : x {C270}!",
+     "{DeleteFailureFolder} : x {DeleteFailureAccess}!",
      {{"ENG", "System failure in folder : x - access denied!"},
       {"DEU", "Systemfehler im Ordner : x - Zugriff verweigert!"}}},
     {"data sheet",
-     "{C171} {A6} : {C172} {C41} / {C40}, {C302}, {C25}{C58}",
+     "{Temperature} {OfTheRoom} : {Pressure} {Condensation} / {Evaporation}, {EfficiencyClass}, "
+     "{Project}{ProjectDataSecond}",
      {{"ENG",
        "Temperature Room : Pressure Condensation / Evaporation, Efficiency Class, Project Data"},
       {"DEU",
