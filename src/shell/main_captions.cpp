@@ -25,6 +25,13 @@ std::string LoadProjectEntry(const Captions& words, const std::string& tag) {
     return words[Caption::Project] + " &" + words[Caption::Load];
 }
 
+// Caption files of a data folder that other modules of the suite set up lack the word; those
+// modules show the fixed one.
+const std::string& HeatRecoveryWord(const Captions& words) {
+    const std::string& word = words[Caption::HeatRecovery];
+    return word.empty() ? words.heat_recovery_words[0] : word;
+}
+
 std::string WithUnit(const std::string& word, std::string_view unit) {
     return word + " /[" + std::string(unit) + "]:";
 }
@@ -44,7 +51,7 @@ void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& 
     entry(c.Ende, words[Caption::Exit]);
     entry(c.Opt, words[Caption::Settings]);
     entry(c.qveinst, words[Caption::ModuleName]);
-    entry(c.wrgEinst, "Wärmerückgewinnung");
+    entry(c.wrgEinst, HeatRecoveryWord(words));
     entry(c.Bearb, words[Caption::Edit]);
     entry(c.ZustAe, words[Caption::StateChange]);
     entry(c.Misch, words[Caption::Mixing]);
@@ -139,7 +146,7 @@ void SetPointPanelCaptions(PointPanel& p, const Captions& words) {
                                               words[Caption::AirFlowSecond];
     p.Command3D4.text = "O.K.";
     p.abbcom.text = words[Caption::Cancel];
-    p.wrgButt.tool_tip = "Wärmerückgewinnung";
+    p.wrgButt.tool_tip = HeatRecoveryWord(words);
 }
 
 void SetPlantPanelCaptions(PlantPanel& p, const Captions& words, const std::string& tag) {

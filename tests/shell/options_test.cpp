@@ -57,7 +57,7 @@ TEST(Options, TestsOfTheRanges) {
         {"1",
          "40",
          "-1",
-         {"Temperature minimal  > 0°C !", "Abs. Humidity minimal < 0 g/kg !"},
+         {"Temperature minimal  > 0°C !", "Humidity Ratio minimal < 0 g/kg !"},
          false},
         {"1e999", "--5", "0", {"Temperature maximal  < 25°C !"}, false},
     };
