@@ -79,6 +79,15 @@ TEST_P(WindowWords, StandWhereTheyBelong) {
         EXPECT_TRUE(expected.contains(place)) << place << " is not in the table: " << words;
 }
 
+// A caption file that another module of the suite brought knows nothing of the word.
+TEST(HeatRecovery, HasItsFixedWordWhereTheCaptionsLackIt) {
+    ScriptSession session;
+    session.folder.Write("Caption.ENG", "\"short\"");
+    const Json dump = session.RunOnce("dump wrgEinst wrgButt");
+    EXPECT_EQ(TextOf(dump, "wrgEinst"), "&Wärmerückgewinnung");
+    EXPECT_EQ(dump.at("wrgButt").at("tool_tip"), "Wärmerückgewinnung");
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, WindowWords, ::testing::Values("ENG", "DEU"));
 
 }  // namespace
