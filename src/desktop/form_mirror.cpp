@@ -51,7 +51,7 @@ QString TipOf(const QWidget* widget, const Control& control) {
     const QString key = widget->property("key").toString();
     if (key.isEmpty()) return tip;
     return tip + (tip.isEmpty() ? QString() : QStringLiteral("  ")) +
-           QStringLiteral("(%1)").arg(key);
+           QLatin1Char('(') + key + QLatin1Char(')');
 }
 
 }  // namespace
