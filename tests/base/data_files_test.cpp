@@ -1,8 +1,12 @@
 #include "base/data_files.h"
 
+#include <dlfcn.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 #include "base/captions.h"
 #include "support/test_folder.h"
@@ -11,6 +15,87 @@ namespace zandrell {
 namespace {
 
 namespace fs = std::filesystem;
+
+// What the program asked of the system, in order. The calls go on to the system, but for a rename
+// that is to fail.
+struct SystemCalls {
+    std::vector<std::string> made;
+    bool rename_fails = false;
+};
+SystemCalls system_calls;
+
+template <class Call>
+Call RealCall(const char* name) {
+    return reinterpret_cast<Call>(::dlsym(RTLD_NEXT, name));
+}
+
+}  // namespace
+}  // namespace zandrell
+
+extern "C" int fsync(int handle) {
+    using zandrell::system_calls;
+    struct stat about {};
+    const bool folder = ::fstat(handle, &about) == 0 && S_ISDIR(about.st_mode);
+    system_calls.made.emplace_back(folder ? "flush folder" : "flush file");
+    return zandrell::RealCall<int (*)(int)>("fsync")(handle);
+}
+
+extern "C" int rename(const char* from, const char* to) noexcept {
+    using zandrell::system_calls;
+    system_calls.made.emplace_back("rename");
+    if (system_calls.rename_fails) {
+        errno = EIO;
+        return -1;
+    }
+    return zandrell::RealCall<int (*)(const char*, const char*)>("rename")(from, to);
+}
+
+namespace zandrell {
+namespace {
+
+std::vector<std::string> NamesIn(const TestFolder& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder.Path())) {
+        names.push_back(entry.path().filename());
+    }
+    return names;
+}
+
+TEST(DataFiles, AReplacedFileKeepsItsPermissions) {
+    const TestFolder folder;
+    const DataFiles files(folder.Path());
+    for (const mode_t mode : {0600U, 0640U, 0664U}) {
+        folder.Write("a.dat", "old");
+        ASSERT_EQ(::chmod((folder / "a.dat").c_str(), mode), 0);
+        EXPECT_EQ(files.OpenForOutput("a.dat", "new"), FileStatus::Ok);
+        struct stat about {};
+        ASSERT_EQ(::stat((folder / "a.dat").c_str(), &about), 0);
+        EXPECT_EQ(about.st_mode & 0777U, mode);
+    }
+}
+
+TEST(DataFiles, TheNewContentIsOnTheDiskBeforeItTakesTheName) {
+    const TestFolder folder;
+    folder.Write("a.dat", "old");
+    const DataFiles files(folder.Path());
+    system_calls = {};
+    ASSERT_EQ(files.OpenForOutput("a.dat", "new"), FileStatus::Ok);
+    EXPECT_THAT(system_calls.made, testing::ElementsAre("flush file", "rename", "flush folder"));
+    system_calls = {};
+    ASSERT_EQ(files.OpenForOutput("a.dat", "new", Durability::Cache), FileStatus::Ok);
+    EXPECT_THAT(system_calls.made, testing::Not(testing::Contains("flush file")));
+}
+
+TEST(DataFiles, AFailedReplaceLeavesTheOldFileAndNothingBesideIt) {
+    const TestFolder folder;
+    folder.Write("a.dat", "old");
+    system_calls = {{}, true};
+    const FileStatus status = DataFiles(folder.Path()).OpenForOutput("a.dat", "new");
+    system_calls = {};
+    EXPECT_NE(status, FileStatus::Ok);
+    EXPECT_EQ(folder.Read("a.dat"), "old");
+    EXPECT_THAT(NamesIn(folder), testing::ElementsAre("a.dat"));
+}
 
 TEST(DataFiles, ABareNameIsLookedUpInTheDataFolderWithoutRegardToCase) {
     const TestFolder folder;

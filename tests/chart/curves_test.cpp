@@ -245,9 +245,12 @@ TEST(Painting, ColourSchemes) {
     EXPECT_EQ(chart.overlay.ZAeLine.colour, kYellow);
     EXPECT_EQ(chart.overlay.tmLab.colour, kYellow);
     chart.folder.Write("qv_par.dat", "1.013,-20,40,0,40,0,0,1 ");
-    chart.shared.SkinNumber = 5;
-    chart.Paint();
-    EXPECT_EQ(chart.engine.picture.Background(), kLightGreyValue);
+    for (int skin = 0; skin <= 6; ++skin) {
+        chart.shared.SkinNumber = skin;
+        chart.Paint();
+        const bool grey = skin >= 2 && skin <= 5;
+        EXPECT_EQ(chart.engine.picture.Background(), grey ? kLightGreyValue : kWhite) << skin;
+    }
     EXPECT_EQ(chart.overlay.pp9.colour, kBlack);
 }
 

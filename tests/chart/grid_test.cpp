@@ -36,6 +36,28 @@ TEST(ChartScale, BaseScaleOfBothKinds) {
     }
 }
 
+TEST(ChartScale, StepsAtTheEndsOfTheirRanges) {
+    const struct {
+        double t_min, t_max, x_span;
+        int temperature_step, humidity_step, curve_step;
+    } cases[] = {
+        {-20, 40, 30, 5, 5, 2},  {-20, 40, 29.9, 5, 2, 2}, {-20, 40, 10, 5, 2, 2},
+        {-20, 40, 9.9, 5, 1, 2}, {0, 40, 40, 5, 5, 2},     {0, 39.9, 40, 2, 5, 1},
+        {5, 30, 40, 2, 5, 1},    {10, 30, 40, 2, 5, 1},    {10, 29.9, 40, 1, 5, 1},
+    };
+    for (const auto& c : cases) {
+        ChartSettings settings;
+        settings.ChartTMin = c.t_min;
+        settings.ChartTMax = c.t_max;
+        ChartScale scale;
+        scale.spanX = c.x_span;
+        const GridSteps steps = StepsFor(settings, scale);
+        EXPECT_EQ(steps.temperature_step, c.temperature_step) << c.t_max - c.t_min;
+        EXPECT_EQ(steps.humidity_step, c.humidity_step) << c.x_span;
+        EXPECT_EQ(steps.curve_step, c.curve_step) << c.t_max - c.t_min;
+    }
+}
+
 TEST(ChartScale, ASpanThatIsNotPositiveLeavesTheFormerScale) {
     for (const char* settings : {"1.013,40,-20,0,40,0,0,1", "1.013,20,20,7,7,0,1,1",
                                  "1.013,1e300,-1e300,5,-5,0,0,1", "x,y"}) {

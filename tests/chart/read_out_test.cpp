@@ -64,6 +64,22 @@ TEST(ReadOut, TheFogAndTheLeftOfTheAxisHaveNoState) {
     }
 }
 
+TEST(ReadOut, TheFogBeginsAtSaturation) {
+    PaintedChart chart;
+    chart.Paint();
+    // Saturated air of 20 degC at 1.013 bar holds 14.70120866 g/kg, computed independently.
+    const double saturated = 14.70120866;
+    const struct {
+        double share;
+        bool fog;
+    } cases[] = {{0.9995, false}, {1.0005, true}, {1.004, true}};
+    for (const auto& c : cases) {
+        chart.ReadAt(35 + 45 * saturated * c.share, 379 - 9.0342679128 * 20);
+        EXPECT_EQ(chart.read_out.relF.text, c.fog ? "> 100" : " 99.9") << c.share;
+        EXPECT_EQ(chart.read_out.relF.background, c.fog ? kLightRed : kWhite) << c.share;
+    }
+}
+
 TEST(ReadOut, FarBelowTheChartThereIsNoState) {
     PaintedChart chart("1.013,-50,100,0,40,0,0,1");
     chart.Paint();

@@ -127,10 +127,11 @@ TEST(StateTable, WritesOneJsonObjectALine) {
                                   "t,rh,p,code,re\"mark\n"
                                   "20,\"50,0\",1.013,007,\"a \"\"b\"\"\tc\\\"\n"
                                   "20,x,1.013,-1.50e3,caf\xE9\n"
-                                  "1,2\n");
+                                  "1,2\n"
+                                  "-0,\"-0,0\",1.013,-0,\n");
     ASSERT_TRUE(run.done) << run.error;
     const auto lines = Lines(run.output);
-    ASSERT_EQ(lines.size(), 3U);
+    ASSERT_EQ(lines.size(), 4U);
     EXPECT_TRUE(lines[0].starts_with(R"({"t":20,"rh":50,"p":1.013,"code":"007","re\"mark":)"))
         << lines[0];
     EXPECT_TRUE(lines[1].starts_with(R"({"t":20,"rh":"x","p":1.013,"code":-1.50e3,)")) << lines[1];
@@ -142,6 +143,8 @@ TEST(StateTable, WritesOneJsonObjectALine) {
     EXPECT_EQ(bad["re\"mark"], "caf\xC3\xA9");
     EXPECT_TRUE(bad["t_boiling_k"].is_null());
     EXPECT_TRUE(nlohmann::json::parse(lines[2])["p"].is_null());
+    // A negative zero means zero; what is passed through keeps its sign.
+    EXPECT_TRUE(lines[3].starts_with(R"({"t":0,"rh":0,"p":1.013,"code":-0,)")) << lines[3];
 }
 
 // A specific heat of vapour that overflows above some 30 degC takes the enthalpy away, not the

@@ -97,6 +97,37 @@ TEST_F(MainWindowTest, MarkIsCarriedFromTheRimOfItsRing) {
     EXPECT_NEAR(Find<QLineEdit>("Taus")->text().toDouble(), 30, 0.11);
 }
 
+// Keeps which parts of a widget were repainted.
+class RepaintWatch : public QObject {
+  public:
+    explicit RepaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            region += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+    QRegion region;
+};
+
+TEST_F(MainWindowTest, ACarriedMarkIsRepaintedWhereItWasAndWhereItComesTo) {
+    OpenPlant();
+    ChartWidget& chart = window_->Chart();
+    const QPointF start = chart.ToWidget(form_.overlay.PP2.state);
+    Mouse(chart, QEvent::MouseButtonPress, start);
+    ASSERT_EQ(form_.PP2Gefasst, 1);
+    QApplication::processEvents();
+    RepaintWatch watch(chart);
+    Mouse(chart, QEvent::MouseMove, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
+    QApplication::processEvents();
+    const QPointF end = chart.ToWidget(form_.overlay.PP2.state);
+    ASSERT_GT((end - start).manhattanLength(), 20);
+    EXPECT_TRUE(watch.region.contains(start.toPoint()));
+    EXPECT_TRUE(watch.region.contains(end.toPoint()));
+    EXPECT_FALSE(watch.region.contains(QPoint(chart.width() - 3, chart.height() - 3)))
+        << "the rest of the picture stays";
+}
+
 TEST_F(MainWindowTest, PanelIsDraggedByItsGroundAndStaysInside) {
     OpenCapacity();
     auto* panel = Find<QWidget>("Anlage1PN");

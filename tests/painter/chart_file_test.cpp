@@ -4,7 +4,9 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QRegion>
 #include <QSvgRenderer>
+#include <functional>
 
 #include "painter/chart_drawing.h"
 #include "support/test_folder.h"
@@ -96,6 +98,67 @@ TEST_F(ChartFileTest, TextAtTheEdgeEndsInsideTheSurface) {
     }
     EXPECT_EQ(inked, 0);
     EXPECT_NE(image.pixel(view.ToDevice({1200, 290}).toPoint()), qRgb(255, 255, 255));
+}
+
+// Whatever moves, the pixels that change lie in what is said to be touched before and after.
+TEST_F(ChartFileTest, NothingChangesOutsideWhatTheOverlayTouches) {
+    const QRectF surface(0, 0, 1200, 675);
+    const ChartView view(picture_, surface, 1);
+    const auto rendered = [&](const OverlayDrawing& drawing) {
+        QImage image(surface.size().toSize(), QImage::Format_RGB32);
+        QPainter painter(&image);
+        PaintPicture(painter, picture_, view);
+        PaintOverlay(painter, drawing, view, picture_.Background());
+        return image;
+    };
+    overlay_.t1Lab.text = "Außenluft 32 °C";
+    const struct {
+        const char* what;
+        std::function<void(Overlay&)> change;
+    } changes[] = {
+        {"mark",
+         [](Overlay& o) {
+             o.PP1.PlaceAt({900, 200}, 6);
+         }},
+        {"carried mark",
+         [](Overlay& o) {
+             o.PP1.PlaceAt({900, 200}, 6);
+             o.PP1.shape = 1;
+             o.PP1.colour = kLightGreen;
+         }},
+        {"label",
+         [](Overlay& o) {
+             o.t1Lab.PlaceAt({1200, 450});
+         }},
+        {"text", [](Overlay& o) { o.t1Lab.text = "M"; }},
+        {"line",
+         [](Overlay& o) {
+             o.ZAeLine.visible = true;
+             o.ZAeLine.Run({500, 300}, {1500, 310});
+         }},
+        {"hidden", [](Overlay& o) { o.AnlageMarkenLoeschen(); }},
+    };
+    for (const auto& [what, change] : changes) {
+        Overlay moved = overlay_;
+        change(moved);
+        const OverlayDrawing before = VisibleItems(overlay_), after = VisibleItems(moved);
+        const QImage was = rendered(before), is = rendered(after);
+        QRegion touched;
+        for (const OverlayDrawing& drawing : {before, after}) {
+            for (const QRectF& rect : TouchedBy(drawing, view)) touched += rect.toAlignedRect();
+        }
+        int changed = 0, missed = 0;
+        for (int y = 0; y < is.height(); ++y) {
+            for (int x = 0; x < is.width(); ++x) {
+                if (was.pixel(x, y) == is.pixel(x, y)) continue;
+                ++changed;
+                missed += !touched.contains(QPoint(x, y));
+            }
+        }
+        EXPECT_GT(changed, 30) << what;
+        EXPECT_EQ(missed, 0) << what << ": of " << changed << " pixels";
+        EXPECT_NE(before, after) << what;
+    }
 }
 
 TEST(ChartView, LinesAreCutAtTheLogicalExtent) {

@@ -57,17 +57,22 @@ TEST(Pointer, ZoomFrameThroughAllItsStates) {
     EXPECT_FALSE(Shown(dumps[7], "ZOOMMIN"));
 }
 
-TEST(Pointer, AFrameIsDroppedOutsideItAndOneWithoutWidthDoesNotZoom) {
+TEST(Pointer, AFrameIsDroppedOutsideItAndOneWithoutWidthOrHeightDoesNotZoom) {
     ScriptSession session;
     const auto dumps = session.Run(
         "pointer press 500 100\npointer move 700 200\npointer release 700 200\n"
         "pointer move 100 100\npointer press 100 100\ndump\n"
         "pointer press 500 100\npointer move 500 200\npointer release 500 200\n"
-        "pointer move 500 150\npointer press 500 150\ndump\n");
+        "pointer move 500 150\npointer press 500 150\ndump\n"
+        "pointer press 500 100\npointer move 700 100\npointer release 700 100\n"
+        "pointer move 600 100\npointer press 600 100\ndump\n");
+    ASSERT_EQ(dumps.size(), 3U);
     for (const auto& dump : dumps) {
         EXPECT_EQ(dump["PanelZustand"], 0);
         EXPECT_FALSE(Shown(dump, "ZoomShape"));
+        EXPECT_FALSE(Shown(dump, "ZOOMMIN"));
         EXPECT_EQ(dump["MassstabX"], 45);
+        EXPECT_EQ(dump["spanT"], dumps[0]["spanT"]);
     }
 }
 
@@ -166,6 +171,18 @@ TEST(Bars, MoveTheirFieldsOnlyInTheirModes) {
     EXPECT_EQ(dumps[4]["VScroll1"]["value"], 100);
     EXPECT_EQ(dumps[4]["LuftSchritt1"], 20);
     EXPECT_EQ(dumps[4]["ZurueckVomDialog"], 5);
+}
+
+TEST(Fields, HiddenOnesTakeNoText) {
+    ScriptSession session;
+    // The air flow is not asked for by a change of state, and shown again by mixing.
+    const auto dumps = session.Run(std::string(kStates) +
+                                   "click ZAButt\nset LuftM1 77\nset Temp1 31\ndump\n"
+                                   "click Command3D4\nclick MischButt\nset LuftM1 78\ndump\n");
+    EXPECT_FALSE(Shown(dumps[0], "LuftM1"));
+    EXPECT_EQ(TextOf(dumps[0], "LuftM1"), "1000");
+    EXPECT_EQ(TextOf(dumps[0], "Temp1"), "31");
+    EXPECT_EQ(TextOf(dumps[1], "LuftM1"), "78");
 }
 
 TEST(Bars, HiddenOnesTakeNoInput) {
