@@ -10,12 +10,13 @@
 
 #include "desktop/form_mirror.h"
 #include "desktop/look.h"
+#include "desktop/look_colours.h"
 #include "painter/shades.h"
 
 namespace zandrell {
 namespace {
 
-constexpr double kLogoOpacity = 0.55;
+constexpr double kLogoOpacity = 0.55, kLogoTextOpacity = 0.75;
 constexpr double kGrabRadiusShare = 1.6;  // of a mark's radius; a hand is not exact
 
 QRectF Centred(QPointF centre, QSizeF size) {
@@ -115,6 +116,7 @@ void ChartWidget::PaintLogo(QPainter& painter) const {
         font.setPixelSize(std::max(8, font.pixelSize() * 5 / 6));
         painter.setFont(font);
         painter.setPen(ink);
+        painter.setOpacity(kLogoTextOpacity);
         const QString text = ShownText(line.text);
         const double width = QFontMetricsF(font).horizontalAdvance(text);
         QPointF place = View().ToDevice({line.left, line.top}) + QPointF(0, font.pixelSize());
@@ -212,7 +214,7 @@ void ChartWidget::paintEvent(QPaintEvent* event) {
 }
 
 void ChartWidget::PaintFrames(QPainter& painter) const {
-    QColor tint = AccentColour();
+    QColor tint = ColourOf(LookColour::Accent);
     if (IsDarkGround(form_.chart.picture.Background())) tint = tint.lighter(220);
     QColor fill = tint;
     fill.setAlphaF(0.12F);
@@ -224,7 +226,8 @@ void ChartWidget::PaintFrames(QPainter& painter) const {
     painter.setPen(QPen(tint, 2));
     if (shown_frames_.outline) painter.drawRoundedRect(*shown_frames_.outline, 8, 8);
     if (shown_frames_.progress) {
-        painter.setBrush(PanelColour());
+        painter.setPen(QPen(ColourOf(LookColour::Accent), 2));
+        painter.setBrush(ColourOf(LookColour::Panel));
         painter.drawRoundedRect(*shown_frames_.progress, 8, 8);
         painter.drawText(*shown_frames_.progress, Qt::AlignCenter,
                          ShownText(form_.chart.controls.ConsPN2.text));

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktop/look.h"
+#include "desktop/look_colours.h"
 
 namespace zandrell {
 namespace {
@@ -87,9 +88,10 @@ void FloatingPanel::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body(Body());
     PaintShadow(painter, body);
-    PaintPanelGround(painter, body, kRadius, panel_, mirror_.PictureStore(), PanelColour());
+    PaintPanelGround(painter, body, kRadius, panel_, mirror_.PictureStore(),
+                     ColourOf(LookColour::Panel));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(BorderColour(), 1));
+    painter.setPen(QPen(ColourOf(LookColour::Border), 1));
     painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
@@ -144,7 +146,7 @@ void InnerPanel::paintEvent(QPaintEvent*) {
     const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     PaintPanelGround(painter, body, 6, panel_, pictures_, Qt::white);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(0xE2, 0xE7, 0xEB), 1));
+    painter.setPen(QPen(ColourOf(LookColour::Hairline), 1));
     painter.drawRoundedRect(body, 6, 6);
 }
 

@@ -50,8 +50,8 @@ QString TipOf(const QWidget* widget, const Control& control) {
     QString tip = Utf8(control.tool_tip);
     const QString key = widget->property("key").toString();
     if (key.isEmpty()) return tip;
-    return tip + (tip.isEmpty() ? QString() : QStringLiteral("  ")) +
-           QLatin1Char('(') + key + QLatin1Char(')');
+    return tip + (tip.isEmpty() ? QString() : QStringLiteral("  ")) + QLatin1Char('(') + key +
+           QLatin1Char(')');
 }
 
 }  // namespace

@@ -23,11 +23,6 @@ int Scaled(const QWidget& widget, int pixels);
 // Headings stay bold in every skin.
 void MakeBold(QWidget* widget);
 
-// The colours that the windows' own painting shares with the style sheet.
-QColor AccentColour();
-QColor BorderColour();
-QColor PanelColour();
-
 // Colour of a text or ground that a form sets by its palette number.
 QColor TextColour(int palette_number);
 QColor GroundColour(int palette_number);

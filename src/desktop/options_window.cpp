@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/look.h"
+#include "desktop/look_colours.h"
 #include "desktop/panel_builder.h"
 #include "painter/chart_drawing.h"
 
@@ -66,7 +67,8 @@ class SampleButton : public QAbstractButton {
         painter.drawImage(QPointF(4, 4), sample_);
         painter.restore();
         const bool strong = option_.on || hasFocus();
-        painter.setPen(QPen(strong ? AccentColour() : BorderColour(), strong ? 2.5 : 1));
+        painter.setPen(QPen(strong ? ColourOf(LookColour::Accent) : ColourOf(LookColour::Border),
+                            strong ? 2.5 : 1));
         painter.drawPath(path);
     }
 

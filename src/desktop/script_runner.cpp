@@ -12,6 +12,7 @@
 #include <sstream>
 
 #include "desktop/look.h"
+#include "desktop/look_colours.h"
 #include "desktop/modal_window.h"
 
 namespace zandrell {
@@ -29,7 +30,7 @@ void PaintDialog(QPixmap& picture, QWidget& dialog, QWidget& window) {
                             (window.height() - size.height() + kTitleHeight) / 2),
                      size);
     const QRect bar(body.left(), body.top() - kTitleHeight, body.width(), kTitleHeight);
-    painter.fillRect(bar.united(body).adjusted(-1, -1, 1, 1), BorderColour());
+    painter.fillRect(bar.united(body).adjusted(-1, -1, 1, 1), ColourOf(LookColour::Border));
     painter.fillRect(bar, Qt::white);
     painter.drawText(bar.adjusted(12, 0, -12, 0), Qt::AlignVCenter, dialog.windowTitle());
     painter.drawPixmap(body.topLeft(), content);

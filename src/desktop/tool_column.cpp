@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 
 #include "desktop/floating_panel.h"
+#include "desktop/look.h"
+#include "desktop/look_colours.h"
 #include "desktop/panel_builder.h"
 
 namespace zandrell {
@@ -24,6 +26,12 @@ void AddShortcut(QPushButton* button, const Button& picture, int key, FormMirror
     QObject::connect(shortcut, &QShortcut::activated, button,
                      [&mirror, name = picture.name] { mirror.Click(name); });
     button->setProperty("key", sequence.toString(QKeySequence::NativeText));
+}
+
+// What the style sheet asks for: which texts the skin wants, empty without a skin.
+QString SkinTexts(const MainForm& form, const FormMirror& mirror) {
+    if (!mirror.skinned) return {};
+    return form.bold_labels ? QStringLiteral("dark texts") : QStringLiteral("light texts");
 }
 
 }  // namespace
@@ -52,7 +60,7 @@ QWidget* ToolColumn::MakeToolButtons() {
     const auto add = [&](const Button& picture, const Button* caption) {
         auto* button = new QPushButton(group);
         button->setProperty("tool", true);
-        button->setProperty("skinned", mirror_.skinned);
+        button->setProperty("skinned", SkinTexts(form_, mirror_));
         button->setIconSize(QSize(1, 1) * Scaled(*button, kToolIcon));
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         mirror_.Bind(button, picture, caption);
@@ -144,7 +152,7 @@ void ToolColumn::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     PaintPanelGround(painter, QRectF(rect()), 0, form_.controls.FunktButtPn, mirror_.PictureStore(),
                      palette().color(QPalette::Window));
-    painter.fillRect(QRect(0, 0, 1, height()), QColor(0xDF, 0xE5, 0xE9));
+    painter.fillRect(QRect(0, 0, 1, height()), ColourOf(LookColour::Hairline));
 }
 
 }  // namespace zandrell
