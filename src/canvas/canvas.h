@@ -4,6 +4,15 @@
 
 namespace zandrell {
 
+// What a text of a drawing is for; it settles how far the text may leave its place.
+enum class TextRole {
+    AxisNumber,  // stands at its line of the grid or not at all
+    AxisTitle,   // moves aside
+    CurveLabel,  // at the end of its curve: moves aside, or is left out where there is no room near
+    StubLabel,  // at the end of a stub: moves along it before it moves across; else as a CurveLabel
+    MarkLabel,  // beside a mark: moves around it and is never left out
+};
+
 // A drawing surface in canvas units: x to the right, y downward. Colours are palette numbers or
 // colour values (see palette.h). Positions may lie outside the surface; positions that are not
 // finite are the caller's fault and draw nothing.
@@ -15,6 +24,8 @@ class Canvas {
     virtual void Clear(int background, int foreground) = 0;
     virtual void SetLineWidth(int width) = 0;
     virtual void SetFontSize(int points) = 0;
+    // Of the texts that follow. Whoever paints them on a real surface may move them accordingly.
+    virtual void SetTextRole(TextRole role) = 0;
     virtual void Line(double x1, double y1, double x2, double y2, int colour) = 0;
     virtual void Dot(double x, double y, int colour) = 0;
     virtual void Circle(double x, double y, double radius, int colour) = 0;

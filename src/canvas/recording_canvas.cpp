@@ -19,6 +19,7 @@ CanvasOperation& RecordingCanvas::Record(Stroke stroke, double x, double y, int 
     operation.colour = colour;
     operation.width = width_;
     operation.font_size = font_size_;
+    operation.role = role_;
     return operation;
 }
 
@@ -58,6 +59,7 @@ void RecordingCanvas::ReplayOn(Canvas& canvas) const {
                 canvas.Circle(operation.x1, operation.y1, operation.x2, operation.colour);
                 break;
             case Stroke::Text:
+                canvas.SetTextRole(operation.role);
                 canvas.Text(operation.x1, operation.y1, operation.text);
                 break;
         }

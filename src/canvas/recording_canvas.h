@@ -17,6 +17,7 @@ struct CanvasOperation {
     int colour = 0;
     int width = 1;
     int font_size = 8;
+    TextRole role = TextRole::CurveLabel;
     std::string text;
 };
 
@@ -27,6 +28,7 @@ class RecordingCanvas : public Canvas {
     void Clear(int background, int foreground) override;
     void SetLineWidth(int width) override { width_ = width; }
     void SetFontSize(int points) override { font_size_ = points; }
+    void SetTextRole(TextRole role) override { role_ = role; }
     void Line(double x1, double y1, double x2, double y2, int colour) override;
     void Dot(double x, double y, int colour) override;
     void Circle(double x, double y, double radius, int colour) override;
@@ -48,6 +50,7 @@ class RecordingCanvas : public Canvas {
     int foreground_ = kBlack;
     int width_ = 1;
     int font_size_ = 8;
+    TextRole role_ = TextRole::CurveLabel;
     int revision_ = 0;
 };
 

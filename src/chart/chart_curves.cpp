@@ -157,6 +157,7 @@ void PaintDensityLine(const ChartPainting& painting, int i) {
 }  // namespace
 
 void PaintHumidityCurves(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::CurveLabel);
     CurvePoint point;
     for (int i = 1; i <= 10; ++i) {
         if (painting.progress != nullptr) {
@@ -168,6 +169,7 @@ void PaintHumidityCurves(const ChartPainting& painting) {
 }
 
 void PaintEnthalpyLines(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::StubLabel);
     const auto& settings = painting.settings;
     const int step = EnthalpyStep(settings);
     const auto range =
@@ -181,6 +183,7 @@ void PaintEnthalpyLines(const ChartPainting& painting) {
 }
 
 void PaintDensityLines(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::CurveLabel);
     for (int i = 0; i < kDensityLines; ++i) PaintDensityLine(painting, i);
 }
 

@@ -153,16 +153,19 @@ void PaintComfortField(const ChartPainting& painting) {
 }
 
 void PaintIsotherms(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::AxisNumber);
     const int step = painting.steps.temperature_step;
     const auto range = WholeDegrees(painting.settings.ChartTMin, painting.settings.ChartTMax, step);
     for (int t = range.first; t <= range.last; t += step) {
         const double y = painting.scale.Ym(t);
         if (y > 0 && y - 5 < 600) PaintIsotherm(painting, t, y);
     }
+    painting.canvas.SetTextRole(TextRole::AxisTitle);
     PaintTemperatureTitle(painting);
 }
 
 void PaintHumidityGrid(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::AxisNumber);
     const int step = painting.steps.humidity_step;
     const double from = painting.settings.ChartXMin, to = painting.settings.ChartXMax;
     for (int k = 0; k < kMostGridLines; ++k) {
@@ -175,6 +178,7 @@ void PaintHumidityGrid(const ChartPainting& painting) {
             PaintCarrierHumidity(painting, x, line_x);
         }
     }
+    painting.canvas.SetTextRole(TextRole::AxisTitle);
     PaintHumidityTitles(painting);
 }
 

@@ -86,11 +86,15 @@ void ChartWidget::RenderPicture() {
     if (picture_.size() != size) picture_ = QImage(size, QImage::Format_RGB32);
     picture_.setDevicePixelRatio(1);
     QPainter painter(&picture_);
-    PaintPicture(painter, form_.chart.picture, View());
+    texts_ = PaintPicture(painter, form_.chart.picture, View());
     PaintLogo(painter);
     painter.end();
     picture_.setDevicePixelRatio(devicePixelRatioF());
     shown_revision_ = form_.chart.picture.Revision();
+}
+
+OverlayDrawing ChartWidget::WantedOverlay() const {
+    return VisibleItems(form_.overlay, View(), *texts_);
 }
 
 void ChartWidget::PaintLogo(QPainter& painter) const {
@@ -131,7 +135,7 @@ void ChartWidget::Sync() {
     if (resized || shown_revision_ != form_.chart.picture.Revision()) {
         view_.reset();
         RenderPicture();
-        shown_overlay_ = VisibleItems(form_.overlay);
+        shown_overlay_ = WantedOverlay();
         shown_frames_ = FramesOfForm();
         update();
     } else {
@@ -142,7 +146,7 @@ void ChartWidget::Sync() {
 }
 
 void ChartWidget::SyncOverlay() {
-    OverlayDrawing wanted = VisibleItems(form_.overlay);
+    OverlayDrawing wanted = WantedOverlay();
     if (wanted == shown_overlay_) return;
     UpdateDevice(TouchedBy(shown_overlay_, View()));
     UpdateDevice(TouchedBy(wanted, View()));
@@ -201,6 +205,7 @@ void ChartWidget::paintEvent(QPaintEvent* event) {
     if (picture_.devicePixelRatio() != devicePixelRatioF()) {
         view_.reset();
         RenderPicture();
+        shown_overlay_ = WantedOverlay();
     }
     QPainter painter(this);
     painter.setClipRegion(event->region());

@@ -53,6 +53,7 @@ class ChartWidget : public QWidget {
     };
 
     const ChartView& View() const;
+    OverlayDrawing WantedOverlay() const;
     void RenderPicture();
     void PaintLogo(QPainter& painter) const;
     void PaintFrames(QPainter& painter) const;
@@ -68,6 +69,7 @@ class ChartWidget : public QWidget {
     Pictures& pictures_;
     QImage picture_;
     mutable std::optional<ChartView> view_;  // in pixels of the screen
+    std::optional<TextLayout> texts_;        // of the kept picture
     int shown_revision_ = -1;
     OverlayDrawing shown_overlay_;
     Frames shown_frames_;

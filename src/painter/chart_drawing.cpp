@@ -22,9 +22,46 @@ QFont LabelFont(const ChartView& view) {
 double LabelBoxHeight(const ChartView& view) { return 1.2 * LabelFont(view).pixelSize(); }
 
 // Beside the ring, not under it.
-QPointF LabelCorner(const OverlayDrawing::Label& label, const ChartView& view) {
-    return view.ToDevice(label.corner) +
-           QPointF(1.4 * MarkRadius(view), -0.25 * view.Font().pixelSize());
+WantedLabel WantedPlace(const OverlayDrawing::Label& label, const ChartView& view) {
+    const QPointF anchor = view.ToDevice(label.corner);
+    const QPointF corner =
+        anchor + QPointF(1.4 * MarkRadius(view), -0.25 * view.Font().pixelSize());
+    const double middle = corner.y() + LabelBoxHeight(view) / 2;
+    return {corner.x(), middle, label.text, TextRole::MarkLabel, anchor.x(), anchor.y()};
+}
+
+void PlaceLabels(OverlayDrawing& drawing, const ChartView& view, const TextLayout& texts) {
+    if (drawing.labels.empty()) return;
+    LabelPlacer placer = PlacerFor(LabelFont(view), view);
+    for (const LaidText& laid : texts.Texts()) placer.KeepClear(laid.box);
+    for (const ClearLine& line : texts.Saturation()) placer.KeepClear(line);
+    const double reach = MarkRadius(view) + view.StrokeUnit();
+    for (const auto& mark : drawing.marks) {
+        const QPointF centre = view.ToDevice(mark.centre);
+        placer.KeepClear(LabelBox{centre.x(), centre.y(), centre.x(), centre.y()}.Grown(reach));
+    }
+    for (const auto& line : drawing.lines) {
+        const QPointF from = view.ToDevice(line.part.from), to = view.ToDevice(line.part.to);
+        placer.Avoid({from.x(), from.y(), to.x(), to.y()});
+    }
+    std::vector<WantedLabel> wanted;
+    for (const auto& label : drawing.labels) wanted.push_back(WantedPlace(label, view));
+    const auto placed = placer.Place(wanted);
+    for (std::size_t i = 0; i < placed.size(); ++i) drawing.labels[i].placed = placed[i];
+}
+
+void PaintLabel(QPainter& painter, const OverlayDrawing::Label& label, const ChartView& view,
+                int ground) {
+    const QColor rim = ShadeFor(ground, StrokeRole::Ground, ground).colour;
+    const QColor colour = ShadeFor(label.colour, StrokeRole::Process, ground).colour;
+    if (const auto leader = LeaderTo(label.placed, WantedPlace(label, view))) {
+        painter.setPen(QPen(colour, 0.8 * view.StrokeUnit()));
+        painter.drawLine(*leader);
+    }
+    const LabelBox& box = label.placed.box;
+    PaintHaloedText(painter, {box.left, box.top}, box.bottom - box.top,
+                    QString::fromStdString(label.text), LabelFont(view), colour, rim,
+                    1.6 * view.StrokeUnit());
 }
 
 void PaintLines(QPainter& painter, const OverlayDrawing& drawing, const ChartView& view,
@@ -84,13 +121,14 @@ bool OverlayDrawing::Label::operator==(const Label& other) const {
     return SamePlace(corner, other.corner) && text == other.text && colour == other.colour;
 }
 
-void PaintPicture(QPainter& painter, const RecordingCanvas& picture, const ChartView& view) {
+TextLayout PaintPicture(QPainter& painter, const RecordingCanvas& picture, const ChartView& view) {
     QtCanvas canvas(painter, view);
     picture.ReplayOn(canvas);
-    canvas.Finish();
+    return canvas.Finish();
 }
 
-OverlayDrawing VisibleItems(const Overlay& overlay) {
+OverlayDrawing VisibleItems(const Overlay& overlay, const ChartView& view,
+                            const TextLayout& texts) {
     OverlayDrawing drawing;
     for (const ChartLine* line : overlay.Lines()) {
         const auto part = ClippedToCanvas({{line->x1, line->y1}, {line->x2, line->y2}});
@@ -104,9 +142,10 @@ OverlayDrawing VisibleItems(const Overlay& overlay) {
     for (const ChartLabel* label : overlay.Labels()) {
         const CanvasPoint corner{label->left, label->top};
         if (label->visible && !label->text.empty() && IsOnCanvas(corner, 0)) {
-            drawing.labels.push_back({corner, label->text, label->colour});
+            drawing.labels.push_back({corner, label->text, label->colour, {}});
         }
     }
+    PlaceLabels(drawing, view, texts);
     return drawing;
 }
 
@@ -122,13 +161,7 @@ void PaintOverlay(QPainter& painter, const OverlayDrawing& drawing, const ChartV
     for (const auto& mark : drawing.marks) {
         if (mark.carried) PaintMark(painter, mark, view, ground);
     }
-    const QColor rim = ShadeFor(ground, StrokeRole::Ground, ground).colour;
-    for (const auto& label : drawing.labels) {
-        PaintHaloedText(painter, LabelCorner(label, view), LabelBoxHeight(view),
-                        QString::fromStdString(label.text), LabelFont(view),
-                        ShadeFor(label.colour, StrokeRole::Process, ground).colour, rim,
-                        1.6 * view.StrokeUnit());
-    }
+    for (const auto& label : drawing.labels) PaintLabel(painter, label, view, ground);
 }
 
 std::vector<QRectF> TouchedBy(const OverlayDrawing& drawing, const ChartView& view) {
@@ -144,11 +177,13 @@ std::vector<QRectF> TouchedBy(const OverlayDrawing& drawing, const ChartView& vi
         touched.push_back(
             {centre - QPointF(mark_reach, mark_reach), QSizeF(2 * mark_reach, 2 * mark_reach)});
     }
-    const QFontMetricsF metrics(LabelFont(view));
     for (const auto& label : drawing.labels) {
-        const double width = metrics.horizontalAdvance(QString::fromStdString(label.text));
-        const QRectF box(LabelCorner(label, view), QSizeF(width, LabelBoxHeight(view)));
-        touched.push_back(box.adjusted(-reach, -reach, reach, reach));
+        const LabelBox box = label.placed.box.Grown(reach);
+        touched.emplace_back(QPointF(box.left, box.top), QPointF(box.right, box.bottom));
+        if (const auto leader = LeaderTo(label.placed, WantedPlace(label, view))) {
+            const QRectF line = QRectF(leader->p1(), leader->p2()).normalized();
+            touched.push_back(line.adjusted(-reach, -reach, reach, reach));
+        }
     }
     return touched;
 }

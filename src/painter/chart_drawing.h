@@ -9,11 +9,12 @@
 #include "canvas/recording_canvas.h"
 #include "chart/overlay.h"
 #include "painter/chart_view.h"
+#include "painter/text_layout.h"
 
 namespace zandrell {
 
-// Paints the chart's grid and curves.
-void PaintPicture(QPainter& painter, const RecordingCanvas& picture, const ChartView& view);
+// Paints the chart's grid and curves; tells where its texts came to stand.
+TextLayout PaintPicture(QPainter& painter, const RecordingCanvas& picture, const ChartView& view);
 
 // The visible items of an overlay as they stand, to be painted or compared with a later state.
 struct OverlayDrawing {
@@ -32,6 +33,7 @@ struct OverlayDrawing {
         CanvasPoint corner;
         std::string text;
         int colour = 0;
+        PlacedLabel placed;  // follows from all else
         bool operator==(const Label& other) const;
     };
     std::vector<Line> lines;
@@ -41,8 +43,9 @@ struct OverlayDrawing {
     bool operator==(const OverlayDrawing&) const = default;
 };
 
-// What of the overlay lies on the canvas.
-OverlayDrawing VisibleItems(const Overlay& overlay);
+// What of the overlay lies on the canvas. Its labels keep clear of each other, of the marks and of
+// `texts`, those of the picture; the marks stay where they are.
+OverlayDrawing VisibleItems(const Overlay& overlay, const ChartView& view, const TextLayout& texts);
 
 // Paints process lines, marks and labels over a picture with the ground colour `ground` (palette
 // number or colour value).

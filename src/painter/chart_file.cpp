@@ -21,8 +21,8 @@ constexpr double kPointsPerInch = 72;
 void PaintChart(QPainter& painter, const RecordingCanvas& picture, const Overlay& overlay,
                 int width, int height) {
     const ChartView view(picture, QRectF(0, 0, width, height), 1);
-    PaintPicture(painter, picture, view);
-    PaintOverlay(painter, VisibleItems(overlay), view, picture.Background());
+    const TextLayout texts = PaintPicture(painter, picture, view);
+    PaintOverlay(painter, VisibleItems(overlay, view, texts), view, picture.Background());
 }
 
 QByteArray ChartPng(const RecordingCanvas& picture, const Overlay& overlay, int width, int height) {

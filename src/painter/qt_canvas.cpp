@@ -11,8 +11,6 @@
 namespace zandrell {
 namespace {
 
-constexpr double kTextBoxUnits = 10;     // canvas units; the places of texts count on this height
-constexpr double kTextTolerance = 8;     // canvas units
 constexpr double kDotShare = 0.28;       // of the area of the comfort field that its dots cover
 constexpr qsizetype kPointsOfCurve = 4;  // fewer are a line with bends
 constexpr double kRowUnits = 0.7;        // canvas units between two rows of these dots
@@ -58,7 +56,8 @@ void PaintHaloedText(QPainter& painter, QPointF corner, double box_height, const
     painter.drawText(baseline, text);
 }
 
-QtCanvas::QtCanvas(QPainter& painter, const ChartView& view) : painter_(painter), view_(view) {
+QtCanvas::QtCanvas(QPainter& painter, const ChartView& view)
+    : painter_(painter), view_(view), texts_(view) {
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setRenderHint(QPainter::TextAntialiasing);
 }
@@ -70,6 +69,7 @@ void QtCanvas::Clear(int background, int foreground) {
 }
 
 void QtCanvas::Line(double x1, double y1, double x2, double y2, int colour) {
+    texts_.Line({{x1, y1}, {x2, y2}}, colour);
     const auto part = ClippedToCanvas({{x1, y1}, {x2, y2}});
     if (!part) return;
     FlushDots();
@@ -190,27 +190,29 @@ void QtCanvas::Circle(double x, double y, double radius, int colour) {
 }
 
 void QtCanvas::Text(double x, double y, std::string_view text) {
-    if (!IsOnCanvas({x, y}, kTextTolerance)) return;
-    // The leading blank of a number would push it off the line that it names.
-    texts_.push_back(
-        {view_.ToDevice({x, y}),
-         QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).trimmed()});
+    texts_.Text({x, y}, text, text_role_);
 }
 
-double QtCanvas::BoxHeight() const {
-    return kTextBoxUnits * view_.Extent().height() / (kCanvasBottom - kCanvasTop);
-}
-
-void QtCanvas::Finish() {
-    FlushLines();
-    FlushDots();
+void QtCanvas::DrawTexts() {
+    texts_.Finish();
     const QColor ground = ShadeFor(ground_, StrokeRole::Ground, ground_).colour;
     const QColor colour = ShadeFor(foreground_, StrokeRole::Text, ground_).colour;
-    for (const KeptText& kept : texts_) {
-        PaintHaloedText(painter_, kept.corner, BoxHeight(), kept.text, view_.Font(), colour, ground,
-                        1.4 * view_.StrokeUnit());
+    const Shade leader = ShadeFor(kGrey, StrokeRole::Curve, ground_);
+    painter_.setPen(QPen(leader.colour, leader.width * view_.StrokeUnit()));
+    for (const LaidText& laid : texts_.Texts()) {
+        if (laid.leader) painter_.drawLine(*laid.leader);
     }
-    texts_.clear();
+    for (const LaidText& laid : texts_.Texts()) {
+        PaintHaloedText(painter_, {laid.box.left, laid.box.top}, laid.box.bottom - laid.box.top,
+                        laid.text, view_.Font(), colour, ground, 1.4 * view_.StrokeUnit());
+    }
+}
+
+TextLayout QtCanvas::Finish() {
+    FlushLines();
+    FlushDots();
+    DrawTexts();
+    return std::move(texts_);
 }
 
 }  // namespace zandrell

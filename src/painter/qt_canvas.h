@@ -10,6 +10,7 @@
 #include "canvas/canvas.h"
 #include "painter/chart_view.h"
 #include "painter/shades.h"
+#include "painter/text_layout.h"
 
 namespace zandrell {
 
@@ -30,19 +31,17 @@ class QtCanvas : public Canvas {
     void SetLineWidth(int width) override { width_ = width; }
     // The size of texts follows the surface.
     void SetFontSize(int) override {}
+    void SetTextRole(TextRole role) override { text_role_ = role; }
     void Line(double x1, double y1, double x2, double y2, int colour) override;
     void Dot(double x, double y, int colour) override;
     void Circle(double x, double y, double radius, int colour) override;
     void Text(double x, double y, std::string_view text) override;
 
-    // Draws what is still kept. Requires: called once after the last stroke.
-    void Finish();
+    // Draws what is still kept and tells where the texts came to stand. Requires: called once after
+    // the last stroke.
+    TextLayout Finish();
 
   private:
-    struct KeptText {
-        QPointF corner;
-        QString text;
-    };
     struct LineLook {
         int colour = -1;
         int width = 0;
@@ -55,7 +54,7 @@ class QtCanvas : public Canvas {
     void DrawCurve() const;
     void DrawGridLine(QPointF from, QPointF to) const;
     double Thickness(const Shade& shade) const;
-    double BoxHeight() const;
+    void DrawTexts();
 
     QPainter& painter_;
     const ChartView& view_;
@@ -65,7 +64,8 @@ class QtCanvas : public Canvas {
     QPolygonF polyline_;
     int dot_colour_ = kGrey;
     std::vector<QPointF> dots_;
-    std::vector<KeptText> texts_;
+    TextRole text_role_ = TextRole::CurveLabel;
+    TextLayout texts_;
 };
 
 }  // namespace zandrell

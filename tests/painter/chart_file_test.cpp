@@ -104,6 +104,7 @@ TEST_F(ChartFileTest, TextAtTheEdgeEndsInsideTheSurface) {
 TEST_F(ChartFileTest, NothingChangesOutsideWhatTheOverlayTouches) {
     const QRectF surface(0, 0, 1200, 675);
     const ChartView view(picture_, surface, 1);
+    const TextLayout texts(picture_, view);
     const auto rendered = [&](const OverlayDrawing& drawing) {
         QImage image(surface.size().toSize(), QImage::Format_RGB32);
         QPainter painter(&image);
@@ -141,7 +142,8 @@ TEST_F(ChartFileTest, NothingChangesOutsideWhatTheOverlayTouches) {
     for (const auto& [what, change] : changes) {
         Overlay moved = overlay_;
         change(moved);
-        const OverlayDrawing before = VisibleItems(overlay_), after = VisibleItems(moved);
+        const OverlayDrawing before = VisibleItems(overlay_, view, texts);
+        const OverlayDrawing after = VisibleItems(moved, view, texts);
         const QImage was = rendered(before), is = rendered(after);
         QRegion touched;
         for (const OverlayDrawing& drawing : {before, after}) {
