@@ -18,8 +18,6 @@ constexpr double kPrinterLastLabel = 2000;
 // Temperatures in degC at which the search of each density line starts. The last stays without a
 // line.
 constexpr std::array<double, 10> kDensityStarts = {-15, -7, 4, 14, 22, 29, 39, 56, 71, 81};
-constexpr int kDensityLines = 9;
-constexpr double kFirstDensity = 1.35, kDensityStep = 0.05;  // kg/m3
 
 bool CurvePointAt(const ChartPainting& painting, double humidity, int t, CurvePoint& point) {
     if (painting.cache_is_good) return painting.cache.Read(point);
@@ -70,12 +68,12 @@ void PaintHumidityCurve(const ChartPainting& painting, int i, CurvePoint& point)
 }
 
 // Cuts the line from a to b at the upper edge of the chart when a lies above it.
-CanvasPoint ClippedAtTop(CanvasPoint a, CanvasPoint b) {
-    if (a.y >= 0) return a;
+CanvasPoint ClippedAtTop(CanvasPoint a, CanvasPoint b, double top) {
+    if (a.y >= top) return a;
     const double slope = (b.y - a.y) / (b.x - a.x);
     const double intercept = a.y - slope * a.x;
-    const double x = -intercept / slope;
-    return std::isfinite(x) ? CanvasPoint{x, 0} : a;
+    const double x = (top - intercept) / slope;
+    return std::isfinite(x) ? CanvasPoint{x, top} : a;
 }
 
 int EnthalpyStep(const ChartSettings& settings) {
@@ -102,7 +100,7 @@ std::optional<EnthalpyLine> FindEnthalpyLine(const ChartPainting& painting, int 
     const auto& scale = painting.scale;
     EnthalpyLine line{{scale.Xm(0), scale.Ym(dry.value)},
                       {scale.Xm(painting.solver.ZustandX), scale.Ym(saturated.value)}};
-    line.dry = ClippedAtTop(line.dry, line.saturated);
+    line.dry = ClippedAtTop(line.dry, line.saturated, painting.top_edge);
     return line;
 }
 
@@ -119,7 +117,7 @@ bool EnthalpyLineFits(const ChartPainting& painting, const EnthalpyLine& line, C
 void PaintEnthalpyLine(const ChartPainting& painting, int h, const EnthalpyLine& line) {
     // The stub leads into the fog region, where the label has room.
     const CanvasPoint stub{line.saturated.x + 0.1 * painting.width, line.saturated.y};
-    if (!EnthalpyLineFits(painting, line, stub)) return;
+    if (line.saturated.x < painting.left_edge || !EnthalpyLineFits(painting, line, stub)) return;
     painting.Line(line.dry, line.saturated, kGrey);
     painting.Line(line.saturated, stub, kGrey);
     const CanvasPoint end = painting.scale.Turned(stub);
@@ -141,7 +139,8 @@ void PaintDensityLine(const ChartPainting& painting, int i) {
     const double saturated_t =
         TempAusDichte(painting.solver, start - 2, density, DensitySearch::Saturation).value;
     const CanvasPoint saturated{scale.Xm(painting.solver.ZustandX), scale.Ym(saturated_t)};
-    const CanvasPoint dry = ClippedAtTop({scale.Xm(0), scale.Ym(dry_t)}, saturated);
+    const CanvasPoint dry =
+        ClippedAtTop({scale.Xm(0), scale.Ym(dry_t)}, saturated, painting.top_edge);
     const bool fits = saturated.y >= 0 && saturated.y <= 270;
     if (painting.on_printer && !fits) return;
     painting.Line(dry, saturated, kGrey);

@@ -1,10 +1,12 @@
 #include "chart/chart_engine.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/number_text.h"
 #include "canvas/palette.h"
 #include "chart/chart_painting.h"
+#include "chart/exact_painting.h"
 
 namespace zandrell {
 namespace {
@@ -12,6 +14,35 @@ namespace {
 constexpr std::string_view kSettingsFile = "qv_par.dat";
 constexpr int kProjectWithPressure = 111;
 constexpr double kToolColumnTwips = 2600;  // as designed
+
+void PaintSuiteChart(ChartPainting& painting) {
+    const bool has_curves = painting.solver.HasCoefficients();
+    if (has_curves) painting.cache_is_good = painting.cache.Begin(painting.settings);
+    PaintComfortField(painting);
+    PaintIsotherms(painting);
+    PaintHumidityGrid(painting);
+    if (!has_curves) return;
+    PaintHumidityCurves(painting);
+    PaintEnthalpyLines(painting);
+    PaintDensityLines(painting);
+    painting.cache.End();
+}
+
+// The points of the cache lie too far apart for a zoom, so they are left to the suite.
+void PaintExactChart(ChartPainting& painting) {
+    painting.left_edge = painting.scale.Xm(painting.settings.ChartXMin);
+    if (painting.scale.zoomed) {
+        painting.level_end = painting.width;
+        painting.top_edge = std::min(0.0, painting.scale.Unturned({painting.width, 0}).y);
+    }
+    PaintComfortField(painting);
+    PaintExactIsotherms(painting);
+    PaintExactHumidityGrid(painting);
+    if (!painting.solver.HasCoefficients()) return;
+    PaintExactHumidityCurves(painting);
+    PaintEnthalpyLines(painting);
+    PaintExactDensityLines(painting);
+}
 
 }  // namespace
 
@@ -46,8 +77,10 @@ void ChartEngine::DiagrammZeichnen(ChartTask modus, double a, double b, double& 
     const bool reading = modus == ChartTask::ReadOutWhole || modus == ChartTask::ReadOutAsScaled;
     ReadSettings(druck);
     if (modus != ChartTask::ReadOutWhole) ApplyColours();
-    if (modus == ChartTask::PaintWhole || modus == ChartTask::ReadOutWhole)
+    if (modus == ChartTask::PaintWhole || modus == ChartTask::ReadOutWhole) {
+        if (settings.convention == Convention::Exact) TakeAspect(followed_width_);
         ApplyBaseScale(settings, scale);
+    }
     if (modus == ChartTask::PaintZoomed) {
         const auto& frame = controls.ZoomShape;
         ApplyZoom({frame.left, frame.top, frame.width, frame.height}, a, b, scale);
@@ -78,6 +111,15 @@ void ChartEngine::TakeAspect(int width_twips) {
                  (ToolColumnShare(width_twips) * BreiteLogisch + 10) / HoeheLogisch);
 }
 
+bool ChartEngine::FollowWidth(int width_twips) {
+    followed_width_ = width_twips;
+    if (settings.convention != Convention::Exact || settings.DiagrammArt == kMollier) return false;
+    if (scale.zoomed || picture.Revision() == 0) return false;
+    const double before = scale.CarrierFaktor;
+    TakeAspect(width_twips);
+    return scale.CarrierFaktor != before;
+}
+
 void ChartEngine::ReadSettings(double& druck) {
     const auto stamp = files_.Stamp(kSettingsFile);
     if (stamp != settings_stamp_) {
@@ -86,6 +128,7 @@ void ChartEngine::ReadSettings(double& druck) {
     }
     settings = file_settings_;
     if (kind_override) settings.DiagrammArt = *kind_override;
+    if (convention_override) settings.convention = *convention_override;
     // A stored project brings its own pressure; the options' pressure is passed over while it is
     // open.
     if (shared_.ProjektArt == kProjectWithPressure)
@@ -126,16 +169,7 @@ void ChartEngine::Paint(Canvas& canvas, bool on_printer) {
         painting.progress = &controls.ConsPN2;
         painting.progress_word = captions_[Caption::RelativeHumidity];
     }
-    if (solver_.HasCoefficients()) painting.cache_is_good = cache_.Begin(settings);
-    PaintComfortField(painting);
-    PaintIsotherms(painting);
-    PaintHumidityGrid(painting);
-    if (solver_.HasCoefficients()) {
-        PaintHumidityCurves(painting);
-        PaintEnthalpyLines(painting);
-        PaintDensityLines(painting);
-        cache_.End();
-    }
+    (settings.convention == Convention::Exact ? PaintExactChart : PaintSuiteChart)(painting);
     controls.ConsPN1.visible = false;
 }
 

@@ -55,7 +55,8 @@ class ChartEngine {
     int BreiteLogisch = 2000, HoeheLogisch = 580;
     bool printing = false;  // a print-out runs: only painting on the printer does anything
     std::optional<int> kind_override;  // a chart kind that is not to be kept in the settings
-    Canvas* printer = nullptr;         // the target of ChartTask::PaintPrinter
+    std::optional<Convention> convention_override;  // the same for the convention
+    Canvas* printer = nullptr;                      // the target of ChartTask::PaintPrinter
 
     // a and b are the zoom factors for ChartTask::PaintZoomed (the frame is ZoomShape), the
     // pointer's place for the read-outs. `druck` (bar) receives the pressure in force.
@@ -63,6 +64,9 @@ class ChartEngine {
 
     // The window's width and height in twips give the aspect of the Carrier chart.
     void TakeAspect(int width_twips);
+    // Under Exact the aspect follows the window: true when the whole chart is to be painted anew. A
+    // zoomed picture keeps its aspect until the whole chart comes back.
+    bool FollowWidth(int width_twips);
 
   private:
     void ReadSettings(double& druck);
@@ -79,6 +83,7 @@ class ChartEngine {
     CurveCache cache_;
     ChartSettings file_settings_;
     std::optional<FileStamp> settings_stamp_;
+    int followed_width_ = 0;  // twips, of the window; 0 while none is known
 };
 
 }  // namespace zandrell

@@ -43,7 +43,7 @@ void PaintComfortRow(const ChartPainting& painting, double t, double humidity_st
     // Only what lies on the canvas: deep in a zoom the raster has millions of dots elsewhere.
     const ChartState low = painting.scale.StateAt({-10, painting.height});
     const ChartState high = painting.scale.StateAt({painting.width, 0});
-    const double shift = 2.0 * painting.scale.VersatzX / painting.scale.MassstabX;
+    const double shift = painting.scale.ReadOutShift();
     const double x_from = std::min(low.x, high.x) - shift;
     const double x_to = std::min(std::max(low.x, high.x) - shift, kComfortXMax);
     const Steps columns = StepsWithin(kComfortHumidityMin, kComfortHumidityMax, humidity_step,
@@ -57,8 +57,8 @@ void PaintComfortRow(const ChartPainting& painting, double t, double humidity_st
     }
 }
 
-void PaintVapourPressureTick(const ChartPainting& painting, double x, double line_x,
-                             double bottom) {
+void PaintVapourPressureTick(const ChartPainting& painting, double x, double line_x) {
+    const double bottom = 0.968 * painting.height;
     // A fixed mapping of 2 hPa per 1 g/kg with an offset of its own: no vapour pressure is
     // computed.
     const double place = 2 * (line_x + 1.675 * x) * 12 / 19 - 23;
@@ -67,43 +67,36 @@ void PaintVapourPressureTick(const ChartPainting& painting, double x, double lin
     painting.canvas.Text(place - (printed ? 22 : 12), printed ? 545 : 548, NumberText(2 * x));
 }
 
-void PaintMollierHumidity(const ChartPainting& painting, double x, double line_x) {
-    const bool printed = painting.on_printer;
-    if (printed && !(line_x >= 0 && line_x <= 0.93 * painting.width)) return;
+void PaintMollierLine(const ChartPainting& painting, double x, double line_x) {
     const double bottom = 0.968 * painting.height;
     painting.canvas.Line(line_x, bottom + 2, line_x, 0, kGrey);
-    painting.canvas.Text(line_x - (printed ? 22 : 12), 565, NumberText(x));
-    if (x > 0) PaintVapourPressureTick(painting, x, line_x, bottom);
+    painting.canvas.Text(line_x - (painting.on_printer ? 22 : 12), 565, NumberText(x));
 }
 
-void PaintCarrierHumidity(const ChartPainting& painting, double x, double line_x) {
-    if (painting.on_printer && !(line_x >= 0 && line_x <= kPrinterLastLine)) return;
+void PaintCarrierLine(const ChartPainting& painting, double x, double line_x) {
     const double y = 560 - line_x / painting.scale.CarrierFaktor;
-    painting.canvas.Line(45, y, 1800, y, kGrey);
+    painting.canvas.Line(45, y, painting.level_end, y, kGrey);
     painting.canvas.Text(5, y - 5, NumberText(x));
 }
 
-void PaintHumidityTitles(const ChartPainting& painting) {
-    if (!painting.Mollier()) {
-        painting.canvas.Text(5, 2, "g/kg");
-        return;
-    }
-    const double place = (painting.on_printer ? 0.935 : 0.87) * painting.width;
-    painting.canvas.Text(place, painting.on_printer ? 575 : 572, "X/[g/kg]");
-    painting.canvas.Text(place, painting.on_printer ? 534 : 538, "pD/[hPa]");
+bool HumidityLineFits(const ChartPainting& painting, double line_x) {
+    if (!painting.on_printer) return true;
+    return line_x >= 0 && line_x <= (painting.Mollier() ? 0.93 * painting.width : kPrinterLastLine);
 }
 
-void PaintTemperatureTitle(const ChartPainting& painting) {
-    const std::string title = "t/[" + std::string(UnitDegC) + "]";
-    if (painting.Mollier()) {
-        painting.canvas.Text(0, painting.on_printer ? -15 : 4, title);
-    } else {
-        painting.canvas.Text(0.93 * painting.width, 565,
-                             painting.on_printer ? " " + title + " " : title);
+}  // namespace
+
+void ChartPainting::Line(CanvasPoint from, CanvasPoint to, int colour) const {
+    if (from.x < left_edge || to.x < left_edge) {
+        if (from.x <= left_edge && to.x <= left_edge) return;
+        const double share = (left_edge - from.x) / (to.x - from.x);
+        (from.x < left_edge ? from : to) = {left_edge, from.y + share * (to.y - from.y)};
     }
+    const CanvasPoint a = scale.Turned(from), b = scale.Turned(to);
+    canvas.Line(a.x, a.y, b.x, b.y, colour);
 }
 
-void PaintIsotherm(const ChartPainting& painting, int t, double y) {
+void PaintIsotherm(const ChartPainting& painting, double t, double y) {
     if (painting.Mollier()) {
         painting.canvas.Line(30, y, painting.width, y, kGrey);
         painting.canvas.Text(painting.on_printer ? -25 : -5, y - 5, NumberText(t));
@@ -115,11 +108,30 @@ void PaintIsotherm(const ChartPainting& painting, int t, double y) {
     painting.canvas.Text(x, 560, NumberText(t));
 }
 
-}  // namespace
+void PaintHumidityLine(const ChartPainting& painting, double x, double line_x) {
+    (painting.Mollier() ? PaintMollierLine : PaintCarrierLine)(painting, x, line_x);
+}
 
-void ChartPainting::Line(CanvasPoint from, CanvasPoint to, int colour) const {
-    const CanvasPoint a = scale.Turned(from), b = scale.Turned(to);
-    canvas.Line(a.x, a.y, b.x, b.y, colour);
+void PaintTemperatureTitle(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::AxisTitle);
+    const std::string title = "t/[" + std::string(UnitDegC) + "]";
+    if (painting.Mollier()) {
+        painting.canvas.Text(0, painting.on_printer ? -15 : 4, title);
+    } else {
+        painting.canvas.Text(0.93 * painting.width, 565,
+                             painting.on_printer ? " " + title + " " : title);
+    }
+}
+
+void PaintHumidityTitles(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::AxisTitle);
+    if (!painting.Mollier()) {
+        painting.canvas.Text(5, 2, "g/kg");
+        return;
+    }
+    const double place = (painting.on_printer ? 0.935 : 0.87) * painting.width;
+    painting.canvas.Text(place, painting.on_printer ? 575 : 572, "X/[g/kg]");
+    painting.canvas.Text(place, painting.on_printer ? 534 : 538, "pD/[hPa]");
 }
 
 WholeRange WholeDegrees(double first, double last, int step) {
@@ -160,7 +172,6 @@ void PaintIsotherms(const ChartPainting& painting) {
         const double y = painting.scale.Ym(t);
         if (y > 0 && y - 5 < 600) PaintIsotherm(painting, t, y);
     }
-    painting.canvas.SetTextRole(TextRole::AxisTitle);
     PaintTemperatureTitle(painting);
 }
 
@@ -172,13 +183,10 @@ void PaintHumidityGrid(const ChartPainting& painting) {
         const double x = from + static_cast<double>(k) * step;
         if (!(x <= to)) break;
         const double line_x = std::floor(painting.scale.Xm(x));
-        if (painting.Mollier()) {
-            PaintMollierHumidity(painting, x, line_x);
-        } else {
-            PaintCarrierHumidity(painting, x, line_x);
-        }
+        if (!HumidityLineFits(painting, line_x)) continue;
+        PaintHumidityLine(painting, x, line_x);
+        if (painting.Mollier() && x > 0) PaintVapourPressureTick(painting, x, line_x);
     }
-    painting.canvas.SetTextRole(TextRole::AxisTitle);
     PaintHumidityTitles(painting);
 }
 

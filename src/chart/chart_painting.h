@@ -24,7 +24,14 @@ struct ChartPainting {
     bool cache_is_good = false;
     Label* progress = nullptr;  // shows which humidity curve is being painted
     std::string_view progress_word = {};
+    // Where the axis of t stands, in units of the Mollier chart: lines end there.
+    double left_edge = kNoEdge;
 
+    // Where enthalpy and density lines are cut, in units of the Mollier chart's y.
+    double top_edge = 0;
+    double level_end = 1800;  // canvas units, right end of the Carrier chart's lines of x
+
+    static constexpr double kNoEdge = -1e300;
     bool Mollier() const { return scale.DiagrammArt == kMollier; }
     // Both ends are points of the Mollier chart, turned for the chart in force.
     void Line(CanvasPoint from, CanvasPoint to, int colour) const;
@@ -41,6 +48,16 @@ WholeRange WholeDegrees(double first, double last, int step);
 void PaintComfortField(const ChartPainting& painting);
 void PaintIsotherms(const ChartPainting& painting);
 void PaintHumidityGrid(const ChartPainting& painting);
+
+// One line of a grid with its number; the titles of the axes.
+void PaintIsotherm(const ChartPainting& painting, double t, double y);
+void PaintHumidityLine(const ChartPainting& painting, double x, double line_x);
+void PaintTemperatureTitle(const ChartPainting& painting);
+void PaintHumidityTitles(const ChartPainting& painting);
+
+// The densities that have a line: kFirstDensity - i * kDensityStep, in kg/m3.
+inline constexpr double kFirstDensity = 1.35, kDensityStep = 0.05;
+inline constexpr int kDensityLines = 9;
 
 // The curves (chart_curves.cpp).
 void PaintHumidityCurves(const ChartPainting& painting);

@@ -23,18 +23,33 @@ CanvasPoint ChartScale::Turned(CanvasPoint mollier) const {
     return {kCarrierRight - mollier.y * CarrierFaktor, kCarrierBottom - mollier.x / CarrierFaktor};
 }
 
-ChartState ChartScale::StateAt(CanvasPoint point) const {
-    CanvasPoint mollier = point;
-    if (DiagrammArt != kMollier) {
-        mollier = {(kCarrierBottom - point.y) * CarrierFaktor,
-                   (kCarrierRight - point.x) / CarrierFaktor};
-    }
+CanvasPoint ChartScale::Unturned(CanvasPoint point) const {
+    if (DiagrammArt == kMollier) return point;
+    return {(kCarrierBottom - point.y) * CarrierFaktor, (kCarrierRight - point.x) / CarrierFaktor};
+}
+
+ChartState ChartScale::SuiteState(CanvasPoint mollier) const {
     return {(NullpunktY + VersatzT - mollier.y) / MassstabT,
             (mollier.x - NullpunktX + VersatzX) / MassstabX};
 }
 
 void ApplyBaseScale(const ChartSettings& settings, ChartScale& scale) {
     scale.DiagrammArt = settings.DiagrammArt;
+    scale.convention = settings.convention;
+    scale.zoomed = false;
+    (settings.convention == Convention::Exact ? ExactScale : SuiteScale)(settings, scale);
+}
+
+void ApplyZoom(const ZoomFrame& frame, double factor_x, double factor_y, ChartScale& scale) {
+    scale.zoomed = true;
+    if (scale.convention == Convention::Exact) {
+        ExactZoom(frame, scale);
+    } else {
+        SuiteZoom(frame, factor_x, factor_y, scale);
+    }
+}
+
+void SuiteScale(const ChartSettings& settings, ChartScale& scale) {
     const bool mollier = settings.DiagrammArt == kMollier;
     const double spanT = (mollier ? 1.07 : 1.2) * (settings.ChartTMax - settings.ChartTMin);
     const double spanX = settings.ChartXMax - settings.ChartXMin;
@@ -52,7 +67,7 @@ void ApplyBaseScale(const ChartSettings& settings, ChartScale& scale) {
     }
 }
 
-void ApplyZoom(const ZoomFrame& frame, double factor_x, double factor_y, ChartScale& scale) {
+void SuiteZoom(const ZoomFrame& frame, double factor_x, double factor_y, ChartScale& scale) {
     if (!(factor_x > 0) || !(factor_y > 0)) return;
     AssignFinite(scale.MassstabX, scale.MassstabX / factor_x);
     AssignFinite(scale.MassstabT, scale.MassstabT / factor_y);

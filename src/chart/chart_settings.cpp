@@ -6,6 +6,7 @@ namespace zandrell {
 namespace {
 
 constexpr std::string_view kSettingsFile = "qv_par.dat";
+constexpr int kExactItem = 1;
 
 }  // namespace
 
@@ -13,11 +14,16 @@ FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings) {
     const FileText file = files.OpenForInput(kSettingsFile);
     if (file.status != FileStatus::Ok) return file.status;
     DelimitedReader reader(file.text);
+    settings.convention = Convention::Suite;
     const bool whole =
         reader.ReadNumber(settings.pressure_bar) && reader.ReadNumber(settings.ChartTMin) &&
         reader.ReadNumber(settings.ChartTMax) && reader.ReadNumber(settings.ChartXMin) &&
         reader.ReadNumber(settings.ChartXMax) && reader.ReadNumber(settings.site_height_m) &&
         reader.ReadInteger(settings.DiagrammArt) && reader.ReadInteger(settings.Helligkeit);
+    int convention = 0;
+    if (whole && reader.ReadInteger(convention) && convention == kExactItem) {
+        settings.convention = Convention::Exact;
+    }
     return whole ? FileStatus::Ok : FileStatus::Malformed;
 }
 
@@ -32,6 +38,7 @@ FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& setti
     writer.Number(settings.site_height_m).EndLine();
     writer.Number(settings.DiagrammArt).EndLine();
     writer.Number(settings.Helligkeit).EndLine();
+    if (settings.convention == Convention::Exact) writer.Number(kExactItem).EndLine();
     return files.OpenForOutput(kSettingsFile, writer.Result(), Durability::Flushed, reason);
 }
 

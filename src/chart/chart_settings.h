@@ -7,6 +7,10 @@ namespace zandrell {
 inline constexpr int kMollier = 0, kCarrier = 1;
 inline constexpr int kBlackGround = 0, kWhiteGround = 1;
 
+// What the chart keeps to: the rules that the suite's modules share, to the letter, or what an
+// engineer can read off. Each has functions of its own.
+enum class Convention { Suite, Exact };
+
 // The chart's settings as qv_par.dat keeps them.
 struct ChartSettings {
     double pressure_bar = 1.013;
@@ -15,9 +19,11 @@ struct ChartSettings {
     double site_height_m = 0;
     int DiagrammArt = kMollier;  // any other value than 0 is the Carrier chart
     int Helligkeit = kWhiteGround;
+    Convention convention = Convention::Suite;
 };
 
-// Items that the file lacks keep their value in `settings`.
+// Items that the file lacks keep their value in `settings`; a file without the item of the
+// convention keeps to that of the suite, which writes no such item.
 FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings);
 // With NotWritten `reason` has the words of the system.
 FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings,

@@ -55,7 +55,7 @@ constexpr const char* kExamples =
 
 // The options as they were typed; a decimal comma is as good as a point in them.
 struct TypedOptions {
-    std::string data, t, rh, p, kind, size, zoom;
+    std::string data, t, rh, p, kind, size, zoom, convention;
 };
 
 [[noreturn]] void Refuse(const std::string& reason) { throw std::invalid_argument(reason); }
@@ -154,11 +154,26 @@ void AddInvert(CLI::App& app, CommandLine& line) {
     verb->callback([&] { line.verb = Verb::Invert; });
 }
 
-void AddForm(CLI::App& app, CommandLine& line) {
+void AddConvention(CLI::App& verb, TypedOptions& typed) {
+    verb.add_option("--convention", typed.convention,
+                    "suite or exact; without it as in the settings")
+        ->check(CLI::IsMember({"suite", "exact"}));
+}
+
+void TakeConvention(const TypedOptions& typed, CommandLine& line) {
+    if (typed.convention.empty()) return;
+    line.convention = typed.convention == "exact" ? Convention::Exact : Convention::Suite;
+}
+
+void AddForm(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     auto* verb = app.add_subcommand("form", "Drives the main form as a user would");
     verb->add_option("SCRIPT", line.input, "the script; - is the standard input")->required();
+    AddConvention(*verb, typed);
     verb->footer(kFormHelp);
-    verb->callback([&] { line.verb = Verb::Form; });
+    verb->callback([&] {
+        line.verb = Verb::Form;
+        TakeConvention(typed, line);
+    });
 }
 
 void AddChart(CLI::App& app, TypedOptions& typed, CommandLine& line) {
@@ -171,8 +186,10 @@ void AddChart(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->add_option("--form", line.chart.script,
                      "a script as of the verb form, whose process is drawn; - is the standard "
                      "input");
+    AddConvention(*verb, typed);
     verb->callback([&] {
         line.verb = Verb::Chart;
+        TakeConvention(typed, line);
         TakeChart(typed, line.chart);
     });
 }
@@ -196,7 +213,7 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     app.fallthrough();
     AddState(app, typed, line);
     AddInvert(app, line);
-    AddForm(app, line);
+    AddForm(app, typed, line);
     AddChart(app, typed, line);
     try {
         app.parse(count, arguments);

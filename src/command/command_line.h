@@ -37,6 +37,7 @@ struct CommandLine {
     std::string search;       // of the verb invert
     std::optional<StateOptions> state;
     ChartRequest chart;
+    std::optional<Convention> convention;  // of the verbs form and chart; empty as in the settings
 };
 
 // Reads the arguments of the program. An exit status means that there is nothing left to do: help

@@ -10,6 +10,7 @@ ScriptedChart::ScriptedChart(const CommandLine& line, const std::string& script,
       files_(PrepareDataFolder(line.data, false)),
       form_(user_, files_, line.data) {
     form_.chart.kind_override = request_.kind;
+    form_.chart.convention_override = line.convention;
 }
 
 bool ScriptedChart::Run(std::string& error) {

@@ -83,6 +83,7 @@ bool RunForm(const CommandLine& line, std::istream& script, std::ostream& dumps,
     DataFiles files(PrepareDataFolder(line.data, false));
     ScriptedUser user(script, dumps);
     MainForm form(user, files, line.data);
+    form.chart.convention_override = line.convention;
     if (!user.Run(form, error)) return false;
     if (dumps.flush()) return true;
     error = "the output cannot be written";

@@ -60,10 +60,10 @@ void PlantDrawing::DrawCoolerWay(const PlantRun& run, const AirPoint& heated) {
 }
 
 void PlantDrawing::DrawHeaterWay(const PlantRun& run, const AirPoint& heated) {
-    const CanvasPoint supply = UnturnedPlace(run.supply);
-    const CanvasPoint before_fan = UnturnedPlace(run.fan_inlet.air);
+    const CanvasPoint supply = HeaterPlace(run.supply);
+    const CanvasPoint before_fan = HeaterPlace(run.fan_inlet.air);
     const CanvasPoint mixed = Place(run.mixing.mixed), line_end = Place(heated);
-    Show(overlay_.PP8, UnturnedPlace(heated), kCorner);
+    Show(overlay_.PP8, HeaterPlace(heated), kCorner);
     Show(overlay_.PP5, supply, kCorner);
     Show(overlay_.PP7, before_fan, kCorner);
     DrawMixedAir(mixed);

@@ -19,13 +19,18 @@ class PlantDrawing {
     // Clears the drawing first when the run before went the other way.
     void StartWay(bool other_way_than_before);
     void DrawCoolerWay(const PlantRun& run, const AirPoint& heated);
-    // On the Carrier chart the marks and the ends at the supply stay unturned, and this is meant.
+    // On the suite's Carrier chart the marks and the ends at the supply stay unturned, and this is
+    // meant: all its modules draw them so.
     void DrawHeaterWay(const PlantRun& run, const AirPoint& heated);
 
   private:
     CanvasPoint Place(const AirPoint& air) const { return scale_.PointOf(air.x, air.t); }
     CanvasPoint UnturnedPlace(const AirPoint& air) const {
         return {scale_.Xm(air.x), scale_.Ym(air.t)};
+    }
+    // Where the heater's way has its marks.
+    CanvasPoint HeaterPlace(const AirPoint& air) const {
+        return scale_.convention == Convention::Exact ? Place(air) : UnturnedPlace(air);
     }
     void DrawMixedAir(CanvasPoint place);
     void DrawRoomAndFans(const PlantRun& run, CanvasPoint supply, CanvasPoint before_fan);

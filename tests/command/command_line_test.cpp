@@ -74,9 +74,14 @@ TEST(CommandLine, TakesWhatIsAsked) {
 
     Reading chart;
     Read({"chart", "-o", "a.PDF", "--size", "800x600", "--zoom", "-10,0,20.5,30", "--kind",
-          "carrier", "--form", "-"},
+          "carrier", "--form", "-", "--convention", "exact"},
          chart);
     ASSERT_FALSE(chart.status) << chart.error;
+    EXPECT_EQ(chart.line.convention, Convention::Exact);
+    EXPECT_FALSE(invert.line.convention);
+    Reading form;
+    Read({"form", "--convention", "suite", "a.txt"}, form);
+    EXPECT_EQ(form.line.convention, Convention::Suite);
     EXPECT_EQ(chart.line.chart.width, 800);
     EXPECT_EQ(chart.line.chart.height, 600);
     EXPECT_EQ(chart.line.chart.kind, kCarrier);

@@ -57,6 +57,52 @@ TEST(ScriptedChart, ZoomsLikeAFrameOfTheUser) {
     EXPECT_FALSE(chart.Form().chart.controls.ZoomShape.visible);
 }
 
+constexpr const char* kWinterPlant =
+    "set vhAnlage 10000\nset aussenAnt 3\nreturn aussenAnt\nset tabLuft 22\nset PHIAbluft 45\n"
+    "set Taus -10\nset PhiAussen 80\nset tKA 12\nset phiKanal 95\nset TZuluft 24\n"
+    "set PHIZuluft 40\nset dtVent1 1\nset dtVent2 0.5\nclick AnlageButt\n";
+
+// The states that the marks and the ends of the lines stand for.
+std::vector<ChartState> ProcessStates(Convention convention, int kind) {
+    CommandLine line = ChartLine();
+    line.chart.kind = kind;
+    line.convention = convention;
+    std::ostringstream dumps;
+    ScriptedChart chart(line, kWinterPlant, dumps);
+    std::string error;
+    EXPECT_TRUE(chart.Run(error)) << error;
+    const MainForm& form = chart.Form();
+    std::vector<ChartState> states;
+    for (const Mark* mark : form.overlay.Marks()) {
+        if (mark->visible) states.push_back(form.chart.scale.StateAt(mark->state));
+    }
+    for (const auto* run : form.overlay.Lines()) {
+        if (!run->visible) continue;
+        states.push_back(form.chart.scale.StateAt({run->x1, run->y1}));
+        states.push_back(form.chart.scale.StateAt({run->x2, run->y2}));
+    }
+    return states;
+}
+
+TEST(ScriptedChart, TheWinterPlantIsTheSameOnBothChartsUnderExact) {
+    const auto mollier = ProcessStates(Convention::Exact, kMollier);
+    const auto carrier = ProcessStates(Convention::Exact, kCarrier);
+    ASSERT_EQ(mollier.size(), carrier.size());
+    EXPECT_GE(mollier.size(), 15U);
+    for (std::size_t i = 0; i < mollier.size(); ++i) {
+        EXPECT_NEAR(mollier[i].t, carrier[i].t, 1e-9) << i;
+        EXPECT_NEAR(mollier[i].x, carrier[i].x, 1e-9) << i;
+        EXPECT_LT(mollier[i].x, 12) << "in the fog";
+    }
+    // The suite leaves three marks and four ends unturned.
+    const auto suite = ProcessStates(Convention::Suite, kCarrier);
+    ASSERT_EQ(suite.size(), carrier.size());
+    int elsewhere = 0;
+    for (std::size_t i = 0; i < suite.size(); ++i)
+        elsewhere += std::abs(suite[i].t - carrier[i].t) > 5;
+    EXPECT_EQ(elsewhere, 7);
+}
+
 TEST(ScriptedChart, NamesTheLineOfTheScript) {
     std::ostringstream dumps;
     ScriptedChart chart(ChartLine(), "# start\ndump Rechenmodus\nclick Nowhere\n", dumps);

@@ -1,0 +1,306 @@
+// The chart as an engineer reads it off: what is drawn, what is read and what the numbers say
+// agree.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "base/number_text.h"
+#include "canvas/palette.h"
+#include "chart/exact_painting.h"
+#include "painted_chart.h"
+
+namespace zandrell {
+namespace {
+
+constexpr const char* kRanges[] = {"-20,40,0,40", "-50,100,0,100", "0,25,5,25", "-10,35,2.5,12",
+                                   "-20,60,0,150"};
+constexpr int kWidths[] = {480, 1024, 1280, 1920, 3840};  // pixels
+
+std::string Settings(const std::string& range, int kind, const std::string& pressure = "1.013") {
+    return pressure + "," + range + ",0," + std::to_string(kind) + ",1,1";
+}
+
+TEST(Exact, TheNinthItemOfTheSettingsAsksForIt) {
+    const struct {
+        const char* items;
+        bool exact;
+    } cases[] = {{"1.013,-20,40,0,40,0,0,1,1", true},  {"1.013,-20,40,0,40,0,0,1", false},
+                 {"1.013,-20,40,0,40,0,0,1,0", false}, {"1.013,-20,40,0,40,0,0,1,2", false},
+                 {"1.013,-20,40,0,40,0,0,1,x", false}, {"1.013,-20,40,0,40", false}};
+    const TestFolder folder;
+    const DataFiles files(folder.Path());
+    for (const auto& c : cases) {
+        folder.Write("qv_par.dat", c.items);
+        ChartSettings settings;
+        settings.convention = Convention::Exact;
+        ReadChartSettings(files, settings);
+        EXPECT_EQ(settings.convention == Convention::Exact, c.exact) << c.items;
+        WriteChartSettings(files, settings);
+        const std::string written = folder.Read("qv_par.dat");
+        EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), c.exact ? 9 : 8) << c.items;
+    }
+}
+
+TEST(Exact, DrawingAndReadOutAreInverse) {
+    std::mt19937 random(20);
+    const auto between = [&](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    ChartScale scale;
+    for (int i = 0; i < 10000; ++i) {
+        if (i % 10 == 0) {
+            ChartSettings settings;
+            settings.convention = Convention::Exact;
+            settings.DiagrammArt = i / 10 % 2;
+            settings.ChartTMin = between(-50, 20);
+            settings.ChartTMax = settings.ChartTMin + between(20, 150);
+            settings.ChartXMin = between(0, 30);
+            settings.ChartXMax = settings.ChartXMin + between(5, 150);
+            scale.CarrierFaktor = between(3.4, 6);
+            ApplyBaseScale(settings, scale);
+            for (int zoom = 0; zoom < i / 20 % 11; ++zoom) {
+                ApplyZoom({between(0, 900), between(0, 300), between(200, 900), between(60, 250)},
+                          1, 1, scale);
+            }
+        }
+        const CanvasPoint place{between(-10, 2000), between(0, 580)};
+        const ChartState state = scale.StateAt(place);
+        const CanvasPoint again = scale.PointOf(state.x, state.t);
+        ASSERT_NEAR(again.x, place.x, 0.1) << i;
+        ASSERT_NEAR(again.y, place.y, 0.1) << i;
+    }
+}
+
+TEST(Exact, TheWholeRangeLiesOnTheCanvasAndTheAxesBeginWithIt) {
+    for (const char* range : kRanges) {
+        for (const int width : kWidths) {
+            for (const int kind : {kMollier, kCarrier}) {
+                PaintedChart chart(Settings(range, kind));
+                chart.engine.FollowWidth(15 * width);
+                chart.Paint();
+                const auto& s = chart.engine.settings;
+                const auto& scale = chart.engine.scale;
+                EXPECT_NEAR(scale.CarrierFaktor,
+                            ((15.0 * width + 2600) / (15.0 * width) * 2000 + 10) / 580, 1e-9);
+                EXPECT_NEAR(scale.Xm(s.ChartXMin), 35, 1e-9) << range;
+                for (const double t : {s.ChartTMin, s.ChartTMax}) {
+                    for (const double x : {s.ChartXMin, s.ChartXMax}) {
+                        const CanvasPoint corner = scale.PointOf(x, t);
+                        EXPECT_TRUE(corner.x >= 0 && corner.x <= 1850 && corner.y >= 0 &&
+                                    corner.y <= 565)
+                            << range << ' ' << kind << ' ' << width << ": " << corner.x << ' '
+                            << corner.y;
+                    }
+                }
+            }
+        }
+    }
+    PaintedChart chart(Settings("0,25,5,25", kMollier));
+    chart.Paint();
+    // 90 units a gram from 35 on.
+    EXPECT_TRUE(FindLine(chart.engine.picture, 35 + 90 * 5, 563.44, 35 + 90 * 5, 0, kGrey));
+    EXPECT_TRUE(HasTextAt(chart.engine.picture, " 10", 35 + 90 * 5 - 12, 565));
+    chart.ReadAt(35 + 90 * 5.005, 300);
+    EXPECT_EQ(chart.read_out.absF.text, " 10");
+}
+
+// Numbers at an axis of the zoomed picture, in the order of drawing.
+std::vector<double> NumbersAt(const RecordingCanvas& picture, bool at_left, bool lowest_row) {
+    std::vector<double> numbers;
+    for (const auto& o : picture.Operations()) {
+        if (o.stroke != Stroke::Text || o.role != TextRole::AxisNumber) continue;
+        const bool of_pressure = o.y1 == 548;
+        const bool left = o.x1 <= 5 && o.y1 < 555 && !of_pressure;
+        const bool lowest = o.y1 >= 560;
+        if ((at_left && left) || (lowest_row && lowest)) numbers.push_back(ParsedNumber(o.text));
+    }
+    return numbers;
+}
+
+TEST(Exact, AZoomShowsWhatTheFrameHeld) {
+    for (const int kind : {kMollier, kCarrier}) {
+        PaintedChart chart(Settings("-20,40,0,40", kind));
+        chart.Paint();
+        for (int zoom = 1; zoom <= 10; ++zoom) {
+            const double left = 700, top = 200, width = 800, height = 220;
+            const auto& scale = chart.engine.scale;
+            const ChartState one = scale.StateAt({left, top});
+            const ChartState other = scale.StateAt({left + width, top + height});
+            chart.Zoom(left, top, width, height);
+            const CanvasPoint upper_left = scale.PointOf(one.x, one.t);
+            const CanvasPoint lower_right = scale.PointOf(other.x, other.t);
+            const double margin_left = upper_left.x + 10, margin_right = 2000 - lower_right.x;
+            const double margin_top = upper_left.y, margin_bottom = 580 - lower_right.y;
+            EXPECT_NEAR(margin_left, margin_right, 0.1) << zoom;
+            EXPECT_NEAR(margin_top, margin_bottom, 0.1) << zoom;
+            EXPECT_GE(margin_left, 0);
+            EXPECT_GE(margin_top, 0);
+            EXPECT_LE(margin_left, 0.05 * (lower_right.x - upper_left.x)) << zoom;
+            EXPECT_LE(margin_top, 0.05 * (lower_right.y - upper_left.y)) << zoom;
+            // Both grids follow: some numbers at each axis, all of them within the picture.
+            const auto side = NumbersAt(chart.engine.picture, true, false);
+            const auto foot = NumbersAt(chart.engine.picture, false, true);
+            for (const auto* numbers : {&side, &foot}) {
+                EXPECT_GE(numbers->size(), 4U) << kind << ' ' << zoom;
+                EXPECT_LE(numbers->size(), 20U) << kind << ' ' << zoom;
+            }
+            const auto [t_low, t_high] = std::minmax(one.t, other.t);
+            for (const double t : kind == kMollier ? side : foot) {
+                EXPECT_GT(t, t_low - 0.1 * (t_high - t_low)) << zoom;
+                EXPECT_LT(t, t_high + 0.1 * (t_high - t_low)) << zoom;
+            }
+        }
+        chart.Paint();
+        EXPECT_FALSE(chart.engine.scale.zoomed);
+        EXPECT_EQ(chart.engine.scale.MassstabX, 45);
+    }
+}
+
+TEST(Exact, FramesWithoutContentLeaveTheScale) {
+    PaintedChart chart(Settings("-20,40,0,40", kMollier));
+    chart.Paint();
+    const double inf = std::numeric_limits<double>::infinity();
+    for (const ZoomFrame& frame :
+         {ZoomFrame{500, 100, 0, 100}, ZoomFrame{500, 100, 100, 0}, ZoomFrame{inf, 100, 100, 50},
+          ZoomFrame{1, 1, 1e-7, 1e-7}, ZoomFrame{1, 1, inf, std::nan("")}}) {
+        chart.Zoom(frame.left, frame.top, frame.width, frame.height);
+        EXPECT_EQ(chart.engine.scale.MassstabX, 45);
+    }
+    for (int i = 0; i < 40; ++i) chart.Zoom(900, 250, 300, 90);
+    for (const auto& o : chart.engine.picture.Operations()) {
+        ASSERT_TRUE(std::isfinite(o.x1 + o.y1 + o.x2 + o.y2));
+    }
+    EXPECT_LT(chart.engine.picture.Operations().size(), 1'000'000U);
+}
+
+TEST(Exact, StepsAreRound) {
+    const struct {
+        double span;
+        int parts;
+        double step;
+    } cases[] = {{60, 8, 5},  {40, 8, 5}, {39, 8, 2},        {16, 8, 2},    {15, 8, 1},
+                 {1, 8, 0.1}, {40, 6, 5}, {0.012, 6, 0.002}, {1500, 6, 200}};
+    for (const auto& c : cases) EXPECT_DOUBLE_EQ(RoundStep(c.span, c.parts), c.step) << c.span;
+}
+
+// The scale of the vapour pressure: its row of numbers, with the tick under each.
+TEST(Exact, VapourPressureIsThatOfTheHumidityBelow) {
+    for (const char* pressure : {"1.013", "0.8", "1.05"}) {
+        for (const bool zoomed : {false, true}) {
+            PaintedChart chart(Settings("-20,40,0,40", kMollier, pressure));
+            chart.Paint();
+            if (zoomed) chart.Zoom(600, 150, 500, 200);
+            int ticks = 0;
+            const auto& all = chart.engine.picture.Operations();
+            for (std::size_t i = 1; i < all.size(); ++i) {
+                if (all[i].stroke != Stroke::Text || all[i].y1 != 548) continue;
+                ++ticks;
+                EXPECT_EQ(all[i - 1].x1, all[i - 1].x2);
+                const double x = chart.engine.scale.StateAt({all[i - 1].x1, 0}).x / 1000;
+                const double hectopascal = 1000 * chart.pressure * x / (0.62198 + x);
+                const double number = ParsedNumber(all[i].text);
+                EXPECT_NEAR(hectopascal, number, 1e-4 * number) << pressure;
+                EXPECT_NEAR(10 * number, std::round(10 * number), 1e-9) << "no round number";
+            }
+            EXPECT_GE(ticks, 5) << pressure;
+            EXPECT_LE(ticks, 25) << pressure;
+        }
+    }
+}
+
+// Relative humidity in per cent at a point of the chart, by halving; the solver is left there.
+double HumidityAt(PaintedChart& chart, const ChartState& state) {
+    double low = 0, high = 1;
+    for (int i = 0; i < 50; ++i) {
+        const double middle = (low + high) / 2;
+        const bool drier =
+            chart.solver.Evaluate(middle, state.t) && chart.solver.ZustandX < state.x;
+        (drier ? low : high) = middle;
+    }
+    return 100 * low;
+}
+
+double DensityAt(PaintedChart& chart, const ChartState& state) {
+    HumidityAt(chart, state);
+    return chart.solver.ZustandDichte;
+}
+
+TEST(Exact, ADensityLineLiesWhereItsDensityIs) {
+    for (const char* pressure : {"1.013", "0.954", "0.8"}) {
+        for (const int kind : {kMollier, kCarrier}) {
+            PaintedChart chart(Settings("-20,40,0,40", kind, pressure));
+            chart.Paint();
+            int lines = 0;
+            const auto& all = chart.engine.picture.Operations();
+            for (std::size_t i = 0; i < all.size(); ++i) {
+                if (all[i].text.find("kg/m³") == std::string::npos) continue;
+                ++lines;
+                const double density = ParsedNumber(all[i].text.substr(0, 5));
+                std::size_t k = i;
+                double x_last = -1;
+                while (all[--k].stroke == Stroke::Line) {
+                    for (const double share : {0.0, 0.5, 1.0}) {
+                        const ChartState at = chart.engine.scale.StateAt(
+                            {all[k].x1 + share * (all[k].x2 - all[k].x1),
+                             all[k].y1 + share * (all[k].y2 - all[k].y1)});
+                        EXPECT_NEAR(DensityAt(chart, at), density, 0.0005)
+                            << pressure << ": " << at.t << " degC, " << at.x << " g/kg";
+                        x_last = std::max(x_last, at.x);
+                    }
+                }
+                EXPECT_GT(x_last, 0.5) << "up to saturation";
+            }
+            EXPECT_GE(lines, 4) << pressure;
+            EXPECT_LE(lines, 7) << "those that have no part on the canvas are not drawn";
+        }
+    }
+    // At 0.8 bar air of 1.35 kg/m3 is colder than any state.
+    PaintedChart thin(Settings("-20,40,0,40", kMollier, "0.8"));
+    thin.Paint();
+    EXPECT_EQ(FindText(thin.engine.picture, " 1.35 kg/m³"), nullptr);
+    EXPECT_NE(FindText(thin.engine.picture, " .95 kg/m³"), nullptr);
+}
+
+TEST(Exact, AHumidityLabelStandsAtItsOwnCurve) {
+    for (const int width : {1024, 1920}) {
+        for (const bool zoomed : {false, true}) {
+            PaintedChart chart(Settings("-20,40,0,40", kCarrier));
+            chart.engine.FollowWidth(15 * width);
+            chart.Paint();
+            if (zoomed) chart.Zoom(900, 150, 700, 300);
+            int labels = 0;
+            for (const auto& o : chart.engine.picture.Operations()) {
+                if (o.stroke != Stroke::Text || !o.text.ends_with('%')) continue;
+                ++labels;
+                // The end of the curve: left of the text, at the middle of its height; or at the
+                // upper edge where it was held down.
+                const double y = o.y1 == 2 ? 0 : o.y1 + 5;
+                const ChartState at = chart.engine.scale.StateAt({o.x1 - 6, y});
+                const double humidity = HumidityAt(chart, at);
+                EXPECT_NEAR(humidity, ParsedNumber(o.text.substr(0, o.text.size() - 1)), 1.5)
+                    << o.text << " at " << at.t << " degC, " << at.x << " g/kg";
+            }
+            EXPECT_GE(labels, zoomed ? 4 : 9);
+        }
+    }
+}
+
+TEST(Exact, TheSuitesScaleIsLeftAloneByAWindowThatChanges) {
+    PaintedChart chart("1.013,-20,40,0,40,0,1,1");
+    chart.Paint();
+    const double aspect = chart.engine.scale.CarrierFaktor;
+    EXPECT_FALSE(chart.engine.FollowWidth(15 * 2000));
+    chart.Paint();
+    EXPECT_EQ(chart.engine.scale.CarrierFaktor, aspect);
+    chart.engine.convention_override = Convention::Exact;
+    chart.Paint();
+    EXPECT_NE(chart.engine.scale.CarrierFaktor, aspect);
+    EXPECT_TRUE(chart.engine.FollowWidth(15 * 1000));
+    chart.Paint();
+    chart.Zoom(500, 100, 900, 290);
+    EXPECT_FALSE(chart.engine.FollowWidth(15 * 3000)) << "a zoomed picture stays";
+}
+
+}  // namespace
+}  // namespace zandrell
