@@ -50,7 +50,11 @@ void MainForm::Load() {
 }
 
 void MainForm::Resize(int width, int height) {
-    if (width > 0 && height > 0) panels_.Resize(width, height);
+    if (width <= 0 || height <= 0) return;
+    panels_.Resize(width, height);
+    if (!chart.FollowWidth(panels_.WidthTwips())) return;
+    chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, solver.ChartDruckBar);
+    processes.Repeat();
 }
 
 void MainForm::Activate() {

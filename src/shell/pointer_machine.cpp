@@ -160,6 +160,9 @@ void PointerMachine::ZoomOut() {
     processes_.Repeat();
     shape_ = PointerShape::Arrow;
     zoom_out_.visible = false;
+    // The suite keeps the pointer until a panel has been opened and closed.
+    const bool exact = chart_.settings.convention == Convention::Exact;
+    if (exact && owner_ == PointerOwner::Zoomed) owner_ = PointerOwner::Nobody;
 }
 
 // --- Marks that are picked up, carried and dropped.

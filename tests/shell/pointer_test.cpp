@@ -57,6 +57,21 @@ TEST(Pointer, ZoomFrameThroughAllItsStates) {
     EXPECT_FALSE(Shown(dumps[7], "ZOOMMIN"));
 }
 
+TEST(Pointer, UnderExactTheNextFrameFollowsTheZoomOutAndTheAspectTheWindow) {
+    for (const bool exact : {false, true}) {
+        ScriptSession session;
+        session.folder.Write("qv_par.dat",
+                             exact ? "1.013,-20,40,0,40,0,1,1,1" : "1.013,-20,40,0,40,0,1,1");
+        const auto dumps = session.Run(
+            "pointer press 500 100\npointer move 1400 390\npointer release 1400 390\n"
+            "pointer move 1000 200\npointer press 1000 200\nclick ZOOMMIN\n"
+            "pointer press 600 200\ndump\n"
+            "window 1920 1080\ndump\n");
+        EXPECT_EQ(dumps[0]["PanelZustand"], exact ? 1 : 77);
+        EXPECT_EQ(dumps[0]["CarrierFaktor"] != dumps[1]["CarrierFaktor"], exact);
+    }
+}
+
 TEST(Pointer, AFrameIsDroppedOutsideItAndOneWithoutWidthOrHeightDoesNotZoom) {
     ScriptSession session;
     const auto dumps = session.Run(
