@@ -237,15 +237,18 @@ void DataFiles::DeleteDataFile(std::string_view name, const Captions& captions,
 }
 
 std::optional<FileStamp> DataFiles::Stamp(std::string_view name) const {
-    const fs::path path = Resolve(name);
-    std::error_code error;
-    FileStamp stamp;
-    stamp.own_writes = own_writes_;
-    stamp.size = fs::file_size(path, error);
-    if (error) return std::nullopt;
-    stamp.time = fs::last_write_time(path, error);
-    if (error) return std::nullopt;
-    return stamp;
+    struct stat about {};
+    // Stamps are asked for at every pointer move, so a bare name in its own spelling, which nearly
+    // all are, costs one call of the system.
+    std::string path;
+    const bool bare = name.find_first_of("/\\") == std::string_view::npos;
+    if (bare) path.append(data_folder_.native()).append("/").append(name);
+    if (!bare || ::stat(path.c_str(), &about) != 0) {
+        if (::stat(Resolve(name).c_str(), &about) != 0) return std::nullopt;
+    }
+    if (!S_ISREG(about.st_mode)) return std::nullopt;
+    return FileStamp{about.st_mtim.tv_sec, about.st_mtim.tv_nsec,
+                     static_cast<std::uintmax_t>(about.st_size), own_writes_};
 }
 
 }  // namespace zandrell

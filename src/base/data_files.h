@@ -29,7 +29,7 @@ enum class Durability { Flushed, Cache };
 // Tells whether a file changed since it was last looked at. The clock of a file system ticks too
 // slowly to tell two quick changes apart, so the program's own are counted beside it.
 struct FileStamp {
-    std::filesystem::file_time_type time{};
+    std::int64_t seconds = 0, nanoseconds = 0;  // of the last change, since 1970
     std::uintmax_t size = 0;
     std::uint64_t own_writes = 0;
     bool operator==(const FileStamp&) const = default;
