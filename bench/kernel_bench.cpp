@@ -9,6 +9,7 @@
 #include "kernel/inverse_state.h"
 #include "kernel/state_solver.h"
 #include "kernel/steam.h"
+#include "kernel/water_air_tables.h"
 
 namespace zandrell {
 namespace {

@@ -2,18 +2,15 @@
 
 #include <cmath>
 
+#include "kernel/state_arithmetic.h"
 #include "kernel/steam.h"
+#include "kernel/water_air_tables.h"
 
 namespace zandrell {
 namespace {
 
-constexpr double kPascalPerBar = 100000;
 constexpr double kDefaultPressureBar = 1.01;
 constexpr double kReplacementHumidity = 0.01;
-constexpr double kLatentHeat = 2501.6;              // kJ/kg at 0 degC
-constexpr double kIdealVapourBelow = 611;           // Pa, about the triple point
-constexpr double kDensityFactor = 1.124;            // fitted to the density of humid air
-constexpr double kMolarMassRatio = 18.015 / 28.96;  // water to air
 
 constexpr std::array<double, 9> kIntegrationWeights{1,       1.0 / 2, 1.0 / 3, 1.0 / 4, 1.0 / 5,
                                                     1.0 / 6, 1.0 / 7, 1.0 / 8, 1.0 / 9};
@@ -33,6 +30,12 @@ double SaturatedDensity(const WaterAirTables& tables, const PressurePoint& press
                                      : SaettigungsDruck(tables, at.theta, kPressureInBar);
     const double beta = reference_bar * kPascalPerBar / tables.RefDruck;
     return 1 / VolumeAt(tables, MakeVolumeTerms(tables, at), beta);
+}
+
+inline PressurePoint PressureAt(const WaterAirTables& tables, double p_bar) {
+    const bool tabulated = tables.states && tables.states->CoversPressure(p_bar);
+    return {p_bar,
+            tabulated ? tables.states->BoilingTemperature(p_bar) : SiedeTemperatur(tables, p_bar)};
 }
 
 }  // namespace
@@ -59,60 +62,83 @@ bool AllFinite(const AirState& state) {
 }
 
 PressurePoint EvaluatePressure(const WaterAirTables& tables, double p_bar) {
-    return {p_bar, SiedeTemperatur(tables, p_bar)};
+    return PressureAt(tables, p_bar);
 }
 
-TemperaturePoint EvaluateTemperature(const WaterAirTables& tables, const PressurePoint& pressure,
-                                     double t) {
+double DryAirEnthalpy(const WaterAirTables& tables, double T) {
+    return IntegrateSpecificHeat(tables.CpLuft, T - kKelvinOffset);
+}
+
+TemperaturePoint TemperatureByFormulas(const WaterAirTables& tables, const PressurePoint& pressure,
+                                       double T) {
     TemperaturePoint point;
     point.pressure = pressure;
-    point.T = t + kKelvinOffset;
-    const SteamPowers at = MakeSteamPowers(tables, point.T);
-    point.saturated_density = SaturatedDensity(tables, pressure, at, point.T);
-    const double celsius = point.T - kKelvinOffset;
-    point.dry_air_enthalpy = IntegrateSpecificHeat(tables.CpLuft, celsius);
-    point.vapour_enthalpy_polynomial = IntegrateSpecificHeat(tables.CpDampf, celsius);
-    if (!(kGasConstantSteam * point.T * point.saturated_density < kIdealVapourBelow)) {
+    point.T = T;
+    const SteamPowers at = MakeSteamPowers(tables, T);
+    point.saturated_density = SaturatedDensity(tables, pressure, at, T);
+    point.dry_air_enthalpy = DryAirEnthalpy(tables, T);
+    point.vapour_enthalpy_polynomial = IntegrateSpecificHeat(tables.CpDampf, T - kKelvinOffset);
+    if (!(kGasConstantSteam * T * point.saturated_density < kIdealVapourBelow)) {
         point.steam = MakeEnthalpyTerms(tables, at);
     }
     return point;
 }
 
+TemperaturePoint EvaluateTemperature(const WaterAirTables& tables, const PressurePoint& pressure,
+                                     double t) {
+    const double T = t + kKelvinOffset;
+    if (!Tabulated(tables, pressure, t)) return TemperatureByFormulas(tables, pressure, T);
+    TemperaturePoint point;
+    point.pressure = pressure;
+    point.T = T;
+    point.entry = tables.states->At(t);
+    point.tabulated = true;
+    return point;
+}
+
 AirState EvaluateHumidity(const WaterAirTables& tables, const TemperaturePoint& point,
                           double relF) {
-    AirState state;
-    const double T = point.T;
-    const double total = point.pressure.p_bar * kPascalPerBar;
-    const double vapour_density = relF * point.saturated_density;
-    // The pressure that EquationOfStatePressure finds for this density is not carried into the
-    // state: the ideal-gas vapour pressure stands, and so that pass is not run here.
-    state.ZustandPDampf = kGasConstantSteam * T * vapour_density;
-    state.ZustandPLuft = total - state.ZustandPDampf;
-    const double air_density = state.ZustandPLuft / (kGasConstantAir * T);
-    double x = vapour_density / air_density;
-    if (!std::isfinite(x)) x = 0;
-    state.ZustandDichteTrocken = total / (kGasConstantAir * T);
-    state.ZustandHLuft = point.dry_air_enthalpy;
+    return point.tabulated ? TabulatedState(tables, point.pressure, point.entry, point.T, relF)
+                           : StateByFormulas(tables, point, relF);
+}
+
+AirState StateByFormulas(const WaterAirTables& tables, const TemperaturePoint& point, double relF) {
+    const MixedAir air = MixAt(point.pressure.p_bar, point.T, point.saturated_density, relF);
     const double vapour_enthalpy =
-        state.ZustandPDampf < kIdealVapourBelow || !point.steam
+        air.vapour_pressure < kIdealVapourBelow || !point.steam
             ? point.vapour_enthalpy_polynomial + kLatentHeat
-            : EnthalpyAt(tables, *point.steam, state.ZustandPDampf / tables.RefDruck);
-    state.ZustandX = 1000 * x;
-    state.ZustandH = point.dry_air_enthalpy + x * vapour_enthalpy;
-    state.ZustandDichte = state.ZustandDichteTrocken -
-                          x * kDensityFactor * state.ZustandDichteTrocken * (1 - kMolarMassRatio);
-    state.SiedeTempK = point.pressure.boiling_temperature_k;
-    return state;
+            : EnthalpyAt(tables, *point.steam, air.vapour_pressure / tables.RefDruck);
+    return StateOf(air, point.pressure, point.dry_air_enthalpy, vapour_enthalpy);
+}
+
+AirState EvaluateAt(const WaterAirTables& tables, const PressurePoint& pressure, double relF,
+                    double t) {
+    return StateAt(tables, pressure, relF, t);
 }
 
 std::optional<AirState> EvaluateState(const WaterAirTables& tables, double relF, double t,
                                       double p_bar) {
     ClampArguments(relF, p_bar);
     if (!tables.Loaded() || !WithinLimits(relF, t, p_bar)) return std::nullopt;
-    const TemperaturePoint point = EvaluateTemperature(tables, EvaluatePressure(tables, p_bar), t);
-    const AirState state = EvaluateHumidity(tables, point, relF);
+    const AirState state = StateAt(tables, PressureAt(tables, p_bar), relF, t);
     if (!AllFinite(state)) return std::nullopt;
     return state;
+}
+
+void EvaluateStates(const WaterAirTables& tables, std::span<const double> relF,
+                    std::span<const double> t, std::span<const double> p_bar,
+                    std::span<std::optional<AirState>> states) {
+    PressurePoint pressure;
+    const bool loaded = tables.Loaded(), one_pressure = p_bar.size() == 1;
+    for (std::size_t i = 0; i < states.size(); ++i) {
+        double humidity = relF[i], bar = p_bar[one_pressure ? 0 : i];
+        ClampArguments(humidity, bar);
+        states[i].reset();
+        if (!loaded || !WithinLimits(humidity, t[i], bar)) continue;
+        if (bar != pressure.p_bar) pressure = PressureAt(tables, bar);
+        const AirState state = StateAt(tables, pressure, humidity, t[i]);
+        if (AllFinite(state)) states[i] = state;
+    }
 }
 
 }  // namespace zandrell

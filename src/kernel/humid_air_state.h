@@ -1,31 +1,15 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
+#include "kernel/air_state.h"
+#include "kernel/state_table.h"
 #include "kernel/steam_terms.h"
-#include "kernel/water_air_tables.h"
 
 namespace zandrell {
 
-inline constexpr double kKelvinOffset = 273.15;
-// Specific gas constants, J/(kg K), rounded as the suite's other modules round them.
-inline constexpr double kGasConstantSteam = 461.5, kGasConstantAir = 287.04;
-
-// Limits of the state function, all inclusive.
-inline constexpr double kLowestPressureBar = 0, kHighestPressureBar = 8.5;
-inline constexpr double kLowestTemperature = -50, kHighestTemperature = 800;  // degC
-
-// The state of humid air, per kg of dry air where not said otherwise.
-struct AirState {
-    double ZustandX = 0;              // humidity ratio, g/kg
-    double ZustandH = 0;              // enthalpy, kJ/kg
-    double ZustandHLuft = 0;          // enthalpy of the dry-air share alone, kJ/kg
-    double ZustandPLuft = 0;          // partial pressure of the dry air, Pa
-    double ZustandPDampf = 0;         // partial pressure of the vapour, Pa
-    double ZustandDichte = 0;         // density of the humid air, kg/m3
-    double ZustandDichteTrocken = 0;  // density of dry air at the total pressure, kg/m3
-    double SiedeTempK = 0;            // boiling temperature of water at the total pressure, K
-};
+inline constexpr double kLatentHeat = 2501.6;  // kJ/kg at 0 degC
 
 // What depends on the total pressure alone.
 struct PressurePoint {
@@ -36,7 +20,9 @@ struct PressurePoint {
 // What depends on pressure and temperature: everything but the humidity.
 struct TemperaturePoint {
     PressurePoint pressure;
-    double T = 0;  // K
+    double T = 0;            // K
+    bool tabulated = false;  // whether `entry` has the figures, or else what follows it
+    StateTable::Entry entry;
     double saturated_density =
         0;  // kg/m3, of steam at saturation, or at the total pressure above boiling
     double dry_air_enthalpy = 0;            // kJ/kg
@@ -46,16 +32,6 @@ struct TemperaturePoint {
     std::optional<EnthalpyTerms> steam;
 };
 
-// Replaces what the state function does not take: a negative humidity becomes 0.01, one above 1
-// becomes 1, a pressure of 0 becomes 1.01 bar.
-void ClampArguments(double& relF, double& p_bar);
-
-// Whether the state function has an answer (after the clamps). Not-a-number has none.
-bool WithinLimits(double relF, double t, double p_bar);
-
-// Whether every field is a number. One that is not counts as refused and reaches nobody.
-bool AllFinite(const AirState& state);
-
 // The state in three steps, for callers that keep pressure or temperature. Requires: arguments
 // clamped and within the limits, tables loaded; who calls checks the result by AllFinite.
 PressurePoint EvaluatePressure(const WaterAirTables& tables, double p_bar);
@@ -63,9 +39,27 @@ TemperaturePoint EvaluateTemperature(const WaterAirTables& tables, const Pressur
                                      double t);
 AirState EvaluateHumidity(const WaterAirTables& tables, const TemperaturePoint& point, double relF);
 
+// The last two steps in one, for a pressure that is kept.
+AirState EvaluateAt(const WaterAirTables& tables, const PressurePoint& pressure, double relF,
+                    double t);
+
+// Enthalpy of dry air at T (K) in kJ/kg: the integral of its specific heat from 0 degC.
+double DryAirEnthalpy(const WaterAirTables& tables, double T);
+
+// The second step by the formulas themselves, T in K: what the tables are made from, and what
+// serves where they do not.
+TemperaturePoint TemperatureByFormulas(const WaterAirTables& tables, const PressurePoint& pressure,
+                                       double T);
+
 // The state of humid air at relative humidity relF (0..1), t in degC and p_bar: a pure function,
 // empty outside the limits and for tables that are not loaded. Arguments are clamped as above.
 std::optional<AirState> EvaluateState(const WaterAirTables& tables, double relF, double t,
                                       double p_bar);
+
+// The same for arrays: state i from relF[i], t[i] and p_bar[i], or p_bar[0] for all. Requires: as
+// many states and temperatures as humidities, as many pressures or one.
+void EvaluateStates(const WaterAirTables& tables, std::span<const double> relF,
+                    std::span<const double> t, std::span<const double> p_bar,
+                    std::span<std::optional<AirState>> states);
 
 }  // namespace zandrell

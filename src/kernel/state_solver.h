@@ -1,12 +1,14 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include <memory>
 
 #include "base/data_files.h"
-#include "kernel/humid_air_state.h"
+#include "kernel/air_state.h"
 
 namespace zandrell {
+
+struct PressurePoint;
+struct WaterAirTables;
 
 // The program's one current state: a thin object over the pure state function. Its result fields
 // are those of the last completed call and stay as they were when a call is refused.
@@ -14,7 +16,8 @@ class StateSolver : public AirState {
   public:
     // Reads qvdata.dat through `files`, which must outlive the solver, at the first call, and again
     // when a call changes the pressure and the file has another time stamp or size.
-    explicit StateSolver(const DataFiles& files) : files_(files) {}
+    explicit StateSolver(const DataFiles& files);
+    ~StateSolver();
 
     double LetzterDruckBar = 0;   // bar, of the last completed call; 0 before the first
     double ChartDruckBar = 1.01;  // bar, the total pressure of chart, tools and plant
@@ -35,21 +38,23 @@ class StateSolver : public AirState {
     const WaterAirTables& Tables();
     // How the last reading of qvdata.dat ended, known after the first call; Malformed also when
     // some of its 118 numbers are lacking. A reading that failed leaves the tables that worked.
-    FileStatus CoefficientStatus() const { return coefficient_status_; }
-    bool HasCoefficients() { return Tables().Loaded(); }
+    FileStatus CoefficientStatus() const;
+    bool HasCoefficients();
+
+    // The pressure of the last completed call where that is ChartDruckBar, so that a search can go
+    // on from it; else null.
+    const PressurePoint* KeptPressure() const;
 
   private:
+    // The coefficients and what the last call left to build on.
+    struct Kept;
+
     bool Compute(double relF, double t, double p_bar);
     void RefreshTables();
     void ReadTables();
 
     const DataFiles& files_;
-    WaterAirTables tables_;
-    FileStatus coefficient_status_ = FileStatus::Missing;
-    std::optional<FileStamp> stamp_;  // of qvdata.dat when it was last read
-    // What the last call left to build on; the searches ask twice at each temperature.
-    std::optional<TemperaturePoint> point_;
-    double point_t_ = 0;  // degC
+    std::unique_ptr<Kept> kept_;
 };
 
 }  // namespace zandrell

@@ -3,8 +3,9 @@
 #include <cmath>
 
 #include "base/number_text.h"
-#include "kernel/humid_air_state.h"
+#include "kernel/air_state.h"
 #include "kernel/steam_terms.h"
+#include "kernel/water_air_tables.h"
 
 namespace zandrell {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "kernel/water_air_tables.h"
-
 namespace zandrell {
+
+struct WaterAirTables;
 
 // Which form of the saturation pressure is wanted.
 inline constexpr int kReducedPressure = 1;

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "kernel/water_air_tables.h"
+
 namespace zandrell {
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "kernel/water_air_tables.h"
-
 namespace zandrell {
+
+struct WaterAirTables;
 
 // The steam equations of sub-region 2 of the 1967 IFC Formulation for Industrial Use, taken apart
 // into what depends on the temperature alone (these structs) and what is left for each pressure.

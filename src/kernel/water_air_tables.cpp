@@ -5,6 +5,7 @@
 
 #include "base/delimited_text.h"
 #include "base/number_text.h"
+#include "kernel/state_table.h"
 
 namespace zandrell {
 namespace {
@@ -78,6 +79,7 @@ void PlanExponents(WaterAirTables& tables) {
             plan.whole_exponents ? static_cast<std::uint8_t>(exponent) : 0;
     });
     tables.plan = plan;
+    tables.states.reset();
 }
 
 WaterAirTables ReadWaterAirTables(std::string_view text) {
@@ -100,6 +102,7 @@ WaterAirTables ReadWaterAirTables(std::string_view text) {
     }
     tables.numbers_read = reader.Count();
     PlanExponents(tables);
+    if (tables.Complete()) tables.states = std::make_shared<const StateTable>(tables);
     return tables;
 }
 

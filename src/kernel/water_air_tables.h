@@ -2,9 +2,12 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 namespace zandrell {
+
+class StateTable;
 
 inline constexpr int kCoefficientCount = 118;
 
@@ -49,7 +52,9 @@ struct WaterAirTables {
     double ReserveWertA = 0;  // read and without any effect
     double ReserveWertB = 0;
 
-    ExponentPlan plan;     // follows ExpZ and ExpX, see PlanExponents
+    ExponentPlan plan;  // follows ExpZ and ExpX, see PlanExponents
+    // States by temperature, made by ReadWaterAirTables; null where only the formulas serve.
+    std::shared_ptr<const StateTable> states;
     int numbers_read = 0;  // how many of the 118 numbers the text held
 
     // A table whose first coefficient is 0 counts as not loaded.
@@ -61,8 +66,9 @@ struct WaterAirTables {
 // stay 0.
 WaterAirTables ReadWaterAirTables(std::string_view text);
 
-// Brings `plan` in line with ExpZ and ExpX; ReadWaterAirTables has done it. The numbers of terms
-// are rounded, and held to the three (two) that a row can take.
+// Brings `plan` in line with ExpZ and ExpX and drops `states`, which follow every coefficient;
+// ReadWaterAirTables has done both. To be called after a change of any coefficient. The numbers of
+// terms are rounded, and held to the three (two) that a row can take.
 void PlanExponents(WaterAirTables& tables);
 
 }  // namespace zandrell

@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "kernel/humid_air_state.h"
 #include "kernel_support.h"
 
 namespace zandrell {

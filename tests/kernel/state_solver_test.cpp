@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "kernel/humid_air_state.h"
 #include "kernel_support.h"
 
 namespace zandrell {
