@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue_files.h"
+#include "selection/unit_figures.h"
 
 namespace zandrell {
 namespace {
@@ -80,6 +81,7 @@ TEST(KatalogSatz, FourZeroNumbersEndASeries) {
         const std::string bytes = RecordBytes({{c.field, c.text}});
         const KatalogSatz record(bytes);
         EXPECT_EQ(record.IsEndMark(), c.ends) << PlaceOf(c.field).name << " " << c.text;
+        EXPECT_EQ(ReadUnit(record).IsEndMark(), c.ends) << PlaceOf(c.field).name << " " << c.text;
     }
 }
 
