@@ -2,6 +2,7 @@
 
 option(ZANDRELL_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
 option(ZANDRELL_TIDY "Run clang-tidy while compiling" OFF)
+option(ZANDRELL_FUZZ "Build the fuzz targets alone, with clang" OFF)
 
 set(ZANDRELL_STAGED_DATA ${CMAKE_BINARY_DIR}/share/zandrell)
 
@@ -17,6 +18,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 if(ZANDRELL_SANITIZE)
     target_compile_options(zandrell_switches INTERFACE -fsanitize=address,undefined
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(zandrell_switches INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZANDRELL_FUZZ)
+    target_compile_options(zandrell_switches INTERFACE -fsanitize=fuzzer-no-link,address,undefined
         -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(zandrell_switches INTERFACE -fsanitize=address,undefined)
 endif()

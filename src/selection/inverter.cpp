@@ -8,7 +8,6 @@ namespace zandrell {
 namespace {
 
 constexpr double kNominalFrequency = 50;  // Hz
-constexpr int kWhite = 15, kYellow = 14, kRed = 12, kGreen = 10;
 
 // With two decimals, from the hundredfold figure.
 std::optional<double> Shown(double hundredfold) {
@@ -18,10 +17,10 @@ std::optional<double> Shown(double hundredfold) {
 
 // Too little and too much are yellow, far too little and far too much red.
 int CapacityColour(double capacity, double wanted) {
-    if (capacity > 1.3 * wanted) return kRed;
-    if (capacity > 1.1 * wanted) return kYellow;
-    if (capacity < 0.85 * wanted) return kRed;
-    return capacity < 0.95 * wanted ? kYellow : kGreen;
+    if (capacity > 1.3 * wanted) return InverterFigures::kRed;
+    if (capacity > 1.1 * wanted) return InverterFigures::kYellow;
+    if (capacity < 0.85 * wanted) return InverterFigures::kRed;
+    return capacity < 0.95 * wanted ? InverterFigures::kYellow : InverterFigures::kGreen;
 }
 
 }  // namespace
@@ -36,8 +35,8 @@ InverterFigures inverter_rech(int position, SelectionInputs& shared) {
     figures.Label28 =
         Shown((shared.BetriebsFreq / shared.InverterNetzFreq * 100) * shared.LeistungNenn);
     const double required = shared.Label26 * shared.InverterNetzFreq / kNominalFrequency;
-    if (0.95 * required < volume) figures.label25_back = kRed;
-    if (shared.LeistungNenn < shared.Label27) figures.label27_back = kRed;
+    if (0.95 * required < volume) figures.label25_back = InverterFigures::kRed;
+    if (shared.LeistungNenn < shared.Label27) figures.label27_back = InverterFigures::kRed;
     AssignFinite(shared.QoFreq, volume / required * shared.QoSoll);
     figures.Label1 = Shown(shared.QoFreq * 100);
     figures.label37_back = CapacityColour(shared.QoFreq, shared.QoSoll);
@@ -54,8 +53,8 @@ std::optional<InverterFigures> TypedFrequency(double frequency, SelectionInputs&
     figures.Label25 = Shown(ratio * shared.VolumenNenn * 100);
     if (figures.Label25) shared.Label25 = *figures.Label25;
     figures.Label28 = Shown(100 * shared.LeistungNenn);
-    if (shared.Label26 < ratio * shared.VolumenRef) figures.label25_back = kRed;
-    if (ratio * shared.LeistungNenn < shared.Label27) figures.label27_back = kRed;
+    if (shared.Label26 < ratio * shared.VolumenRef) figures.label25_back = InverterFigures::kRed;
+    if (ratio * shared.LeistungNenn < shared.Label27) figures.label27_back = InverterFigures::kRed;
     return figures;
 }
 

@@ -9,10 +9,12 @@ namespace zandrell {
 // What the inverter panel shows after a change of the frequency. A figure that is empty could not
 // be formed: its label keeps its text. Colours are palette numbers.
 struct InverterFigures {
+    static constexpr int kGreen = 10, kRed = 12, kYellow = 14, kWhite = 15;
+
     std::optional<double> Label25;  // m3/h, two decimals
     std::optional<double> Label28;  // electric figure, two decimals
-    int label25_back = 15;
-    int label27_back = 15;
+    int label25_back = kWhite;
+    int label27_back = kWhite;
     // By the slider alone:
     std::optional<double> Label1;  // kW at the frequency, two decimals
     std::optional<int> label37_back;

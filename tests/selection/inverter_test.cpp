@@ -7,7 +7,7 @@
 namespace zandrell {
 namespace {
 
-constexpr int kWhite = 15, kYellow = 14, kRed = 12, kGreen = 10;
+constexpr int kWhite = 15, kYellow = 14, kRed = 12, kGreen = 10;  // of the palette
 
 // A compressor that sweeps 84.37 m3/h and takes 12.345 at 50 Hz, where 70 m3/h and 12 are wanted.
 SelectionInputs Chosen() {
