@@ -35,6 +35,11 @@ struct Picture {
 constexpr int kUncompressed = -1;
 constexpr int kButton = 64;  // pixels; shown at half of it, dense screens use them all
 constexpr int kJpegQuality = 92;
+constexpr int kUnitWidth = 240, kUnitHeight = 180;  // of a catalogue's unit
+
+constexpr Picture UnitPicture(const char* file_name, const char* drawing) {
+    return {file_name, drawing, kUnitWidth, kUnitHeight, kUncompressed};
+}
 
 constexpr std::array kPictures = {
     Picture{"STcap.bmp", "buttons/settings.svg", kButton, kButton, kUncompressed},
@@ -60,6 +65,23 @@ constexpr std::array kPictures = {
     Picture{"ZD_Back02.jpg", "skins/inner_panel.svg", 500, 300, kJpegQuality},
     Picture{"pic2.bmp", "logos/zandrell_logo.svg", 220, 64, kUncompressed},
     Picture{"zdsample.jpg", "logos/sample_logo.svg", 260, 80, kJpegQuality},
+    UnitPicture("600.bmp", "catalogue/air_cooler.svg"),
+    UnitPicture("650.bmp", "catalogue/condenser.svg"),
+    UnitPicture("550.bmp", "catalogue/compressor.svg"),
+    UnitPicture("100.bmp", "catalogue/stored_capacity.svg"),
+    UnitPicture("50.bmp", "catalogue/regulator.svg"),
+    UnitPicture("250.bmp", "catalogue/solenoid_valve.svg"),
+    UnitPicture("150.bmp", "catalogue/filter_drier.svg"),
+    UnitPicture("1.bmp", "catalogue/line_component.svg"),
+    UnitPicture("200.bmp", "catalogue/line_component.svg"),
+    UnitPicture("300.bmp", "catalogue/line_component.svg"),
+    UnitPicture("350.bmp", "catalogue/line_component.svg"),
+    UnitPicture("450.bmp", "catalogue/line_component.svg"),
+    UnitPicture("700.bmp", "catalogue/line_component.svg"),
+    UnitPicture("750.bmp", "catalogue/line_component.svg"),
+    UnitPicture("ceiling.bmp", "catalogue/ceiling_cooler.svg"),
+    UnitPicture("table.bmp", "catalogue/table_condenser.svg"),
+    UnitPicture("screw.bmp", "catalogue/screw_compressor.svg"),
 };
 
 // The message of what went wrong; nothing when all is well.
