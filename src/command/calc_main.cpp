@@ -11,6 +11,10 @@ namespace {
 
 using namespace zandrell;
 
+RowStreams StreamsOf(int input) {
+    return {SourceOf(input), SinkOf(STDOUT_FILENO), SinkOf(STDERR_FILENO)};
+}
+
 // An error in a line says of which file.
 bool NamingTheFile(bool done, const CommandLine& line, std::string& error) {
     if (line.input != "-" && error.starts_with("line ")) error.insert(0, line.input + ": ");
@@ -20,9 +24,19 @@ bool NamingTheFile(bool done, const CommandLine& line, std::string& error) {
 bool RunTable(const CommandLine& line, std::string& error) {
     const int file = OpenInput(line.input, error);
     if (file < 0) return false;
-    const RowStreams streams{SourceOf(file), SinkOf(STDOUT_FILENO), SinkOf(STDERR_FILENO)};
     const auto run = line.verb == Verb::State ? RunState : RunInvert;
-    return NamingTheFile(run(line, streams, error), line, error);
+    return NamingTheFile(run(line, StreamsOf(file), error), line, error);
+}
+
+bool RunSelection(const CommandLine& line, std::string& error) {
+    const auto format = line.json ? RowFormat::Json : RowFormat::Csv;
+    if (line.verb == Verb::Catalogue) {
+        return RunCatalogue(line.data, line.catalogue, format, StreamsOf(STDIN_FILENO), error);
+    }
+    const int file = OpenInput(line.input, error);
+    if (file < 0) return false;
+    const bool done = RunCapacity(line.data, line.capacity, format, StreamsOf(file), error);
+    return NamingTheFile(done, line, error);
 }
 
 bool RunScript(const CommandLine& line, std::string& error) {
@@ -32,6 +46,18 @@ bool RunScript(const CommandLine& line, std::string& error) {
     ::close(file);
     std::ifstream script(line.input);
     return NamingTheFile(RunForm(line, script, std::cout, error), line, error);
+}
+
+bool Run(const CommandLine& line, std::string& error) {
+    switch (line.verb) {
+        case Verb::Form:
+            return RunScript(line, error);
+        case Verb::Catalogue:
+        case Verb::Capacity:
+            return RunSelection(line, error);
+        default:
+            return RunTable(line, error);
+    }
 }
 
 }  // namespace
@@ -48,6 +74,5 @@ int main(int count, char** arguments) {
         BecomeSibling("zandrell-calc-chart", arguments, error);
         return ReportFailure(error);
     }
-    const bool done = line.verb == Verb::Form ? RunScript(line, error) : RunTable(line, error);
-    return done ? 0 : ReportFailure(error);
+    return Run(line, error) ? 0 : ReportFailure(error);
 }

@@ -9,6 +9,7 @@
 #include "base/shared_values.h"
 #include "base/text_encoding.h"
 #include "command/table_cells.h"
+#include "selection/catalogue.h"
 
 namespace zandrell {
 namespace {
@@ -46,16 +47,31 @@ constexpr const char* kFormHelp =
     "  dump [NAME ...]       writes one line of JSON\n"
     "The controls of another window are WINDOW.NAME once it is open.";
 
+constexpr const char* kCapacityHelp =
+    "Inputs, each as NAME=VALUE or as a column of the table of duties:\n"
+    "  coolers       LeistFaktor (1 without it); for duties QoSoll, QoZusatz (kW)\n"
+    "  condensers    LeistFaktor (1 without it); for duties KatBezug (kW)\n"
+    "  compressors   QoSoll (kW), DruckPo, DruckPc (bar), VerlustPo, VerlustPc (mbar),\n"
+    "                KaelteMittel, LiefergradBezug, Label26 (wanted swept volume, m3/h)\n"
+    "  kind 100      LeistFaktor (1.037 without it); for duties QoSoll (kW)\n"
+    "  line kinds    MassenStrom (kg/s), KatBezug (density, kg/m3); for duties OeffnungMax (per\n"
+    "                cent) of kinds 50 and 250, dp_max_mbar of the others\n"
+    "With --duties each row gets, for each maker, the unit that meets its duty most closely.";
+
 constexpr const char* kExamples =
     "Examples:\n"
     "  zandrell-calc state --t 25 --rh 50 --p 1.013\n"
     "  zandrell-calc state < measured.csv > states.csv\n"
     "  zandrell-calc invert rh-from-x --json < table.csv\n"
-    "  zandrell-calc chart -o chart.svg --kind carrier --size 1920x1080";
+    "  zandrell-calc chart -o chart.svg --kind carrier --size 1920x1080\n"
+    "  zandrell-calc catalogue 600 --units --json\n"
+    "  zandrell-calc capacity 600 LeistFaktor=0.92\n"
+    "  zandrell-calc capacity 650 --duties rooms.csv";
 
 // The options as they were typed; a decimal comma is as good as a point in them.
 struct TypedOptions {
-    std::string data, t, rh, p, kind, size, zoom, convention;
+    std::string data, t, rh, p, kind, size, zoom, convention, duties;
+    std::vector<std::string> inputs;
 };
 
 [[noreturn]] void Refuse(const std::string& reason) { throw std::invalid_argument(reason); }
@@ -194,6 +210,48 @@ void AddChart(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     });
 }
 
+void AddCatalogue(CLI::App& app, CommandLine& line) {
+    auto* verb = app.add_subcommand("catalogue", "Lists the catalogues of components");
+    auto& request = line.catalogue;
+    auto* kind = verb->add_option("KIND", request.KatalogArt,
+                                  "lists its series; without it the kinds are listed");
+    verb->add_flag("--units", request.units, "the units of the kind")->needs(kind);
+    verb->add_flag("--hidden", request.hidden, "hidden series too");
+    verb->add_option("--module", request.ModuleTag, "the module whose catalogues are read, QV");
+    verb->add_flag("--json", line.json, "one JSON object a line");
+    verb->callback([&] { line.verb = Verb::Catalogue; });
+}
+
+void TakeCapacity(const TypedOptions& typed, CapacityRequest& request) {
+    std::string error;
+    for (const auto& input : typed.inputs) {
+        if (!TakeInput(input, request, error)) Refuse(error);
+    }
+    if (FamilyOf(request.shared.KatalogArt) == KatalogFamilie::Unknown) {
+        Refuse("there is no kind " + std::to_string(request.shared.KatalogArt));
+    }
+    if (!typed.duties.empty()) request.duties = typed.duties;
+}
+
+void AddCapacity(CLI::App& app, TypedOptions& typed, CommandLine& line) {
+    auto* verb = app.add_subcommand("capacity", "Figures of catalogue units at an operating point");
+    auto& request = line.capacity;
+    verb->add_option("KIND", request.shared.KatalogArt, "the kind, as 600 for air coolers")
+        ->required();
+    verb->add_option("INPUT", typed.inputs, "NAME=VALUE");
+    verb->add_option("--duties", typed.duties, "a table of duties; - is the standard input");
+    verb->add_flag("--hidden", request.hidden, "hidden series too");
+    verb->add_option("--module", request.shared.ModuleTag,
+                     "the module whose catalogues are read, QV");
+    verb->add_flag("--json", line.json, "one JSON object a line");
+    verb->footer(kCapacityHelp);
+    verb->callback([&] {
+        line.verb = Verb::Capacity;
+        TakeCapacity(typed, request);
+        line.input = request.duties.value_or("-");
+    });
+}
+
 std::string OneLine(std::string text) {
     std::replace(text.begin(), text.end(), '\n', ' ');
     return text;
@@ -203,8 +261,9 @@ std::string OneLine(std::string text) {
 
 std::optional<int> ReadCommandLine(int count, const char* const* arguments, CommandLine& line,
                                    std::ostream& out, std::string& error) {
-    CLI::App app("Zandrell without a window: states of humid air, searches, charts, forms.",
-                 "zandrell-calc");
+    CLI::App app(
+        "Zandrell without a window: states of humid air, searches, charts, forms, catalogues.",
+        "zandrell-calc");
     TypedOptions typed;
     app.add_option("--data", typed.data, "the data folder; without it the one of the program");
     app.set_version_flag("--version", std::string(kVersion));
@@ -215,6 +274,8 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     AddInvert(app, line);
     AddForm(app, typed, line);
     AddChart(app, typed, line);
+    AddCatalogue(app, line);
+    AddCapacity(app, typed, line);
     try {
         app.parse(count, arguments);
     } catch (const CLI::ParseError& stop) {
@@ -226,7 +287,8 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
         return kWrongUse;
     }
     if (app.get_subcommands().empty()) {
-        error = "a verb is needed: state, invert, form or chart; --help says more";
+        error =
+            "a verb is needed: state, invert, form, chart, catalogue or capacity; --help says more";
         return kWrongUse;
     }
     if (!typed.data.empty()) line.data = typed.data;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "chart/chart_scale.h"
+#include "command/selection_verbs.h"
 #include "command/single_state.h"
 #include "shell/start_up.h"
 
@@ -27,7 +28,7 @@ struct StateOptions {
     std::optional<double> p;
 };
 
-enum class Verb { State, Invert, Form, Chart };
+enum class Verb { State, Invert, Form, Chart, Catalogue, Capacity };
 
 struct CommandLine {
     Verb verb = Verb::State;
@@ -38,6 +39,8 @@ struct CommandLine {
     std::optional<StateOptions> state;
     ChartRequest chart;
     std::optional<Convention> convention;  // of the verbs form and chart; empty as in the settings
+    CatalogueRequest catalogue;
+    CapacityRequest capacity;
 };
 
 // Reads the arguments of the program. An exit status means that there is nothing left to do: help

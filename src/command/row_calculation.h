@@ -11,7 +11,8 @@ namespace zandrell {
 enum class ColumnNeed {
     Always,         // the column, and a number in each row
     ColumnMayLack,  // a number in each row, if there is the column
-    NumberMayLack   // neither column nor number, unless the calculation asks for it
+    NumberMayLack,  // neither column nor number, unless the calculation asks for it
+    Text            // the column may lack; what it says goes to TakeText
 };
 
 struct InputColumn {
@@ -32,6 +33,13 @@ class RowCalculation {
     // there is none, where that is known. Requires: numbers where the need of the column says so.
     virtual void Calculate(std::span<const std::optional<double>> inputs,
                            std::span<std::optional<double>> results, std::string& reason) = 0;
+
+    // Told before Calculate what a column of texts says in the row; not told without the column.
+    virtual void TakeText(std::size_t /*input*/, std::string_view /*text*/) {}
+
+    // Asked after Calculate: the text that stands for a result in place of its number, an empty one
+    // for an empty cell; null where the result is a number.
+    virtual const std::string* TextResult(std::size_t /*result*/) const { return nullptr; }
 };
 
 }  // namespace zandrell

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <set>
 
+#include "command/record_writer.h"
 #include "command/table_cells.h"
 
 namespace zandrell {
@@ -63,6 +64,8 @@ class RowRun {
     void WriteCsvRow(std::string_view text);
     void WriteJsonRow();
     void AppendJsonInput(std::string& json, std::size_t column) const;
+    void AppendJsonResult(std::string& json, std::size_t result) const;
+    const std::string* TextResult(std::size_t result) const;
 
     void Flush() {
         output_.Flush();
@@ -79,6 +82,7 @@ class RowRun {
     std::vector<std::string_view> cells_;
     std::vector<std::optional<double>> inputs_;
     std::vector<std::optional<double>> results_;
+    bool calculated_ = false;  // the row; only then may its texts be asked for
 };
 
 bool RowRun::TakeHeader(const LineReader::Line& line, std::string& error) {
@@ -97,7 +101,10 @@ bool RowRun::TakeHeader(const LineReader::Line& line, std::string& error) {
     if (!FindColumns(error)) return false;
     if (json_) return NamesAreFitForJson(error);
     output_.buffer += line.text;
-    for (const auto result : calculation_.Results()) output_.buffer.append(",").append(result);
+    for (const auto result : calculation_.Results()) {
+        output_.buffer += ',';
+        AppendCsvText(output_.buffer, result);
+    }
     output_.EndLine();
     return true;
 }
@@ -132,6 +139,7 @@ void RowRun::TakeRow(const LineReader::Line& line) {
     std::string reason;
     std::fill(inputs_.begin(), inputs_.end(), std::nullopt);
     std::fill(results_.begin(), results_.end(), std::nullopt);
+    calculated_ = false;
     if (ReadCells(line, reason) && ReadNumbers(reason)) FindResults(reason);
     if (!reason.empty()) {
         reports_.buffer.append(LineName(line.number)).append(reason);
@@ -162,6 +170,10 @@ bool RowRun::ReadNumbers(std::string& reason) {
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         if (places_[i] == kNoColumn) continue;
         const std::string_view cell = cells_[places_[i]];
+        if (columns_[i].need == ColumnNeed::Text) {
+            calculation_.TakeText(i, CellText(cell));
+            continue;
+        }
         inputs_[i] = NumberInCell(cell);
         const bool blank = cell.find_first_not_of(" \t\"") == std::string_view::npos;
         if (inputs_[i] || (blank && columns_[i].need == ColumnNeed::NumberMayLack)) continue;
@@ -174,7 +186,9 @@ bool RowRun::ReadNumbers(std::string& reason) {
 
 void RowRun::FindResults(std::string& reason) {
     calculation_.Calculate(inputs_, results_, reason);
+    calculated_ = true;
     for (std::size_t i = 0; i < results_.size(); ++i) {
+        if (TextResult(i) != nullptr) continue;
         if (results_[i] && std::isfinite(*results_[i])) continue;
         results_[i].reset();
         if (reason.empty()) {
@@ -189,9 +203,13 @@ void RowRun::WriteCsvRow(std::string_view text) {
     // A row that is too short is filled up, so that later columns stay below their names.
     const std::size_t cells = std::max<std::size_t>(cells_.size(), 1);
     if (cells < names_.size()) buffer.append(names_.size() - cells, ',');
-    for (const auto& value : results_) {
+    for (std::size_t i = 0; i < results_.size(); ++i) {
         buffer += ',';
-        if (value) AppendNumber(buffer, *value);
+        if (const std::string* text_result = TextResult(i)) {
+            AppendCsvText(buffer, *text_result);
+        } else if (results_[i]) {
+            AppendNumber(buffer, *results_[i]);
+        }
     }
 }
 
@@ -209,6 +227,22 @@ void RowRun::AppendJsonInput(std::string& json, std::size_t column) const {
     }
 }
 
+// Null for a number, and for every cell of a row that was not calculated.
+const std::string* RowRun::TextResult(std::size_t result) const {
+    return calculated_ ? calculation_.TextResult(result) : nullptr;
+}
+
+void RowRun::AppendJsonResult(std::string& json, std::size_t result) const {
+    const std::string* text = TextResult(result);
+    if (text != nullptr && !text->empty()) {
+        AppendJsonString(json, *text);
+    } else if (text == nullptr && results_[result]) {
+        AppendNumber(json, *results_[result]);
+    } else {
+        json += "null";
+    }
+}
+
 void RowRun::WriteJsonRow() {
     std::string& buffer = output_.buffer;
     char mark = '{';
@@ -219,12 +253,10 @@ void RowRun::WriteJsonRow() {
         AppendJsonInput(buffer, i);
     }
     for (std::size_t i = 0; i < results_.size(); ++i) {
-        buffer.append(",\"").append(calculation_.Results()[i]).append("\":");
-        if (results_[i]) {
-            AppendNumber(buffer, *results_[i]);
-        } else {
-            buffer += "null";
-        }
+        buffer += ',';
+        AppendJsonString(buffer, calculation_.Results()[i]);
+        buffer += ':';
+        AppendJsonResult(buffer, i);
     }
     buffer += '}';
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 
 namespace zandrell {
 
@@ -42,5 +44,23 @@ struct SelectionInputs {
     double BetriebsFreq = 0;  // Hz
     double QoFreq = 0;        // kW at BetriebsFreq
 };
+
+// One of its numbers by name: the one member pointer or the other is set.
+struct NumberInput {
+    std::string_view name;
+    double SelectionInputs::*number = nullptr;
+    int SelectionInputs::*whole = nullptr;
+};
+
+extern const std::array<NumberInput, 24> kNumberInputs;
+
+// Null for a name that is none of theirs; names are exact.
+const NumberInput* NumberInputNamed(std::string_view name);
+
+// Whole numbers take the nearest one. A value that is not finite, or beyond an int, changes
+// nothing.
+void SetInput(SelectionInputs& shared, const NumberInput& input, double value);
+
+double InputOf(const SelectionInputs& shared, const NumberInput& input);
 
 }  // namespace zandrell

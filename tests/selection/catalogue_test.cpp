@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogue_files.h"
 #include "selection/unit_figures.h"
+#include "support/catalogue_files.h"
 
 namespace zandrell {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "catalogue_files.h"
+#include "support/catalogue_files.h"
 #include "support/test_folder.h"
 
 namespace zandrell {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogue_files.h"
+#include "support/catalogue_files.h"
 
 namespace zandrell {
 namespace {
