@@ -44,6 +44,7 @@ TEST(Ventp, SaysInMode2WhetherAWordIsMissing) {
     EXPECT_EQ(Ventp("Eskedal Öre", 2, "", hidden), 0);
     EXPECT_EQ(Ventp("", 2, "Alp", hidden), 1);
     EXPECT_EQ(Ventp("2 ÷ 3", 2, "2 × 3", hidden), 1) << "signs have no capitals";
+    EXPECT_EQ(Ventp("ß", 2, "ÿ", hidden), 1) << "its capital is not in the code page's row";
     EXPECT_EQ(Ventp("Eskedal", 3, "Alp", hidden), 0);
 }
 
