@@ -4,6 +4,10 @@
 
 namespace zandrell {
 
+// The largest side of a window or picture that shows the chart, in pixels: several screens side by
+// side, and far below what a picture's counters can hold.
+inline constexpr int kLargestPictureSide = 20000;
+
 // What a text of a drawing is for; it settles how far the text may leave its place.
 enum class TextRole {
     AxisNumber,  // stands at its line of the grid or not at all

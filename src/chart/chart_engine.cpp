@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/file_names.h"
 #include "base/number_text.h"
 #include "canvas/palette.h"
 #include "chart/chart_painting.h"
@@ -11,7 +12,6 @@
 namespace zandrell {
 namespace {
 
-constexpr std::string_view kSettingsFile = "qv_par.dat";
 constexpr int kProjectWithPressure = 111;
 constexpr double kToolColumnTwips = 2600;  // as designed
 
@@ -121,7 +121,7 @@ bool ChartEngine::FollowWidth(int width_twips) {
 }
 
 void ChartEngine::ReadSettings(double& druck) {
-    const auto stamp = files_.Stamp(kSettingsFile);
+    const auto stamp = files_.Stamp(kChartSettingsFile);
     if (stamp != settings_stamp_) {
         ReadChartSettings(files_, file_settings_);
         settings_stamp_ = stamp;

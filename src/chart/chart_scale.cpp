@@ -7,6 +7,8 @@
 namespace zandrell {
 namespace {
 
+// The span of the axis as a multiple of the range of temperatures: room for the labels.
+constexpr double kMollierSpan = 1.07, kCarrierSpan = 1.2;
 constexpr double kChartWidth = 1800, kChartHeight = 580;  // canvas units that the ranges fill
 constexpr int kLeftEdge = 35;
 constexpr int kBottomEdgeMollier = 560, kBottomEdgeCarrier = 500;
@@ -51,7 +53,8 @@ void ApplyZoom(const ZoomFrame& frame, double factor_x, double factor_y, ChartSc
 
 void SuiteScale(const ChartSettings& settings, ChartScale& scale) {
     const bool mollier = settings.DiagrammArt == kMollier;
-    const double spanT = (mollier ? 1.07 : 1.2) * (settings.ChartTMax - settings.ChartTMin);
+    const double spanT =
+        (mollier ? kMollierSpan : kCarrierSpan) * (settings.ChartTMax - settings.ChartTMin);
     const double spanX = settings.ChartXMax - settings.ChartXMin;
     scale.NullpunktX = kLeftEdge;
     scale.NullpunktY = mollier ? kBottomEdgeMollier : kBottomEdgeCarrier;

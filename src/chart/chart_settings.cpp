@@ -1,17 +1,17 @@
 #include "chart/chart_settings.h"
 
 #include "base/delimited_text.h"
+#include "base/file_names.h"
 
 namespace zandrell {
 namespace {
 
-constexpr std::string_view kSettingsFile = "qv_par.dat";
 constexpr int kExactItem = 1;
 
 }  // namespace
 
 FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings) {
-    const FileText file = files.OpenForInput(kSettingsFile);
+    const FileText file = files.OpenForInput(kChartSettingsFile);
     if (file.status != FileStatus::Ok) return file.status;
     DelimitedReader reader(file.text);
     settings.convention = Convention::Suite;
@@ -39,7 +39,7 @@ FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& setti
     writer.Number(settings.DiagrammArt).EndLine();
     writer.Number(settings.Helligkeit).EndLine();
     if (settings.convention == Convention::Exact) writer.Number(kExactItem).EndLine();
-    return files.OpenForOutput(kSettingsFile, writer.Result(), Durability::Flushed, reason);
+    return files.OpenForOutput(kChartSettingsFile, writer.Result(), Durability::Flushed, reason);
 }
 
 }  // namespace zandrell

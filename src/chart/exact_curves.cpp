@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "base/unit_factors.h"
 #include "canvas/label_placer.h"
 #include "canvas/palette.h"
 #include "chart/exact_painting.h"
@@ -109,7 +110,7 @@ std::optional<double> TemperatureOf(const ChartPainting& painting, double densit
 
 // From dry to saturated air, in the Mollier chart's units.
 Polyline DensityLine(const ChartPainting& painting, double density) {
-    constexpr double kPascalPerBar = 1e5, kSlack = 2;  // K that dry air may lie off the gas law
+    constexpr double kSlack = 2;  // K that dry air may lie off the gas law
     const double dry =
         painting.settings.pressure_bar * kPascalPerBar / (kGasConstantAir * density) -
         kKelvinOffset;

@@ -52,7 +52,7 @@ class FigureList {
         }
         writer_.Lacking().Lacking();
         // The pressure drop of a unit without a kv value is that of the unit before it. Those that
-        // regulate show it all the same, which is meant.
+        // regulate show it all the same, as the list of the suite does.
         if (unit.KatWert == 0 && !regulates) {
             writer_.Lacking();
         } else {

@@ -8,6 +8,7 @@
 
 #include "base/shared_values.h"
 #include "base/text_encoding.h"
+#include "canvas/canvas.h"
 #include "command/table_cells.h"
 #include "selection/catalogue.h"
 
@@ -102,8 +103,8 @@ void TakeState(const TypedOptions& typed, CommandLine& line) {
 }
 
 int SideOf(double pixels) {
-    if (!(pixels >= 1 && pixels <= ChartRequest::kLargestSide) || pixels != std::floor(pixels)) {
-        Refuse("--size: each side has 1 to " + std::to_string(ChartRequest::kLargestSide) +
+    if (!(pixels >= 1 && pixels <= kLargestPictureSide) || pixels != std::floor(pixels)) {
+        Refuse("--size: each side has 1 to " + std::to_string(kLargestPictureSide) +
                " whole pixels");
     }
     return static_cast<int>(pixels);

@@ -13,8 +13,6 @@ namespace zandrell {
 
 // What to draw, and where to.
 struct ChartRequest {
-    static constexpr int kLargestSide = 20000;  // pixels
-
     std::string output;
     std::string script;       // a file, "-" for the standard input, empty for none
     std::optional<int> kind;  // kMollier or kCarrier; empty as in the settings

@@ -1,5 +1,7 @@
 #include "command/scripted_chart.h"
 
+#include "base/file_names.h"
+
 namespace zandrell {
 
 ScriptedChart::ScriptedChart(const CommandLine& line, const std::string& script,
@@ -16,7 +18,7 @@ ScriptedChart::ScriptedChart(const CommandLine& line, const std::string& script,
 bool ScriptedChart::Run(std::string& error) {
     if (!RunScript(error)) return false;
     if (!form_.solver.HasCoefficients()) {
-        error = files_.Resolve("qvdata.dat").string() + ": " +
+        error = files_.Resolve(kCoefficientFile).string() + ": " +
                 std::string(StatusWord(form_.solver.CoefficientStatus()));
         return false;
     }

@@ -3,6 +3,7 @@
 #include <istream>
 #include <ostream>
 
+#include "base/file_names.h"
 #include "chart/chart_settings.h"
 #include "command/row_calculations.h"
 #include "command/single_state.h"
@@ -10,8 +11,6 @@
 
 namespace zandrell {
 namespace {
-
-constexpr std::string_view kCoefficientFile = "qvdata.dat";
 
 // What the tables need of the data folder.
 struct CalculationData {

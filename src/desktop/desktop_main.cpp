@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 
+#include "canvas/canvas.h"
 #include "desktop/look.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_user.h"
@@ -52,8 +53,8 @@ bool ReadSize(Arguments& arguments) {
     if (arguments.size.empty()) return true;
     const int read =
         std::sscanf(arguments.size.c_str(), "%5dx%5d", &arguments.width, &arguments.height);
-    return read == 2 && arguments.width >= 400 && arguments.width <= 16000 &&
-           arguments.height >= 300 && arguments.height <= 16000;
+    return read == 2 && arguments.width >= 400 && arguments.width <= kLargestPictureSide &&
+           arguments.height >= 300 && arguments.height <= kLargestPictureSide;
 }
 
 NamedFolder DataFolderOf(const Arguments& arguments) {

@@ -17,8 +17,6 @@ class PanelBuilder {
     // Both outlive the builder.
     PanelBuilder(FormMirror& mirror, QWidget* parent) : mirror_(mirror), parent_(parent) {}
 
-    void SetParent(QWidget* parent) { parent_ = parent; }
-
     QLabel* Caption(const Control& control, bool heading = false);
     // Fixed signs, coloured like a caption.
     QLabel* Words(const QString& text, const Control& like);

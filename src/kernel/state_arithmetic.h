@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/unit_factors.h"
 #include "kernel/humid_air_state.h"
 #include "kernel/water_air_tables.h"
 
@@ -9,7 +10,6 @@
 // a state as they need. For all others there is humid_air_state.h.
 namespace zandrell {
 
-inline constexpr double kPascalPerBar = 100000;
 inline constexpr double kIdealVapourBelow = 611;           // Pa, about the triple point
 inline constexpr double kDensityFactor = 1.124;            // fitted to the density of humid air
 inline constexpr double kMolarMassRatio = 18.015 / 28.96;  // water to air

@@ -1,13 +1,10 @@
 #include "kernel/state_solver.h"
 
+#include "base/file_names.h"
 #include "kernel/state_arithmetic.h"
 
 namespace zandrell {
-namespace {
-
-constexpr std::string_view kCoefficientFile = "qvdata.dat";
-
-}  // namespace
+namespace {}  // namespace
 
 struct StateSolver::Kept {
     WaterAirTables tables;

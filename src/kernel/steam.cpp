@@ -3,14 +3,13 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/unit_factors.h"
 #include "kernel/air_state.h"
 #include "kernel/steam_terms.h"
 #include "kernel/water_air_tables.h"
 
 namespace zandrell {
 namespace {
-
-constexpr double kPascalPerBar = 100000;
 
 double ReducedPressure(const WaterAirTables& tables, double p_bar) {
     return p_bar * kPascalPerBar / tables.RefDruck;

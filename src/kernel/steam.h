@@ -17,7 +17,8 @@ double SaettigungsDruck(const WaterAirTables& tables, double theta, int modus);
 double SiedeTemperatur(const WaterAirTables& tables, double p_bar);
 
 // Specific volume of steam in m3/kg at T (K) and p_bar: sub-region 2 of the formulation without its
-// sum over mu = 6..8, left out on purpose, so volumes at high pressure differ from published ones.
+// sum over mu = 6..8, which humid air does not reach and none of the suite's modules counts;
+// volumes at high pressure therefore differ from published ones.
 double DampfVolumen(const WaterAirTables& tables, double T, double p_bar);
 
 // Specific enthalpy of steam in kJ/kg at T (K) and p_bar: sub-region 2, with that sum.

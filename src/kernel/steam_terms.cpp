@@ -147,8 +147,8 @@ EnthalpyTerms MakeEnthalpyTerms(const WaterAirTables& tables, const SteamPowers&
 double VolumeAt(const WaterAirTables& tables, const VolumeTerms& terms, double beta) {
     double sum = 0;
     for (std::size_t i = terms.sums.size(); i-- > 0;) sum = sum * beta + terms.sums[i];
-    // The fractions of rows 6..8 do not enter the volume: kept so on purpose, the enthalpy has
-    // them.
+    // The fractions of rows 6..8 do not enter the volume: at the pressures of humid air they count
+    // for less than the fit of the volume, and the suite's figures are made without them.
     double chi = tables.IdealI1 * terms.theta / beta - sum;
     const double ratio = beta / terms.boundary_pressure;
     if (!(ratio < kBoundaryTermFrom)) {

@@ -42,7 +42,7 @@ Encoder EncoderFor(const QString& path) {
     return nullptr;
 }
 
-bool IsPaintableSide(int pixels) { return pixels >= 1 && pixels <= kLargestChartSide; }
+bool IsPaintableSide(int pixels) { return pixels >= 1 && pixels <= kLargestPictureSide; }
 
 }  // namespace
 
@@ -95,7 +95,7 @@ bool WriteChartFile(const RecordingCanvas& picture, const Overlay& overlay, cons
     }
     if (!IsPaintableSide(width) || !IsPaintableSide(height)) {
         error =
-            path + ": a chart has sides of 1 to " + std::to_string(kLargestChartSide) + " pixels";
+            path + ": a chart has sides of 1 to " + std::to_string(kLargestPictureSide) + " pixels";
         return false;
     }
     const QByteArray bytes = encode(picture, overlay, width, height);

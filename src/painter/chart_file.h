@@ -4,15 +4,14 @@
 #include <QImage>
 #include <string>
 
+#include "canvas/canvas.h"
 #include "canvas/recording_canvas.h"
 #include "chart/overlay.h"
 
 namespace zandrell {
 
-inline constexpr int kLargestChartSide = 32000;  // pixels
-
 // The chart with its process. Requires of all three: a QGuiApplication, and sides of 1 to
-// kLargestChartSide pixels.
+// kLargestPictureSide pixels.
 QImage ChartImage(const RecordingCanvas& picture, const Overlay& overlay, int width, int height);
 QByteArray ChartSvg(const RecordingCanvas& picture, const Overlay& overlay, int width, int height);
 QByteArray ChartPdf(const RecordingCanvas& picture, const Overlay& overlay, int width, int height);

@@ -3,12 +3,12 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/unit_factors.h"
 #include "kernel/inverse_state.h"
 
 namespace zandrell {
 namespace {
 
-constexpr double kSecondsPerHour = 3600;
 constexpr double kGramsPerKg = 1000;
 constexpr double kEnthalpySearchStep = 50;  // K, first move of the search is half of it
 
@@ -41,7 +41,7 @@ struct WaterHumidifierInlet {
 
 // Heats air of humidity x only so far that the humidifier can then follow a line of constant
 // enthalpy to t1 and the supply humidity. The relative humidity there is cut to whole per cents,
-// and this is meant.
+// finer than any control holds it.
 std::optional<WaterHumidifierInlet> InletFor(StateSolver& solver, const AirPoint& before_fan,
                                              double x) {
     if (!solver.Evaluate(1, before_fan.t)) return std::nullopt;

@@ -12,7 +12,8 @@
 //
 // The balances are the usual ones per kg of dry air (as in ASHRAE Handbook Fundamentals, chapter
 // Psychrometrics). Throughout, the ratio of a humidity ratio to that of saturation is taken for the
-// relative humidity; what is computed from it comes out a little too dry, and this is meant.
+// relative humidity; what is computed from it comes out a little too dry. Plants that were planned
+// with the suite were planned with these figures.
 namespace zandrell {
 
 // What one run holds of the panel's fields.
@@ -27,7 +28,8 @@ struct PlantInputs {
     bool steam = false;           // humidifier: steam, else water
 };
 
-// A fan rise above 3 K is never used: it falls back to 1 K, not to 3, and this is meant.
+// A fan rise above 3 K is taken for a slip of the pen, not for a large fan: it falls back to the
+// usual 1 K.
 inline constexpr double kHighestFanRise = 3, kFallbackFanRise = 1;  // K
 
 // x of the exhaust and the supply air as the fields have them.
@@ -96,13 +98,14 @@ std::optional<CoolerWay> CoolerWayOf(StateSolver& solver, bool steam, const Coil
 
 // The way with the cooler not in use: the mixed air goes straight to the heater. Answers the
 // heater's outlet. With a water humidifier the coil's enthalpy hKa is taken off its enthalpy
-// whenever the coil state was computed at all (else it is 0), and this is meant.
+// whenever the coil state was computed at all (else it is 0); the suite's figures are made so.
 std::optional<AirPoint> HeaterWayOf(StateSolver& solver, bool steam, const AirPoint& mixed,
                                     const AirPoint& before_fan, double hKa);
 
 // What it takes to bring the dry-air flow mL (kg/h) from one enthalpy to the other, in kW. Each
 // enthalpy is divided by 1 - x / 1000 with the humidity given beside it: cooler, heater and
-// humidifier are counted so, the room loads are not, and this is meant.
+// humidifier are counted so, as per kg of moist air; the room loads per kg of dry air. The suite's
+// other modules size their coils by these figures.
 double CapacityKw(double mL, double from_h, double from_x, double to_h, double to_x);
 
 // Water that brings the flow mL from one humidity to the other, counted in the same way, kg/h.

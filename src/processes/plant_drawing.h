@@ -19,8 +19,8 @@ class PlantDrawing {
     // Clears the drawing first when the run before went the other way.
     void StartWay(bool other_way_than_before);
     void DrawCoolerWay(const PlantRun& run, const AirPoint& heated);
-    // On the suite's Carrier chart the marks and the ends at the supply stay unturned, and this is
-    // meant: all its modules draw them so.
+    // On the suite's Carrier chart the marks and the ends at the supply stay unturned: all its
+    // modules draw them so.
     void DrawHeaterWay(const PlantRun& run, const AirPoint& heated);
 
   private:

@@ -3,13 +3,13 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/unit_factors.h"
 #include "base/unit_texts.h"
 #include "processes/figure_text.h"
 
 namespace zandrell {
 namespace {
 
-constexpr double kSecondsPerHour = 3600;
 constexpr double kMarkSize = 14;  // canvas units
 constexpr std::string_view kPowerUnit = " kW", kWaterUnit = " kg/h";
 static_assert(kPowerUnit.substr(1) == UnitKW);
@@ -45,7 +45,8 @@ void PlantPanel::TakeBarsFromFields() {
     }
     taScroll.ShowTenths(ParsedNumber(Taus.text));
     tzuScroll.ShowTenths(ParsedNumber(TZuluft.text));
-    // Converted plainly, so that a decimal comma ends the number here: this is meant.
+    // Converted plainly, so that a decimal comma ends the number here, as in every plant that the
+    // suite has opened; Return in the field reads the comma.
     tabScroll.ShowTenths(ToDouble(tabLuft.text));
     Phiaussenscroll.ShowTenths(ParsedNumber(PhiAussen.text));
     PHIAbscroll.ShowTenths(ParsedNumber(PHIAbluft.text));
@@ -211,8 +212,8 @@ void PlantPanel::HeatOnly(const PlantRun& run) {
     ShowHeaterFigures(run, *heated);
 }
 
-// The humidifier's text keeps what it showed when no humidifier is needed, and the condensate of
-// the point panel is never touched here: both are meant.
+// Without need of a humidifier its text keeps what it showed last, and the condensate of the point
+// panel is no figure of the plant.
 void PlantPanel::ShowCoolerFigures(const PlantRun& run, const CoolerWay& way) {
     const AirPoint &mixed = run.mixing.mixed, &coil = run.coil.air;
     const double mL = run.mixing.mL, factor = run.Anzeigefaktor;
@@ -221,7 +222,7 @@ void PlantPanel::ShowCoolerFigures(const PlantRun& run, const CoolerWay& way) {
     if (std::isfinite(cooler_kw)) context_.figures.KuehlLeistText = NumberText(cooler_kw);
     if (!way.BefeuchterNoetig) {
         // Counted with the saturation humidity in front of the fan, not with that of the supply:
-        // this is meant.
+        // the suite's way of counting per kg of moist air.
         const FanInlet& inlet = run.fan_inlet;
         ShowHeaterBehindCooler(CapacityKw(mL, way.hKaus, coil.x, inlet.air.h, inlet.xs1), factor);
         return;
@@ -238,7 +239,7 @@ void PlantPanel::ShowHeaterBehindCooler(double capacity_kw, double factor) {
     AssignFinite(context_.figures.HeizLeist, shown);
 }
 
-// Units follow here without a blank between: this is meant.
+// The units follow without a blank: wide figures have to fit the labels.
 void PlantPanel::ShowHeaterFigures(const PlantRun& run, const AirPoint& heated) {
     const AirPoint& mixed = run.mixing.mixed;
     const double mL = run.mixing.mL, factor = run.Anzeigefaktor;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/unit_factors.h"
 #include "canvas/palette.h"
 #include "processes/figure_text.h"
 #include "processes/state_change.h"
@@ -13,9 +14,9 @@ namespace {
 
 constexpr double kMarkCorner = 6;  // canvas units from a state up and left to its mark's corner
 constexpr int kFlowBarEnd = 200, kFlowBarMiddle = 100;
-constexpr double kSecondsPerHour = 3600;
 constexpr double kKgPerHourOfGramPerSecond = 3.6;
-constexpr double kTrialFlow = 1000;  // m3/h
+constexpr double kTrialFlow = 1000;          // m3/h
+constexpr double kHalfOfLastDecimal = 0.05;  // kJ/kg; enthalpies are rounded, not cut
 
 bool HasCapacity(Calculation mode) { return mode == Calculation::Capacity || IsTool(mode); }
 bool IsHumidityInput(double percent) { return percent > 0 && percent <= 100; }
@@ -34,7 +35,7 @@ void CentreFlowBar(ScrollBar& bar, double& step, double flow) {
 
 void ShowStateTexts(const AirState& state, Label& absolute, Label& enthalpy) {
     ShowNumber(absolute, Cut(state.ZustandX, 100));
-    ShowNumber(enthalpy, Cut(state.ZustandH + 0.05, 10));
+    ShowNumber(enthalpy, Cut(state.ZustandH + kHalfOfLastDecimal, 10));
 }
 
 }  // namespace
@@ -147,7 +148,8 @@ bool PointPanel::EvaluateFilledInState(Calculation mode, bool states_known) {
     if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
     ZustandX2 = solver.ZustandX;
     enthalpy2_ = solver.ZustandH;
-    if (mode != Calculation::WaterHumidifier) ShowNumber(enth2, Cut(enthalpy2_ + 0.05, 10));
+    if (mode != Calculation::WaterHumidifier)
+        ShowNumber(enth2, Cut(enthalpy2_ + kHalfOfLastDecimal, 10));
     return true;
 }
 
@@ -174,7 +176,8 @@ void PointPanel::FillInSecondState(Calculation mode, const Inputs& inputs) {
 void PointPanel::KeepHumidity(std::optional<double> fraction) {
     if (!fraction) return;
     ShowNumber(relF2, std::floor(1000 * *fraction) / 10);
-    // Also at the cooler's cap, where less is left in the air: this is meant.
+    // Also at the cooler's cap, where less is left in the air: what came in is what planners look
+    // for behind a dry coil, and the load below counts the condensate.
     ShowNumber(absF2, Cut(ZustandX1, 100));
 }
 
@@ -184,7 +187,7 @@ void PointPanel::HumidifyWithWater(const Inputs& inputs) {
     relF2.background = air->impossible ? kLightRed : kWhite;
     ShowNumber(relF2, Cut(air->rel_percent, 10));
     ShowNumber(absF2, Cut(air->x, 100));
-    ShowNumber(enth2, Cut(enthalpy1_ + 0.05, 10));
+    ShowNumber(enth2, Cut(enthalpy1_ + kHalfOfLastDecimal, 10));
 }
 
 void PointPanel::HumidifyWithSteam(const Inputs& inputs) {
@@ -229,7 +232,8 @@ void PointPanel::ShowCapacity(Calculation mode, const Inputs& inputs) {
     AssignFinite(figures.GesamtLeist, total);
     AssignFinite(figures.LatentLeist, latent);
     AssignFinite(figures.SensibelLeist, sensible);
-    // Cut with the decimals of the capacity, unlike the text KondW: this is meant.
+    // Cut with the decimals of the capacity, as the print-outs of the suite show it; the text KondW
+    // has its own.
     AssignFinite(figures.KondensatWasser, Cut(water_kg_per_h, decimals.capacity));
     figures.KuehlLeistText = Kleist.text;
 }
@@ -251,7 +255,8 @@ void PointPanel::MarkenSetzen(Calculation mode, MarkPlacing marke) {
 
     const CanvasPoint point1 = context_.scale.PointOf(ZustandX1, ParsedNumber(t1));
     CanvasPoint point2 = context_.scale.PointOf(ZustandX2, ParsedNumber(t2));
-    // Heating is drawn as a vertical line whichever chart is on: this is meant.
+    // Heating keeps x, which on the Mollier chart is a vertical line; the Carrier chart of the
+    // suite draws it vertically too.
     if (mode == Calculation::Heater) point2.x = point1.x;
 
     Overlay& overlay = context_.overlay;
@@ -268,7 +273,9 @@ void PointPanel::PlaceMixture() {
     const ProcessFigures& figures = context_.figures;
     const CanvasPoint point = context_.scale.PointOf(figures.MischX, figures.MischTemp);
     overlay.tmLab.text = context_.captions[Caption::Mixing];
-    overlay.tmLab.left = point.x;  // exactly at the point, unlike the other labels: this is meant
+    // Exactly at the point, unlike the other labels: the label alone marks a mixture whose ring
+    // lies under that of a state.
+    overlay.tmLab.left = point.x;
     overlay.tmLab.top = point.y;
     overlay.PP3.PlaceAt(point, kMarkCorner);
     overlay.tmLab.visible = overlay.PP3.visible = true;

@@ -42,7 +42,8 @@ class PointPanel {
     void BindActs(ActTable& acts);
 
     // Shows and hides what the mode needs, takes the bar ranges from the chart and shows the panel.
-    // Tscroll2, hidden by the steam humidifier, is never shown again in a run: this is meant.
+    // Tscroll2 stays hidden once the steam humidifier has hidden it: from then on state 2 is
+    // typed, as the suite's users know it.
     void ShowForMode(Calculation mode);
 
     // Reads the six fields, computes both states, lets the tool fill in state 2, draws, and gives

@@ -21,7 +21,7 @@ struct Loads {
 // point at the higher of the two temperatures and the humidity of the other state (the usual split,
 // as in ASHRAE Handbook Fundamentals): at constant temperature for the latent share, at constant
 // humidity for the sensible one. When state 2 is the warmer, total and water count from state 1 to
-// 2 and both shares the other way round: this is meant. Empty when the
+// 2 and both shares the other way round, so that heating shows positive shares. Empty when the
 // auxiliary point is outside the limits of the state function.
 std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
                                   const AirPoint& second, double air_kg_per_s);
@@ -45,8 +45,8 @@ struct Mixture {
     double rel_percent = 0;  // close to 100 for a mixture that would lie in the fog
 };
 
-// The mixture of two flows in m3/h, both positive. The weights are volume flows, not mass flows,
-// and this is meant.
+// The mixture of two flows in m3/h, both positive. The weights are volume flows, as they are
+// measured in ducts; with mass flows the mixture would lie nearer to the colder, denser air.
 Mixture MixtureOf(StateSolver& solver, const AirPoint& first, double flow1_m3_per_h,
                   const AirPoint& second, double flow2_m3_per_h);
 

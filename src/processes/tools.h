@@ -13,7 +13,8 @@ namespace zandrell {
 // (g/kg) of the entering air. Capped at 0.9: a coil does not leave saturated air.
 std::optional<double> HumidityBehindCooler(StateSolver& solver, double x1, double t2);
 
-// The same behind a heater. Has no cap: above 1 for a t2 below the dew point, and this is meant.
+// The same behind a heater. Has no cap: above 1 tells that t2 lies below the dew point, where no
+// heater leads.
 std::optional<double> HumidityBehindHeater(StateSolver& solver, double x1, double t2);
 
 struct WaterHumidified {

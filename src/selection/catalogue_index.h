@@ -52,8 +52,8 @@ struct SeriesPlace {
 // The hidden cell of a series in the list: address, the marker "#$§", two blanks, base name.
 std::string Locator(const IndexLine& line);
 
-// Two ways to take a locator apart that are not alike, which is meant: the suite's other modules
-// write locators too. The first opens a series: the last 4 characters in front of the marker are
+// Two ways to take a locator apart that are not alike, since the suite's other modules write
+// locators too. The first opens a series: the last 4 characters in front of the marker are
 // its address, and the last 7 of the cell its base name, so that one of fewer than 5 characters
 // would bring a piece of the marker along. Without a marker the address is 0.
 SeriesPlace PlaceToOpen(std::string_view locator);

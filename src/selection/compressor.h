@@ -23,7 +23,7 @@ double VerdichterWirkungsgrad(double pc, double dpc, double po, double dpo, doub
 
 // Takes family and step out of the code of a compressor: 3 for a first letter S in either case,
 // else 1; the last character 1, 2 or 3, any other is 2. A blank code leaves both as they were for
-// the unit before, which is meant.
+// the unit before: in a catalogue it stands only where it changes.
 void SetCompressorKind(std::string_view code, SelectionInputs& shared);
 
 }  // namespace zandrell

@@ -26,7 +26,8 @@ InverterFigures inverter_rech(int position, SelectionInputs& shared);
 
 // A frequency in Hz was typed. Empty, and nothing changed, unless it lies between 0 and 100. The
 // ratio is that of the mains to the frequency, the other way round than by the slider, and the
-// electric figure has no factor; both are meant. Sets BetriebsFreq, Label25 and, when the inverter
+// electric figure has no factor: a slider is moved to try a speed, a frequency is typed from the
+// plate of a machine. Sets BetriebsFreq, Label25 and, when the inverter
 // has a mains frequency, `MainsFrequency` in Hz.
 std::optional<InverterFigures> TypedFrequency(double frequency, SelectionInputs& shared,
                                               double& MainsFrequency);

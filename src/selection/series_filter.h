@@ -24,7 +24,8 @@ inline constexpr int kIsMissing = 2;
 
 // Mode 1: 1 if a hidden text occurs inside `name`, else 0; `list` is not used. Mode 2: 0 if the
 // trimmed `list` occurs inside `name`, which an empty one does, else 1. The two answer in opposite
-// senses, which is meant. Any other mode: 0. Upper and lower case make no difference.
+// senses: each says 1 where a series is to be left out. Any other mode: 0. Upper and lower case
+// make no difference.
 int Ventp(std::string_view name, int mode, std::string_view list, const HiddenSeries& hidden);
 
 }  // namespace zandrell

@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "base/number_text.h"
+#include "canvas/canvas.h"
 #include "shell/form_dump.h"
 
 namespace zandrell {
@@ -126,7 +127,7 @@ bool FormScript::RunWindowAct(const Words& words, std::string& error) {
         int width = 0, height = 0;
         const bool sized = words.size() == 3 && ReadWhole(words[1], width) &&
                            ReadWhole(words[2], height) && width > 0 && height > 0 &&
-                           width <= 32767 && height <= 32767;
+                           width <= kLargestPictureSide && height <= kLargestPictureSide;
         if (!sized) return Fail(error, "window needs a width and a height in pixels");
         form_.Resize(width, height);
     }

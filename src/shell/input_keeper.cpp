@@ -1,11 +1,9 @@
 #include "shell/input_keeper.h"
 
+#include "base/file_names.h"
+
 namespace zandrell {
-namespace {
-
-constexpr std::string_view kWorkingStateFile = "QV_ACT.dat";
-
-}  // namespace
+namespace {}  // namespace
 
 WorkingStateFields InputKeeper::Fields() {
     auto& plant = processes_.plant;

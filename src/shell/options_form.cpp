@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/file_names.h"
 #include "base/number_text.h"
 #include "base/unit_texts.h"
 
@@ -10,10 +11,18 @@ namespace {
 
 constexpr double kLowestHeight = -200, kHighestHeight = 3000;  // m, both exclusive
 
-// Air pressure in bar at a height in m above sea level: the standard atmosphere with its surface at
-// 15 degC and 1.013 bar.
+// The standard atmosphere (ISO 2533) with its surface at 15 degC, rounded as the suite has it.
+constexpr double kSurfacePressure = 1.013;     // bar
+constexpr double kSurfaceTemperature = 288;    // K
+constexpr double kLapseRate = 0.0065;          // K/m
+constexpr double kPressureExponent = 5.255;    // g M / (R lapse rate)
+constexpr double kHalfOfLastDecimal = 0.0005;  // bar; what is shown is cut after it
+
+// Air pressure in bar at a height in m above sea level, ready to be cut to three decimals.
 double PressureAtHeight(double height_m) {
-    return 0.0005 + 1.013 * std::pow(1 - 0.0065 * height_m / 288, 5.255);
+    return kHalfOfLastDecimal +
+           kSurfacePressure *
+               std::pow(1 - kLapseRate * height_m / kSurfaceTemperature, kPressureExponent);
 }
 
 }  // namespace
@@ -156,7 +165,7 @@ void OptionsForm::Opt_speich() {
     typed.Helligkeit = white.on ? kWhiteGround : kBlackGround;
     std::string reason;
     if (WriteChartSettings(files_, typed, &reason) != FileStatus::Ok) {
-        const std::string path = files_.Resolve("qv_par.dat").string();
+        const std::string path = files_.Resolve(kChartSettingsFile).string();
         user_.ShowMessage({shared_.AppTitle, "Can not write file:   - " + path + " - : " + reason,
                            MessageIcon::Stop});
         return;

@@ -19,9 +19,9 @@ PlantInputs Summer() {
     return inputs;
 }
 
-// Exhaust 26 degC, 50 %: 10.49 g/kg, 52.9 kJ/kg. Prescribed dry-air flow V * rho * (1 - x / 1000) =
-// 11621 kg/h; the dry air that 10000 m3 really hold is 11601 kg, 0.17 % less, since x counts on dry
-// air. Behind the fan (27 degC) the enthalpy comes out 0.5 kJ/kg below that of 10.49 g/kg.
+// Exhaust 26 degC, 50 %: 10.49 g/kg, 52.9 kJ/kg. The plant's dry-air flow V * rho * (1 - x / 1000)
+// = 11621 kg/h; the dry air that 10000 m3 really hold is 11601 kg, 0.17 % less, since x counts on
+// dry air. Behind the fan (27 degC) the enthalpy comes out 0.5 kJ/kg below that of 10.49 g/kg.
 TEST(Plant, MixingByHand) {
     ProcessWindow window;
     const auto mixing = MixingOf(window.solver, Summer());
