@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <system_error>
 
@@ -19,6 +20,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kDefaultRecordLength = 128;
+// How a file is named that is written beside its target, and when it is surely nobody's any more.
+constexpr std::string_view kBeside = ".XXXXXX.part";
+constexpr int kBesideSuffix = 5;
+constexpr auto kAbandonedAfter = std::chrono::hours(1);
 
 std::string SystemWords(int error) { return std::generic_category().message(error); }
 
@@ -106,10 +111,31 @@ mode_t ModeFor(const fs::path& target) {
     return ::stat(target.c_str(), &about) == 0 ? (about.st_mode & 0777U) : kNewFile;
 }
 
+// Whether a file was to become the target, and its writer did not live to see it.
+bool IsAbandoned(const fs::path& file, const std::string& target_name) {
+    const std::string name = file.filename().string();
+    const bool beside = name.size() == target_name.size() + kBeside.size() &&
+                        name.starts_with(target_name + ".") &&
+                        name.ends_with(kBeside.substr(kBeside.size() - kBesideSuffix));
+    if (!beside) return false;
+    std::error_code error;
+    const auto written = fs::last_write_time(file, error);
+    return !error && fs::file_time_type::clock::now() - written > kAbandonedAfter;
+}
+
+void ClearAbandoned(const fs::path& target) {
+    std::error_code error;
+    const std::string name = target.filename().string();
+    for (fs::directory_iterator entry(target.parent_path(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (IsAbandoned(entry->path(), name)) ::unlink(entry->path().c_str());
+    }
+}
+
 // 0, or the number of the first error.
 int ReplaceFile(const fs::path& target, std::string_view bytes, Durability durability) {
-    std::string beside = target.string() + ".XXXXXX";
-    Descriptor file(::mkstemp(beside.data()));
+    std::string beside = target.string() + std::string(kBeside);
+    Descriptor file(::mkstemps(beside.data(), kBesideSuffix));
     if (!file.Valid()) return errno;
     int error = ErrorOf(::fchmod(file.Handle(), ModeFor(target)));
     if (error == 0) error = WriteAll(file.Handle(), bytes);
@@ -123,6 +149,7 @@ int ReplaceFile(const fs::path& target, std::string_view bytes, Durability durab
     const Descriptor folder(
         ::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder.Valid()) ::fsync(folder.Handle());
+    if (durability == Durability::Flushed) ClearAbandoned(target);
     return 0;
 }
 

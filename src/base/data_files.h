@@ -70,7 +70,8 @@ class DataFiles {
     FileText OpenForInput(std::string_view name, std::uintmax_t largest = kLargestText) const;
 
     // Replaces the whole file by `text` (encoded as the suite's files are): written beside it,
-    // flushed and renamed, so that the old or the new content stands there, never half. Ok, or
+    // flushed and renamed, so that the old or the new content stands there, never half. What an
+    // earlier write that was cut off has left beside it is cleared away. Ok, or
     // NotWritten with the words of the system in `reason` ("No space left on device").
     FileStatus OpenForOutput(std::string_view name, std::string_view text,
                              Durability durability = Durability::Flushed,

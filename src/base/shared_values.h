@@ -40,7 +40,12 @@ struct SharedValues {
 
     std::string ProjectTitle;
     std::string ProjectRemark;
-    std::string HandOverTitle;  // what a sibling module adds to the window title
+    std::string ProjectFileName;  // as the project dialog left it, also after a cancel
+    std::string LastProjectFile;  // of the project in hand; empty: none
+    std::string ProjectText;      // a text that a sibling module hands over and gets back
+    std::string VltFileName;      // the set of values chosen last
+    std::string ResultText;       // what a dialog gives back
+    std::string HandOverTitle;    // what a sibling module adds to the window title
     std::string ProjektFeldDatei = "QV_ACT.dat";
     int ProjektArt = 0;
     double project_pressure_bar = 0;  // the pressure stored with a project of kind 111

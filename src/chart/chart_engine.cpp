@@ -131,8 +131,9 @@ void ChartEngine::ReadSettings(double& druck) {
     if (convention_override) settings.convention = *convention_override;
     // A stored project brings its own pressure; the options' pressure is passed over while it is
     // open.
-    if (shared_.ProjektArt == kProjectWithPressure)
-        settings.pressure_bar = shared_.project_pressure_bar;
+    const double handed_over = shared_.project_pressure_bar;
+    const bool possible = handed_over > kLowestPressureBar && handed_over <= kHighestPressureBar;
+    if (shared_.ProjektArt == kProjectWithPressure && possible) settings.pressure_bar = handed_over;
     druck = settings.pressure_bar;
     solver_.ChartDruckBar = druck;
 }
@@ -170,6 +171,7 @@ void ChartEngine::Paint(Canvas& canvas, bool on_printer) {
         painting.progress_word = captions_[Caption::RelativeHumidity];
     }
     (settings.convention == Convention::Exact ? PaintExactChart : PaintSuiteChart)(painting);
+    if (additions && solver_.HasCoefficients()) additions(canvas);
     controls.ConsPN1.visible = false;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "base/captions.h"
 #include "base/shared_values.h"
 #include "canvas/recording_canvas.h"
@@ -57,6 +59,7 @@ class ChartEngine {
     std::optional<int> kind_override;  // a chart kind that is not to be kept in the settings
     std::optional<Convention> convention_override;  // the same for the convention
     Canvas* printer = nullptr;                      // the target of ChartTask::PaintPrinter
+    std::function<void(Canvas&)> additions;         // what others draw on each finished chart
 
     // a and b are the zoom factors for ChartTask::PaintZoomed (the frame is ZoomShape), the
     // pointer's place for the read-outs. `druck` (bar) receives the pressure in force.

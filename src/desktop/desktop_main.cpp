@@ -21,7 +21,7 @@ constexpr double kShareOfScreen = 0.88;
 constexpr const char* kNoDisplay = "there is no usable display; zandrell-calc works without one";
 
 struct Arguments {
-    std::string data_folder, script, size;
+    std::string data_folder, script, size, project;
     int width = 0, height = 0;  // pixels; 0: as the screen allows
 };
 
@@ -82,6 +82,10 @@ int Run(const Arguments& arguments, QApplication& application) {
     window.resize(size);
     window.show();
     window.Start();
+    if (!arguments.project.empty()) {
+        window.OpenProject(
+            QString::fromStdString(std::filesystem::absolute(arguments.project).string()));
+    }
     ScriptRunner script(form, window, user);
     if (!arguments.script.empty() && !script.Start(arguments.script)) {
         return Fail(arguments.script + ": can not be read");
@@ -100,6 +104,7 @@ int main(int argc, char** argv) {
     command_line.add_option("--script", arguments.script, "Acts to perform after the start")
         ->type_name("FILE");
     command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");
+    command_line.add_option("project", arguments.project, "A project to open")->type_name("FILE");
     CLI11_PARSE(command_line, argc, argv);
     if (!zandrell::ReadSize(arguments)) {
         return zandrell::Fail("--size takes a width and a height in pixels, such as 1280x800");

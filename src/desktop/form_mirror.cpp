@@ -1,8 +1,10 @@
 #include "desktop/form_mirror.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QIcon>
 #include <QStringList>
+#include <QTextDocument>
 #include <algorithm>
 #include <optional>
 
@@ -46,8 +48,13 @@ QStringList ItemsOf(const QComboBox& box) {
     return items;
 }
 
+constexpr int kLongestTip = 300;  // characters
+
 QString TipOf(const QWidget* widget, const Control& control) {
     QString tip = Utf8(control.tool_tip);
+    if (tip.size() > kLongestTip) tip = tip.left(kLongestTip - 1) + QChar(0x2026);
+    // A user's text that looks like markup is no markup.
+    if (Qt::mightBeRichText(tip)) tip = tip.toHtmlEscaped();
     const QString key = widget->property("key").toString();
     if (key.isEmpty()) return tip;
     return tip + (tip.isEmpty() ? QString() : QStringLiteral("  ")) + QLatin1Char('(') + key +
@@ -80,7 +87,8 @@ void FormMirror::AddCommon(QWidget* widget, const Control& control) {
             widget->setEnabled(control.enabled);
         }
         const QString tip = TipOf(widget, control);
-        if (!tip.isEmpty() && widget->toolTip() != tip) widget->setToolTip(tip);
+        const bool own = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+        if ((own || !tip.isEmpty()) && widget->toolTip() != tip) widget->setToolTip(tip);
     });
 }
 
@@ -138,6 +146,8 @@ void FormMirror::Bind(QSlider* bar, const ScrollBar& control) {
     bar->setOrientation(Qt::Horizontal);
     bar->setPageStep(10);
     const std::string_view name = control.name;
+    QObject::connect(bar, &QSlider::sliderPressed, bar, [this] { window_.BeginDrag(); });
+    QObject::connect(bar, &QSlider::sliderReleased, bar, [this] { window_.EndDrag(); });
     QObject::connect(bar, &QSlider::actionTriggered, bar, [this, bar, name] {
         const int position = bar->sliderPosition();
         Perform([&] { window_.UserScroll(name, position); });
@@ -204,7 +214,7 @@ void FormMirror::Bind(QComboBox* box, const ComboBox& control) {
     });
 }
 
-void FormMirror::Bind(QListWidget* list, const ListBox& control) {
+void FormMirror::Bind(QListWidget* list, const ListBox& control, ListChoice choice) {
     AddCommon(list, control);
     AddColours(list, control);
     const std::string_view name = control.name;
@@ -212,6 +222,25 @@ void FormMirror::Bind(QListWidget* list, const ListBox& control) {
         const int row = list->currentRow();
         if (row >= 0) Perform([&] { window_.UserSelect(name, row); });
     };
+    if (choice == ListChoice::Activation) {
+        QObject::connect(list, &QListWidget::itemActivated, list, select);
+    } else {
+        BindRows(list, control, select);
+    }
+    writers_.push_back([list, &control, shown = QStringList()]() mutable {
+        const QStringList items = TextsOf(control);
+        if (shown != items) {
+            shown = items;
+            list->clear();
+            list->addItems(items);
+        }
+        if (list->currentRow() != control.index) list->setCurrentRow(control.index);
+    });
+}
+
+void FormMirror::BindRows(QListWidget* list, const ListBox& control,
+                          const std::function<void()>& select) {
+    const std::string_view name = control.name;
     // A click on the item that is chosen already is a choice too; the arrow keys only move the row.
     // Rows that the form itself has set are no acts.
     QObject::connect(list, &QListWidget::itemClicked, list, select);
@@ -225,15 +254,6 @@ void FormMirror::Bind(QListWidget* list, const ListBox& control) {
         if (!list->hasFocus() || QApplication::mouseButtons() != Qt::NoButton) return;
         select();
         Perform([&] { window_.UserReturn(name); });
-    });
-    writers_.push_back([list, &control, shown = QStringList()]() mutable {
-        const QStringList items = TextsOf(control);
-        if (shown != items) {
-            shown = items;
-            list->clear();
-            list->addItems(items);
-        }
-        if (list->currentRow() != control.index) list->setCurrentRow(control.index);
     });
 }
 

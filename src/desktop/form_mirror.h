@@ -21,6 +21,10 @@
 
 namespace zandrell {
 
+// What chooses in a list: the row that is reached by pointer or keys, or only a double click or the
+// Return key on it.
+enum class ListChoice { Row, Activation };
+
 // Ties the widgets of a window to the controls of its form. What a user does to a widget becomes an
 // act of the form; after each act the whole form is compared with the widgets and only differences
 // are written. Widgets are bound to signals that the program itself never fires, so nothing echoes.
@@ -43,7 +47,7 @@ class FormMirror {
     void Bind(QRadioButton* option, const OptionButton& control);
     void Bind(QCheckBox* box, const CheckBox& control);
     void Bind(QComboBox* box, const ComboBox& control);
-    void Bind(QListWidget* list, const ListBox& control);
+    void Bind(QListWidget* list, const ListBox& control, ListChoice choice = ListChoice::Row);
     void Bind(QAction* action, const MenuEntry& control);
     void Bind(QMenu* menu, const MenuEntry& control);
     // A picture button with its caption, if any; a click does what a click on either does.
@@ -73,6 +77,7 @@ class FormMirror {
     void AddColours(QWidget* widget, const Control& control);
     void AddCommon(QWidget* widget, const Control& control);
     void MirrorFont(QWidget* widget);
+    void BindRows(QListWidget* list, const ListBox& control, const std::function<void()>& select);
 
     WindowForm& window_;
     Pictures& pictures_;

@@ -2,7 +2,10 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QUrl>
 #include <algorithm>
 #include <map>
 
@@ -16,6 +19,29 @@ namespace {
 bool OpensMenu(std::string_view entry) {
     return std::any_of(kMenuTree.begin(), kMenuTree.end(),
                        [entry](const MenuBranch& branch) { return branch.parent == entry; });
+}
+
+using Keys = QList<QKeySequence>;
+
+const std::map<std::string_view, Keys>& StandardKeys() {
+    static const std::map<std::string_view, Keys> keys = {
+        {"Undo", {QKeySequence::Undo}},
+        {"Redo", {QKeySequence(QStringLiteral("Ctrl+Y")), QKeySequence::Redo}},
+        {"NeuPro", {QKeySequence::New}},
+        {"ProLad", {QKeySequence::Open}},
+        {"ProSpeich", {QKeySequence::Save}},
+        {"ProSpeichU", {QKeySequence(QStringLiteral("Ctrl+Shift+S"))}},
+    };
+    return keys;
+}
+
+// The first project among what is dragged; empty: none.
+QString ProjectIn(const QMimeData& dragged) {
+    for (const QUrl& url : dragged.urls()) {
+        const QString path = url.toLocalFile();
+        if (path.endsWith(QStringLiteral(".prj"), Qt::CaseInsensitive)) return path;
+    }
+    return {};
 }
 
 }  // namespace
@@ -35,6 +61,8 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
     setCentralWidget(centre);
     MakeMenus();
     mirror_.after_act = [this] { Refresh(); };
+    setAcceptDrops(true);
+    for (QLineEdit* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
     user.Attach({this, &form, &pictures_, [this] {
                      mirror_.Mirror();
                      Refresh();
@@ -63,6 +91,8 @@ void MainWindow::MakeMenus() {
             auto* action = new QAction(place);
             place->addAction(action);
             mirror_.Bind(action, *entry);
+            const auto key = StandardKeys().find(branch.entry);
+            if (key != StandardKeys().end()) action->setShortcuts(key->second);
         }
     }
 }
@@ -76,8 +106,12 @@ void MainWindow::Start() {
 void MainWindow::TellSize() { form_.Resize(centralWidget()->width(), centralWidget()->height()); }
 
 void MainWindow::Refresh() {
-    const QString title = ShownText(form_.title);
+    // "[*]" is the place of the mark for unsaved changes, and such signs in a title stand twice.
+    QString title = ShownText(form_.title);
+    title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    title += QStringLiteral("[*]");
     if (windowTitle() != title) setWindowTitle(title);
+    if (isWindowModified() != form_.modified) setWindowModified(form_.modified);
     chart_->Sync();
     point_view_->Place();
     plant_view_->Place();
@@ -98,6 +132,30 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         mirror_.Mirror();
     }
     event->setAccepted(form_.ended);
+}
+
+void MainWindow::OpenProject(const QString& path) {
+    mirror_.Perform([&] { form_.OpenProject(path.toStdString()); });
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!ProjectIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString path = ProjectIn(*event->mimeData());
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    OpenProject(path);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool ours = key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+        if (ours) return true;  // not accepted: it goes on to the menu's shortcuts
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 }  // namespace zandrell

@@ -20,6 +20,9 @@ class MainWindow : public QMainWindow {
     // Tells the form the window's size and activates it; once, when the window has its size.
     void Start();
 
+    // Of the program's arguments or a file manager.
+    void OpenProject(const QString& path);
+
     FormMirror& Mirror() { return mirror_; }
     ChartWidget& Chart() { return *chart_; }
     // Writes all that differs between form and window.
@@ -28,6 +31,11 @@ class MainWindow : public QMainWindow {
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    // A project file that is dropped on the window is opened.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    // Undo and redo are the window's, not those of the field with the focus.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void MakeMenus();

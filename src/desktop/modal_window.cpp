@@ -1,5 +1,6 @@
 #include "desktop/modal_window.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -13,7 +14,11 @@ ModalWindow::ModalWindow(ModalForm& form, Pictures& pictures, QWidget* parent)
 
 void ModalWindow::Refresh() {
     mirror_.Mirror();
-    if (form_.closed && isVisible()) done(QDialog::Accepted);
+    if (form_.closed && isVisible()) {
+        done(QDialog::Accepted);
+    } else {
+        Refreshed();
+    }
 }
 
 void ModalWindow::Run() {
@@ -35,9 +40,14 @@ void ModalWindow::keyPressEvent(QKeyEvent* event) {
         button->click();
         return;
     }
-    // A field with an act of its own has performed it by now; the window stays open.
-    const auto* field = qobject_cast<QLineEdit*>(focusWidget());
-    if (field && form_.acts.Has(field->objectName().toStdString(), ActKind::Return)) return;
+    // A field or list with an act of its own has performed it by now; what happens to the window is
+    // up to that.
+    if (const QWidget* widget = focusWidget()) {
+        const std::string name = widget->objectName().toStdString();
+        const bool list = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+        if (form_.acts.Has(name, ActKind::Return)) return;
+        if (list && form_.acts.Has(name, ActKind::Select)) return;
+    }
     mirror_.Click(form_.default_control);
 }
 

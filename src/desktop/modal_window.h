@@ -23,6 +23,8 @@ class ModalWindow : public QDialog {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    // Behind each comparison with the form.
+    virtual void Refreshed() {}
 
     ModalForm& form_;
     FormMirror mirror_;

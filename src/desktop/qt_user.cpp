@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "desktop/options_window.h"
+#include "desktop/project_window.h"
 #include "painter/chart_file.h"
 
 namespace zandrell {
@@ -54,16 +55,26 @@ bool QtUser::Confirm(const Message& question) {
 
 void QtUser::ShowModal(ModalForm& window) {
     Refresh();
-    if (auto* options = dynamic_cast<OptionsForm*>(&window); options && opener_.form) {
+    if (!opener_.form) return Refuse(window);
+    if (auto* options = dynamic_cast<OptionsForm*>(&window)) {
         OptionsWindow dialog(*options, opener_.form->captions, opener_.form->chart.picture,
                              *opener_.pictures, opener_.window);
-        if (on_window) on_window(&window);
-        dialog.Run();
-        if (on_window) on_window(nullptr);
-        return;
+        return Run(dialog, window);
     }
-    window.UserClick(window.cancel_control);
+    if (auto* projects = dynamic_cast<ProjectDialog*>(&window)) {
+        ProjectWindow dialog(*projects, *opener_.pictures, opener_.window);
+        return Run(dialog, window);
+    }
+    Refuse(window);
 }
+
+void QtUser::Run(ModalWindow& dialog, ModalForm& window) const {
+    if (on_window) on_window(&window);
+    dialog.Run();
+    if (on_window) on_window(nullptr);
+}
+
+void QtUser::Refuse(ModalForm& window) { window.UserClick(window.cancel_control); }
 
 void QtUser::WaitMilliseconds(int milliseconds) {
     if (milliseconds <= 0) return;

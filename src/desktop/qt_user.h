@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/modal_window.h"
 #include "desktop/pictures.h"
 #include "forms/user_interface.h"
 #include "shell/main_form.h"
@@ -42,6 +43,8 @@ class QtUser : public UserInterface {
 
   private:
     void Refresh() const;
+    void Run(ModalWindow& dialog, ModalForm& window) const;
+    static void Refuse(ModalForm& window);
 
     Opener opener_;
     std::unique_ptr<QPrinter> printer_;

@@ -15,8 +15,9 @@
 namespace zandrell {
 namespace {
 
-constexpr int kLeastWidth = 173;  // pixels at scale 1
-constexpr int kToolIcon = 28;     // pixels at scale 1
+constexpr int kLeastWidth = 173;            // pixels at scale 1
+constexpr int kToolIcon = 28;               // pixels at scale 1
+constexpr int kLongestProjectText = 32767;  // what an edit would cut off would be lost
 constexpr int kFirstToolKey = Qt::Key_F2;
 
 // A function key for each tool; its name stands behind the tool tip.
@@ -124,7 +125,7 @@ QWidget* ToolColumn::MakeProjectTexts() {
         layout->addWidget(build.Caption(*caption));
         auto* edit = build.Field(*field, *caption);
         edit->setAlignment(Qt::AlignLeft);
-        edit->setMaxLength(255);
+        edit->setMaxLength(kLongestProjectText);
         layout->addWidget(edit);
     }
     return group;

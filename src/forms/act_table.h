@@ -8,8 +8,20 @@
 
 namespace zandrell {
 
-// What a user can do to a control. Typing runs nothing, except in a combo box, where it is Change.
-enum class ActKind { Click, Press, Release, Return, Choose, Check, Change, Select, DoubleClick };
+// What a user can do to a control. Change is typing; nearly all fields wait for Return instead. A
+// bar has its own handler for Scroll.
+enum class ActKind {
+    Click,
+    Press,
+    Release,
+    Return,
+    Choose,
+    Check,
+    Change,
+    Select,
+    DoubleClick,
+    Scroll
+};
 
 // The one list of what happens when a user acts in a window. Every act of a widget, a script or a
 // test ends in Perform; a control without an entry takes the act and runs nothing.

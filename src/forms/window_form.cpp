@@ -32,13 +32,16 @@ bool WindowForm::UserClick(std::string_view control_name) {
     if (button != nullptr) button->pressed = false;
     acts.Perform(control_name, ActKind::Release);
     acts.Perform(control_name, ActKind::Click);
+    Done(control_name, ActKind::Click);
     return true;
 }
 
 bool WindowForm::UserReturn(std::string_view field) {
     Control* control = form.Find(field);
     if (control == nullptr || !TakesReturn(*control)) return false;
-    if (TakesInput(*control)) acts.Perform(field, ActKind::Return);
+    if (!TakesInput(*control)) return true;
+    acts.Perform(field, ActKind::Return);
+    Done(field, ActKind::Return);
     return true;
 }
 
@@ -47,17 +50,18 @@ bool WindowForm::UserSetText(std::string_view field, std::string_view text) {
     if (control == nullptr || !TakesText(*control)) return false;
     if (!TakesInput(*control)) return true;
     control->text = text;
-    if (auto* list = AsChoiceList(control)) {
-        list->Choose(text);
-        acts.Perform(field, ActKind::Change);
-    }
+    if (auto* list = AsChoiceList(control)) list->Choose(text);
+    acts.Perform(field, ActKind::Change);
+    Done(field, ActKind::Change);
     return true;
 }
 
 bool WindowForm::UserChoose(std::string_view option) {
     Control* control = form.Find(option);
     if (control == nullptr || control->kind != ControlKind::OptionButton) return false;
-    if (TakesInput(*control)) acts.Perform(option, ActKind::Choose);
+    if (!TakesInput(*control)) return true;
+    acts.Perform(option, ActKind::Choose);
+    Done(option, ActKind::Choose);
     return true;
 }
 
@@ -67,6 +71,7 @@ bool WindowForm::UserCheck(std::string_view box, bool on) {
     if (TakesInput(*control)) {
         static_cast<CheckBox*>(control)->on = on;
         acts.Perform(box, ActKind::Check);
+        Done(box, ActKind::Check);
     }
     return true;
 }
@@ -74,7 +79,9 @@ bool WindowForm::UserCheck(std::string_view box, bool on) {
 bool WindowForm::UserScroll(std::string_view bar, int position) {
     Control* control = form.Find(bar);
     if (control == nullptr || control->kind != ControlKind::ScrollBar) return false;
-    if (TakesInput(*control)) static_cast<ScrollBar*>(control)->SetPosition(position);
+    if (!TakesInput(*control)) return true;
+    static_cast<ScrollBar*>(control)->SetPosition(position);
+    Done(bar, ActKind::Scroll);
     return true;
 }
 
@@ -84,6 +91,7 @@ bool WindowForm::UserPick(std::string_view list, std::string_view item) {
     if (!TakesInput(*choices)) return true;
     if (!choices->Choose(item)) return false;
     acts.Perform(list, ActKind::Select);
+    Done(list, ActKind::Select);
     return true;
 }
 
@@ -93,13 +101,16 @@ bool WindowForm::UserSelect(std::string_view list, int index) {
     if (!TakesInput(*choices)) return true;
     if (!choices->Choose(index)) return false;
     acts.Perform(list, ActKind::Select);
+    Done(list, ActKind::Select);
     return true;
 }
 
 bool WindowForm::UserDoubleClick(std::string_view list) {
     ChoiceList* choices = AsChoiceList(form.Find(list));
     if (choices == nullptr) return false;
-    if (TakesInput(*choices)) acts.Perform(list, ActKind::DoubleClick);
+    if (!TakesInput(*choices)) return true;
+    acts.Perform(list, ActKind::DoubleClick);
+    Done(list, ActKind::DoubleClick);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,16 @@ class WindowForm {
     bool bold_labels = false;
     int label_font_size = 10;  // points
 
+    bool modified = false;  // the work shown differs from its file; the title bar tells so
+
+    // A bar that is dragged: the number of the drag; 0: none is.
+    int drag = 0;
+    void BeginDrag() { drag = ++drags_; }
+    void EndDrag() { drag = 0; }
+
+    // Runs behind each act below that a control took, with what it was.
+    std::function<void(std::string_view control, ActKind kind)> after_act;
+
     // The acts of a user. Each returns false when there is no such control of that kind. A control
     // that is hidden or off takes no input: the act is passed over.
     bool UserClick(std::string_view control);
@@ -36,6 +47,13 @@ class WindowForm {
     bool UserPick(std::string_view list, std::string_view item);
     bool UserSelect(std::string_view list, int index);
     bool UserDoubleClick(std::string_view list);
+
+  private:
+    void Done(std::string_view control, ActKind kind) const {
+        if (after_act) after_act(control, kind);
+    }
+
+    int drags_ = 0;
 };
 
 // A window that its opener waits for. It leaves by setting `closed`.

@@ -10,11 +10,8 @@ constexpr std::string_view kUsualCoilHumidity = "95";  // %
 
 }  // namespace
 
-FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
-                              const WorkingStateFields& state) {
-    const FileText file = files.OpenForInput(name);
-    if (file.status != FileStatus::Ok && file.status != FileStatus::Missing) return file.status;
-    DelimitedReader reader(file.text);
+void SetWorkingState(std::string_view text, const WorkingStateFields& state) {
+    DelimitedReader reader(text);
     for (TextField* field : state.fields) {
         field->text.clear();
         reader.ReadText(field->text);
@@ -25,17 +22,29 @@ FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
     coil.text.clear();
     reader.ReadText(coil.text);
     if (ParsedNumber(coil.text) == 0) coil.text = kUsualCoilHumidity;
-    return file.status;
 }
 
-FileStatus ArbeitsfelderSpeichern(const DataFiles& files, std::string_view name,
-                                  const WorkingStateFields& state, std::string* reason) {
+std::string WorkingStateText(const WorkingStateFields& state) {
     DelimitedWriter writer;
     for (const TextField* field : state.fields) writer.Text(field->text).EndLine();
     writer.Boolean(state.steam->on).EndLine();
     writer.Boolean(state.water->on).EndLine();
     writer.Text(state.coil_humidity->text).EndLine();
-    return files.OpenForOutput(name, writer.Result(), Durability::Flushed, reason);
+    return writer.Result();
+}
+
+FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
+                              const WorkingStateFields& state) {
+    const FileText file = files.OpenForInput(name);
+    if (file.status == FileStatus::Ok || file.status == FileStatus::Missing) {
+        SetWorkingState(file.text, state);
+    }
+    return file.status;
+}
+
+FileStatus ArbeitsfelderSpeichern(const DataFiles& files, std::string_view name,
+                                  const WorkingStateFields& state, std::string* reason) {
+    return files.OpenForOutput(name, WorkingStateText(state), Durability::Flushed, reason);
 }
 
 }  // namespace zandrell

@@ -1,12 +1,18 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "base/data_files.h"
 #include "forms/control.h"
 
 namespace zandrell {
+
+// The file in which the inputs of the main window outlive a run, unless a hand-over names another.
+inline constexpr std::string_view kWorkingStateFile = "QV_ACT.dat";
+// The inputs as they were before the last load.
+inline constexpr std::string_view kPreviousStateFile = "QV_ACT.bak";
 
 // The inputs of the main window that outlive a run, in the order in which their file holds them: 17
 // fields, the two humidifier options, and the humidity behind the cooler.
@@ -17,9 +23,16 @@ struct WorkingStateFields {
     TextField* coil_humidity;
 };
 
-// Sets the controls from a working-state file; runs no calculation. An item that the file lacks
-// empties its field, the options stay, and a coil humidity that is missing or 0 becomes "95".
-// Unless the file could be read, or there is none, nothing is touched.
+// Sets the controls from the text of a working-state file; runs no calculation. An item that the
+// text lacks empties its field, the options stay, and a coil humidity that is missing or 0 becomes
+// "95".
+void SetWorkingState(std::string_view text, const WorkingStateFields& state);
+
+// The text of the file, one item a line.
+std::string WorkingStateText(const WorkingStateFields& state);
+
+// Sets the controls from a file; a missing one reads as empty. Unless the file could be read, or
+// there is none, nothing is touched.
 FileStatus ArbeitsfelderLaden(const DataFiles& files, std::string_view name,
                               const WorkingStateFields& state);
 

@@ -1,5 +1,6 @@
 #include "shell/form_dump.h"
 
+#include <filesystem>
 #include <functional>
 #include <utility>
 
@@ -23,6 +24,12 @@ Json Carried(const MainForm& main, const Mark& mark) {
     return main.Pointer().IsCarried(mark) ? 1 : 0;
 }
 
+// Of the process: a window that browses folders moves it.
+Json CurrentFolder() {
+    std::error_code error;
+    return std::filesystem::current_path(error).string();
+}
+
 const std::vector<ProgramValue>& ModeValues() {
     static const std::vector<ProgramValue> values = {
         {"title", [](MainForm& m) { return Json(m.title); }},
@@ -38,6 +45,15 @@ const std::vector<ProgramValue>& ModeValues() {
         {"DialogMode", [](MainForm& m) { return Json(m.shared.DialogMode); }},
         {"OptionenSignal", [](MainForm& m) { return Number(m.shared.OptionenSignal); }},
         {"ProjektArt", [](MainForm& m) { return Json(m.shared.ProjektArt); }},
+        {"modified", [](MainForm& m) { return Json(m.modified); }},
+        {"ProjektFeldDatei", [](MainForm& m) { return Json(m.shared.ProjektFeldDatei); }},
+        {"ProjectTitle", [](MainForm& m) { return Json(m.shared.ProjectTitle); }},
+        {"ProjectRemark", [](MainForm& m) { return Json(m.shared.ProjectRemark); }},
+        {"ProjectFileName", [](MainForm& m) { return Json(m.shared.ProjectFileName); }},
+        {"LastProjectFile", [](MainForm& m) { return Json(m.shared.LastProjectFile); }},
+        {"VltFileName", [](MainForm& m) { return Json(m.shared.VltFileName); }},
+        {"ResultText", [](MainForm& m) { return Json(m.shared.ResultText); }},
+        {"CurrentFolder", [](MainForm&) { return CurrentFolder(); }},
         {"DataFolder", [](MainForm& m) { return Json(m.Files().DataFolder().string()); }},
         {"ProjectFolder", [](MainForm& m) { return Json(m.shared.ProjectFolder); }},
         {"LanguageTag", [](MainForm& m) { return Json(m.shared.LanguageTag); }},
@@ -138,6 +154,7 @@ void AddChoiceList(const ChoiceList& list, Json& json) {
     json["items"] = list.items;
     json["index"] = list.index;
     json["text"] = list.text;
+    json["tool_tip"] = list.tool_tip;
 }
 
 void AddMark(const Mark& mark, Json& json) {
@@ -217,7 +234,9 @@ Json DumpControl(const Control& control) {
 
 }  // namespace
 
-std::vector<ModalForm*> WindowsOf(MainForm& main) { return {&main.options}; }
+std::vector<ModalForm*> WindowsOf(MainForm& main) {
+    return {&main.options, &main.Projects().dialog};
+}
 
 Json DumpForm(MainForm& main) {
     Json json = Json::object();

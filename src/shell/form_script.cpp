@@ -110,6 +110,11 @@ bool FormScript::RunLine(std::string_view line, std::string& error) {
         answers_.emplace_back(value == std::string_view::npos ? "" : line.substr(value));
         return true;
     }
+    if (act == "close" && window_ != nullptr) {
+        window_->UserClick(window_->cancel_control);
+        return true;
+    }
+    if (act == "open") return OpenWindow(words, error);
     if (act == "window" || act == "activate" || act == "close" || act == "pointer") {
         if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
         return act == "pointer" ? RunPointer(words, error) : RunWindowAct(words, error);
@@ -131,6 +136,17 @@ bool FormScript::RunWindowAct(const Words& words, std::string& error) {
         if (!sized) return Fail(error, "window needs a width and a height in pixels");
         form_.Resize(width, height);
     }
+    return true;
+}
+
+bool FormScript::OpenWindow(const Words& words, std::string& error) {
+    if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
+    int mode = 0;
+    if (words.size() < 2 || words[1] != "ProjLaden") return Fail(error, "no such window");
+    if (words.size() != 3 || !ReadWhole(words[2], mode)) {
+        return Fail(error, "open ProjLaden needs its DialogMode");
+    }
+    form_.Projects().OpenDialog(mode);
     return true;
 }
 

@@ -38,6 +38,7 @@ class FormScript {
     bool RunWindowAct(const Words& words, std::string& error);
     bool RunControlAct(const std::string& act, const std::string& name, const std::string& value,
                        std::string& error);
+    bool OpenWindow(const Words& words, std::string& error);
     bool RunPointer(const Words& words, std::string& error);
     bool RunKey(const Target& target, const std::string& key, std::string& error);
     bool Find(const std::string& name, Target& target, std::string& error);

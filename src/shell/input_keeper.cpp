@@ -1,9 +1,8 @@
 #include "shell/input_keeper.h"
 
-#include "base/file_names.h"
+#include <utility>
 
 namespace zandrell {
-namespace {}  // namespace
 
 WorkingStateFields InputKeeper::Fields() {
     auto& plant = processes_.plant;
@@ -17,34 +16,39 @@ WorkingStateFields InputKeeper::Fields() {
         &plant.phiKanal};
 }
 
-void InputKeeper::LoadAtStart() {
-    if (!loaded_) Load();
+void InputKeeper::FollowLoad() {
+    // The shares of a flow are no part of a file; the plant splits the flow where they lack.
+    processes_.plant.vhinnen.text.clear();
+    processes_.plant.vhaussen.text.clear();
+    Follow();
 }
 
-void InputKeeper::Load() {
-    loaded_ = true;
-    const FileStatus status = ArbeitsfelderLaden(files_, kWorkingStateFile, Fields());
-    unread_ = status == FileStatus::Unreadable || status == FileStatus::Malformed;
+void InputKeeper::Follow() {
+    PointPanel& point = processes_.point;
+    PlantPanel& plant = processes_.plant;
+    const Calculation mode = std::exchange(processes_.Rechenmodus, Calculation::None);
+    point.LuftSchritt1 = point.LuftSchritt2 = 0;  // steps of flows that are no longer there
+    point.SchieberAbgleich();
+    if (mode == Calculation::Plant) plant.TakeBarsFromFields();
+    processes_.Rechenmodus = mode;
+    if (mode == Calculation::Plant) {
+        plant.AnlageBerechnen();
+    } else if (mode != Calculation::None) {
+        point.ZustandRechnen(mode, MarkPlacing::FromFields);
+    }
+    ShowProjectTexts();
 }
 
-bool InputKeeper::Save() {
-    std::string reason;
-    const FileStatus status = ArbeitsfelderSpeichern(files_, kWorkingStateFile, Fields(), &reason);
-    if (status != FileStatus::Ok) return TellUnsaved("Can not write file:   - ", reason);
-    unread_ = false;
-    return true;
+void InputKeeper::ShowProjectTexts() {
+    controls_.Proj_T.text = shared_.ProjectTitle;
+    controls_.Schr_T.text = shared_.ProjectRemark;
+    title_changed_();
 }
 
-bool InputKeeper::SaveAtEnd() {
-    if (!unread_) return Save();
-    return TellUnsaved("Can not read file:   - ", files_.OpenForInput(kWorkingStateFile).reason);
-}
-
-bool InputKeeper::TellUnsaved(const std::string& what, const std::string& reason) {
-    std::string text = what + files_.Resolve(kWorkingStateFile).string() + " - ";
-    if (!reason.empty()) text += ": " + reason;
-    user_.ShowMessage({shared_.AppTitle, text, MessageIcon::Stop});
-    return false;
+void InputKeeper::TakeProjectTexts() {
+    shared_.ProjectTitle = controls_.Proj_T.text;
+    shared_.ProjectRemark = controls_.Schr_T.text;
+    title_changed_();
 }
 
 }  // namespace zandrell

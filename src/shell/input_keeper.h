@@ -1,40 +1,45 @@
 #pragma once
 
-#include "base/data_files.h"
+#include <functional>
+
 #include "base/shared_values.h"
-#include "forms/user_interface.h"
 #include "processes/process_panels.h"
 #include "projects/working_state.h"
+#include "shell/main_controls.h"
 
 namespace zandrell {
 
-// The inputs of the main window between runs: loaded once, saved on request and at the end, and
-// never replaced unread.
+// The inputs of the main window, and what follows when they are replaced as a whole.
 class InputKeeper {
   public:
-    // All of it outlives the keeper.
-    InputKeeper(const DataFiles& files, const SharedValues& shared, UserInterface& user,
-                ProcessPanels& processes)
-        : files_(files), shared_(shared), user_(user), processes_(processes) {}
+    // `title_changed` writes the title of the window. All of it outlives the keeper.
+    InputKeeper(SharedValues& shared, ProcessPanels& processes, MainControls& controls,
+                std::function<void()> title_changed)
+        : shared_(shared),
+          processes_(processes),
+          controls_(controls),
+          title_changed_(std::move(title_changed)) {}
 
-    // Once a run: a later activation must not throw away what was typed meanwhile.
-    void LoadAtStart();
-    void Load();
-    // False when nothing was saved; the user has been told why.
-    bool Save();
-    // The same at the end of the program, where a file that could not be read is left alone.
-    bool SaveAtEnd();
+    // Those that outlive a run.
+    WorkingStateFields Fields();
+
+    // After a load, the same behind which nothing is left of what was derived from other inputs.
+    void FollowLoad();
+
+    // After the inputs were replaced: bars and steps are brought in line, the process in force is
+    // computed once, and the project's texts are shown. The bars run nothing meanwhile, so that the
+    // inputs stay as they are.
+    void Follow();
+
+    // Title and remark are one value with their fields, both ways.
+    void ShowProjectTexts();
+    void TakeProjectTexts();
 
   private:
-    WorkingStateFields Fields();
-    bool TellUnsaved(const std::string& what, const std::string& reason);
-
-    const DataFiles& files_;
-    const SharedValues& shared_;
-    UserInterface& user_;
+    SharedValues& shared_;
     ProcessPanels& processes_;
-    bool loaded_ = false;
-    bool unread_ = false;  // a file is there that could not be read
+    MainControls& controls_;
+    std::function<void()> title_changed_;
 };
 
 }  // namespace zandrell

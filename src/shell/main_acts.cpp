@@ -1,12 +1,39 @@
+#include <filesystem>
+#include <string>
+#include <vector>
+
 #include "shell/main_form.h"
 
 namespace zandrell {
+namespace {
+
+// An access key is marked by "&", so that one in a name stands twice.
+std::string MenuText(const std::string& text) {
+    std::string marked;
+    for (const char c : text) marked += c == '&' ? std::string("&&") : std::string(1, c);
+    return marked;
+}
+
+void ShowRecentProjects(MainControls& controls, const std::vector<std::filesystem::path>& paths) {
+    for (std::size_t i = 0; i < controls.recent_entries.size(); ++i) {
+        MenuEntry& entry = controls.recent_entries[i];
+        entry.visible = entry.enabled = i < paths.size();
+        entry.text.clear();
+        if (!entry.visible) continue;
+        entry.text = "&" + std::to_string(i + 1) + " " + MenuText(paths[i].filename().string()) +
+                     "  (" + MenuText(paths[i].parent_path().string()) + ")";
+    }
+    controls.Recent.enabled = !paths.empty();
+}
+
+}  // namespace
 
 void MainForm::BindActs() {
     processes.BindActs(acts);
     BindToolActs();
     BindMenuActs();
     BindPanelActs();
+    BindProjectActs();
 }
 
 void MainForm::BindToolActs() {
@@ -23,8 +50,9 @@ void MainForm::BindToolActs() {
     on_tool(controls.MischButt, [=] { open_and_calculate(Calculation::Mixing); });
     on_tool(controls.BearButt, [this] { panels_.OpenTool(Calculation::Capacity); });
     on_tool(controls.AnlageButt, [this] { panels_.AnlageOeffnen(); });
-    on_tool(controls.PSButt, [this] { inputs_.Save(); });
-    on_tool(controls.PLbutt, [this] { inputs_.Load(); });
+    // A click is a press and a release on the button, or a key: one save for either.
+    on_tool(controls.PSButt, [this] { projects_.QuickSave(); });
+    on_tool(controls.PLbutt, [this] { projects_.QuickLoad(); });
     acts.Add(controls.ZOOMMIN.name, ActKind::Click, [this] { pointer_.ZoomOut(); });
     acts.Add(controls.Command3D7.name, ActKind::Release, [this] { ende_qv(); });
     acts.Add(controls.Command3D2.name, ActKind::Release, [this] { CloseWindow(); });
@@ -52,8 +80,41 @@ void MainForm::BindMenuActs() {
     on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
     on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
     on_menu(controls.kopieren, [this] { user_.CopyChart(); });
-    on_menu(controls.Hsich, [this] { inputs_.Save(); });
-    on_menu(controls.Hlad, [this] { inputs_.Load(); });
+    on_menu(controls.Hsich, [this] { projects_.QuickSave(); });
+    on_menu(controls.Hlad, [this] { projects_.QuickLoad(); });
+}
+
+void MainForm::BindProjectActs() {
+    const auto on = [this](const Control& control, ActKind kind, const ActTable::Handler& handler) {
+        acts.Add(control.name, kind, handler);
+    };
+    on(controls.NeuPro, ActKind::Click, [this] { projects_.NewProject(); });
+    on(controls.ProLad, ActKind::Click, [this] { projects_.LoadProject(); });
+    on(controls.ProSpeich, ActKind::Click, [this] { projects_.SaveProject(); });
+    on(controls.ProSpeichU, ActKind::Click, [this] { projects_.SaveProjectUnder(); });
+    on(controls.PrevState, ActKind::Click, [this] { projects_.RestorePrevious(); });
+    for (std::size_t i = 0; i < controls.recent_entries.size(); ++i) {
+        on(controls.recent_entries[i], ActKind::Click, [this, i] { projects_.OpenRecent(i); });
+    }
+    for (const TextField* field : {&controls.Proj_T, &controls.Schr_T}) {
+        on(*field, ActKind::Change, [this] { inputs_.TakeProjectTexts(); });
+    }
+    on(controls.Undo, ActKind::Click, [this] { undo_.Undo(); });
+    on(controls.Redo, ActKind::Click, [this] { undo_.Redo(); });
+}
+
+void MainForm::OpenProject(const std::filesystem::path& path) {
+    projects_.OpenProject(path);
+    FollowAct({}, ActKind::Click);
+}
+
+void MainForm::FollowAct(std::string_view control, ActKind kind) {
+    undo_.Note(control, kind);
+    controls.Undo.enabled = undo_.CanUndo();
+    controls.Redo.enabled = undo_.CanRedo();
+    controls.PrevState.enabled = projects_.keeper.HasPrevious();
+    modified = projects_.store.IsModified();
+    ShowRecentProjects(controls, projects_.store.recent.Paths());
 }
 
 void MainForm::BindPanelActs() {

@@ -36,6 +36,11 @@ std::string WithUnit(const std::string& word, std::string_view unit) {
     return word + " /[" + std::string(unit) + "]:";
 }
 
+// Such files lack the words that are this program's own.
+std::string OrEnglish(const std::string& word, std::string_view english) {
+    return word.empty() ? std::string(english) : word;
+}
+
 void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& tag) {
     const std::string calculate = words[Caption::Calculate] + " ";
     // The access key of an entry is its first letter unless its text marks another one.
@@ -47,6 +52,10 @@ void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& 
     entry(c.ProLad, LoadProjectEntry(words, tag));
     entry(c.ProSpeich, words[Caption::Save]);
     entry(c.ProSpeichU, words[Caption::Save] + " &" + words[Caption::SaveAsSecond]);
+    entry(c.Recent, OrEnglish(words[Caption::RecentProjects], "Recent Projects"));
+    entry(c.PrevState, OrEnglish(words[Caption::RestorePreviousState], "Restore Previous State"));
+    entry(c.Undo, OrEnglish(words[Caption::Undo], "Undo"));
+    entry(c.Redo, OrEnglish(words[Caption::Redo], "Redo"));
     entry(c.PrinterSetup, words[Caption::Printer]);
     entry(c.Ende, words[Caption::Exit]);
     entry(c.Opt, words[Caption::Settings]);

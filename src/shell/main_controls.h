@@ -41,6 +41,11 @@ struct MainControls {
 
     MenuEntry proj{"proj"}, NeuPro{"NeuPro"}, ProLad{"ProLad"}, ProSpeich{"ProSpeich"},
         ProSpeichU{"ProSpeichU"}, PrinterSetup{"PrinterSetup"}, Ende{"Ende"};
+    // Beside the suite's own entries.
+    MenuEntry Recent{"Recent"}, PrevState{"PrevState"}, Undo{"Undo"}, Redo{"Redo"};
+    std::array<MenuEntry, 8> recent_entries = {
+        MenuEntry("Recent1"), MenuEntry("Recent2"), MenuEntry("Recent3"), MenuEntry("Recent4"),
+        MenuEntry("Recent5"), MenuEntry("Recent6"), MenuEntry("Recent7"), MenuEntry("Recent8")};
     MenuEntry Opt{"Opt"}, qveinst{"qveinst"}, wrgEinst{"wrgEinst"};
     MenuEntry Bearb{"Bearb"}, ZustAe{"ZustAe"}, Misch{"Misch"}, Kleis{"Kleis"}, AnlageS{"AnlageS"},
         Leist_Ber{"Leist_Ber"}, Heiz_start{"Heiz_start"}, Kuehl_start{"Kuehl_start"},
@@ -57,18 +62,30 @@ struct MenuBranch {
     std::string_view entry;
     std::string_view parent;  // empty: in the menu bar
 };
-inline constexpr std::array<MenuBranch, 23> kMenuTree = {{
+inline constexpr std::array<MenuBranch, 35> kMenuTree = {{
     {"proj", ""},
     {"NeuPro", "proj"},
     {"ProLad", "proj"},
+    {"Recent", "proj"},
+    {"Recent1", "Recent"},
+    {"Recent2", "Recent"},
+    {"Recent3", "Recent"},
+    {"Recent4", "Recent"},
+    {"Recent5", "Recent"},
+    {"Recent6", "Recent"},
+    {"Recent7", "Recent"},
+    {"Recent8", "Recent"},
     {"ProSpeich", "proj"},
     {"ProSpeichU", "proj"},
+    {"PrevState", "proj"},
     {"PrinterSetup", "proj"},
     {"Ende", "proj"},
     {"Opt", ""},
     {"qveinst", "Opt"},
     {"wrgEinst", "Opt"},
     {"Bearb", ""},
+    {"Undo", "Bearb"},
+    {"Redo", "Bearb"},
     {"ZustAe", "Bearb"},
     {"Misch", "Bearb"},
     {"Kleis", "Bearb"},

@@ -1,12 +1,13 @@
 #include "shell/main_form.h"
 
 #include "base/number_text.h"
+#include "projects/project_kind.h"
+#include "projects/temperature_lines.h"
 #include "shell/main_captions.h"
 
 namespace zandrell {
 namespace {
 
-constexpr int kProjectWithPressure = 111;
 constexpr int kClosingPause =
     50;  // ms; the suite's modules leave each other time to let go of files
 
@@ -23,9 +24,19 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
       named_folder_(std::move(named)),
       pointer_(chart, solver, overlay, read_out, processes, controls.ZOOMMIN),
       panels_(shared, chart, overlay, processes, pointer_, controls.Shape3),
-      inputs_(files, shared, user, processes) {
+      inputs_(shared, processes, controls, [this] { SetTitle(); }),
+      projects_({files, shared, captions, user}, inputs_.Fields(), processes.figures.KuehlLeistText,
+                {[this] { inputs_.FollowLoad(); }, [this] { Activate(); },
+                 [this](bool busy) { pointer_.SetBusy(busy); }}),
+      undo_({*this, files, shared, processes, overlay, pointer_, panels_, inputs_, projects_,
+             [this] { Activate(); }}) {
     ListControls();
     BindActs();
+    chart.additions = [this](Canvas& canvas) {
+        if (!KindOf(shared.ProjektArt).temperature_lines) return;
+        DrawTemperatureLines(projects_.keeper.Lines(), chart.scale, solver, canvas);
+    };
+    after_act = [this](std::string_view control, ActKind kind) { FollowAct(control, kind); };
 }
 
 void MainForm::ListControls() {
@@ -63,21 +74,28 @@ void MainForm::Activate() {
     const OptionsSignal signal = shared.OptionenSignal;
     shared.OptionenSignal = OptionsSignal::None;
     if (signal == OptionsSignal::Cancelled) return last_step();
-    SetCaptions(*this);
     pointer_.Activated();
-    inputs_.LoadAtStart();
+    const bool inputs_replaced = projects_.Activate();
+    SetCaptions(*this);
     chart.TakeAspect(panels_.WidthTwips());
     SetTitle();
     chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, solver.ChartDruckBar);
-    processes.point.SchieberAbgleich();
-    if (processes.Rechenmodus == Calculation::Plant) processes.plant.AnlageBerechnen();
-    if (shared.ProjektArt == kProjectWithPressure) panels_.AnlageOeffnen();
+    if (inputs_replaced) {
+        inputs_.FollowLoad();
+    } else {
+        processes.point.SchieberAbgleich();
+        if (processes.Rechenmodus == Calculation::Plant) processes.plant.AnlageBerechnen();
+    }
+    if (KindOf(shared.ProjektArt).own_pressure) panels_.AnlageOeffnen();
     last_step();
+    FollowAct({}, ActKind::Click);
 }
 
 void MainForm::PointerPress(PointerButton button, CanvasPoint place) {
     // The right button acts when it is let go.
-    if (button == PointerButton::Left) pointer_.Press(place);
+    if (button != PointerButton::Left) return;
+    pointer_.Press(place);
+    FollowAct({}, ActKind::Press);
 }
 
 void MainForm::PointerMove(CanvasPoint place) { pointer_.Move(place); }
@@ -88,6 +106,7 @@ void MainForm::PointerRelease(PointerButton button) {
     } else {
         pointer_.Release();
     }
+    FollowAct({}, ActKind::Release);
 }
 
 void MainForm::OpenOptions() {
@@ -99,6 +118,7 @@ void MainForm::OpenOptions() {
     shared.ZurueckVomDialog = DialogEcho::None;
     user_.ShowModal(options);
     Activate();
+    undo_.NoteSettings();
 }
 
 void MainForm::AuswahlOeffnen() {
@@ -124,11 +144,7 @@ void MainForm::SetTitle() {
 
 void MainForm::ende_qv() {
     if (ended) return;
-    if (!close_was_held_up_ && !inputs_.SaveAtEnd()) {
-        close_was_held_up_ = true;
-        return;
-    }
-    CloseWindow();
+    if (projects_.SaveAtEnd()) CloseWindow();
 }
 
 void MainForm::CloseWindow() {

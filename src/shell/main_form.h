@@ -8,12 +8,14 @@
 #include "forms/window_form.h"
 #include "kernel/state_solver.h"
 #include "processes/process_panels.h"
+#include "projects/project_desk.h"
 #include "shell/input_keeper.h"
 #include "shell/main_controls.h"
 #include "shell/options_form.h"
 #include "shell/panel_keeper.h"
 #include "shell/pointer_machine.h"
 #include "shell/start_up.h"
+#include "shell/undo_keeper.h"
 
 namespace zandrell {
 
@@ -55,6 +57,9 @@ class MainForm : public WindowForm {
     const PointerMachine& Pointer() const { return pointer_; }
 
     PanelKeeper& Panels() { return panels_; }
+    ProjectDesk& Projects() { return projects_; }
+    // A project that a file manager names.
+    void OpenProject(const std::filesystem::path& path);
 
     // Saves the working state and ends the program; also when the window is closed by its frame.
     // When the inputs cannot be saved the window stays, so that nothing is lost unseen; a second
@@ -71,6 +76,8 @@ class MainForm : public WindowForm {
     void BindToolActs();
     void BindMenuActs();
     void BindPanelActs();
+    void BindProjectActs();
+    void FollowAct(std::string_view control, ActKind kind);
     void SetTitle();
     void OpenOptions();
     void AuswahlOeffnen();
@@ -81,7 +88,8 @@ class MainForm : public WindowForm {
     PointerMachine pointer_;
     PanelKeeper panels_;
     InputKeeper inputs_;
-    bool close_was_held_up_ = false;  // the inputs were not saved, and the user knows
+    ProjectDesk projects_;
+    UndoKeeper undo_;
 };
 
 }  // namespace zandrell

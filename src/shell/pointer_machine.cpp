@@ -292,4 +292,9 @@ void PointerMachine::Activated() {
     chart_.controls.ZoomShape.visible = false;
 }
 
+void PointerMachine::SetBusy(bool busy) {
+    if (busy && shape_ != PointerShape::Busy) shape_when_idle_ = shape_;
+    shape_ = busy ? PointerShape::Busy : shape_when_idle_;
+}
+
 }  // namespace zandrell

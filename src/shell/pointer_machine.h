@@ -58,6 +58,8 @@ class PointerMachine {
     void PanelClosed();
     void OptionsOpened();
     void Activated();
+    // While something takes its time.
+    void SetBusy(bool busy);
 
   private:
     // A mark that can be carried, and the state that it stands for: in the plant, and for the first
@@ -94,6 +96,7 @@ class PointerMachine {
     Button& zoom_out_;
     PointerOwner owner_ = PointerOwner::Nobody;
     PointerShape shape_ = PointerShape::Arrow;
+    PointerShape shape_when_idle_ = PointerShape::Arrow;
     std::array<Carrier, 4> carriers_;
 };
 
