@@ -12,8 +12,6 @@ namespace zandrell {
 namespace {
 
 constexpr std::size_t kLongestText = 24, kLongestFigure = 12;  // characters
-constexpr std::size_t kProject = 25, kRemark = 26, kDate = 38, kSupply = 97, kExtract = 98;
-constexpr std::size_t kOuterAir = 13, kAirFlow = 4;  // of QVCaptList
 
 // Positions in the working state, from 0.
 constexpr std::size_t kTaus = 1, kTZuluft = 2, kTabLuft = 3, kVhAnlage = 4, kPhiZuluft = 6,

@@ -248,6 +248,7 @@ Json DumpForm(MainForm& main) {
     }
     for (ModalForm* window : WindowsOf(main)) {
         if (window->closed) continue;
+        json[window->form.Name() + ".title"] = window->title;
         for (const Control* control : window->form.Controls()) {
             json[window->form.Name() + "." + std::string(control->name)] = DumpControl(*control);
         }
@@ -266,6 +267,7 @@ Json DumpOne(MainForm& main, std::string_view name) {
     if (dot == std::string_view::npos) return {};
     for (ModalForm* window : WindowsOf(main)) {
         if (window->form.Name() != name.substr(0, dot)) continue;
+        if (name.substr(dot + 1) == "title") return window->title;
         if (const Control* control = window->form.Find(name.substr(dot + 1))) {
             return DumpControl(*control);
         }

@@ -26,7 +26,11 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
       panels_(shared, chart, overlay, processes, pointer_, controls.Shape3),
       inputs_(shared, processes, controls, [this] { SetTitle(); }),
       projects_({files, shared, captions, user}, inputs_.Fields(), processes.figures.KuehlLeistText,
-                {[this] { inputs_.FollowLoad(); }, [this] { Activate(); },
+                {[this] { inputs_.FollowLoad(); },
+                 [this] {
+                     Activate();
+                     FollowAct({}, ActKind::Click);
+                 },
                  [this](bool busy) { pointer_.SetBusy(busy); }}),
       undo_({*this, files, shared, processes, overlay, pointer_, panels_, inputs_, projects_,
              [this] { Activate(); }}) {

@@ -42,7 +42,18 @@ class RandomUser {
                 return PointerAct();
         }
     }
-    // The window of the options stays open for a few acts of its own.
+    // A window that opens stays for a few acts of its own.
+    std::string WindowActs(const std::string& window) {
+        return window == "ProjLaden" ? ProjectActs() : OptionsActs();
+    }
+    std::string ProjectActs() {
+        std::string acts;
+        for (const char* act : {"set ProjLaden.Filter a", "select ProjLaden.Order 1",
+                                "set ProjLaden.ProNam a,b", "set ProjLaden.ProNam Halle"}) {
+            if (Below(2) == 0) acts += std::string(act) + "\n";
+        }
+        return acts + "click ProjLaden.Command3D1\nclick ProjLaden.Command3D2\n";
+    }
     std::string OptionsActs() {
         std::string acts;
         for (const char* field : {"absD", "qvTmind", "qvtmaxi", "Xmini", "Xmaxi", "geoH"}) {
@@ -78,7 +89,7 @@ class RandomAnswers : public UserInterface {
     void ShowMessage(const Message& /*message*/) override {}
     void ShowModal(ModalForm& window) override {
         script_->WindowOpened(window);
-        std::istringstream acts(user_.OptionsActs());
+        std::istringstream acts(user_.WindowActs(window.form.Name()));
         std::string error;
         for (std::string act; !window.closed && std::getline(acts, act);) {
             EXPECT_TRUE(script_->RunLine(act, error)) << act << ": " << error;
@@ -128,6 +139,7 @@ TEST(RandomActs, NothingLeavesTheRails) {
         FormScript script(form, dumps);
         answers.SetScript(script);
         form.Load();
+        form.shared.ProjectFolder = session.folder.Path().string();
         form.Resize(1280, 800);
         form.Activate();
         for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i) {

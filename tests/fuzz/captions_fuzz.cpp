@@ -1,0 +1,19 @@
+// Caption files of any bytes, and messages with places in any state.
+#include "base/captions.h"
+#include "fuzz/fuzz_folder.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace zandrell;
+    static fuzz::Folder folder;
+    const std::string_view bytes = fuzz::Bytes(data, size);
+    for (const char* name : {"Caption.XXX", "AirCoCap.XXX", "QVCapt.XXX"})
+        folder.Write(name, bytes);
+    Captions captions;
+    LoadCaptions(folder.Files(), "XXX", captions);
+    LoadAirCoCaptions(folder.Files(), "XXX", captions);
+    LoadQVCaptions(folder.Files(), "XXX", captions);
+    fuzz::Require(captions[Caption::Booster] == "Booster");
+    fuzz::Require(captions[Caption::Project].find('"') == std::string::npos);
+    FilledIn(bytes, {bytes, "%1"});
+    return 0;
+}
