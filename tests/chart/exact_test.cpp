@@ -105,15 +105,15 @@ TEST(Exact, TheWholeRangeLiesOnTheCanvasAndTheAxesBeginWithIt) {
     EXPECT_EQ(chart.read_out.absF.text, " 10");
 }
 
-// Numbers at an axis of the zoomed picture, in the order of drawing.
-std::vector<double> NumbersAt(const RecordingCanvas& picture, bool at_left, bool lowest_row) {
+// Numbers at the axis of t or of x.
+std::vector<double> NumbersAt(const PaintedChart& chart, bool of_t) {
+    const bool mollier = chart.engine.settings.DiagrammArt == kMollier;
     std::vector<double> numbers;
-    for (const auto& o : picture.Operations()) {
+    for (const auto& o : chart.engine.picture.Operations()) {
         if (o.stroke != Stroke::Text || o.role != TextRole::AxisNumber) continue;
-        const bool of_pressure = o.y1 == 548;
-        const bool left = o.x1 <= 5 && o.y1 < 555 && !of_pressure;
-        const bool lowest = o.y1 >= 560;
-        if ((at_left && left) || (lowest_row && lowest)) numbers.push_back(ParsedNumber(o.text));
+        const bool at_side = o.x1 == (mollier ? -5 : 5);
+        const bool at_foot = !at_side && o.y1 == (mollier ? 565 : 560);
+        if (of_t == mollier ? at_side : at_foot) numbers.push_back(ParsedNumber(o.text));
     }
     return numbers;
 }
@@ -139,16 +139,16 @@ TEST(Exact, AZoomShowsWhatTheFrameHeld) {
             EXPECT_LE(margin_left, 0.05 * (lower_right.x - upper_left.x)) << zoom;
             EXPECT_LE(margin_top, 0.05 * (lower_right.y - upper_left.y)) << zoom;
             // Both grids follow: some numbers at each axis, all of them within the picture.
-            const auto side = NumbersAt(chart.engine.picture, true, false);
-            const auto foot = NumbersAt(chart.engine.picture, false, true);
-            for (const auto* numbers : {&side, &foot}) {
-                EXPECT_GE(numbers->size(), 4U) << kind << ' ' << zoom;
-                EXPECT_LE(numbers->size(), 20U) << kind << ' ' << zoom;
-            }
-            const auto [t_low, t_high] = std::minmax(one.t, other.t);
-            for (const double t : kind == kMollier ? side : foot) {
-                EXPECT_GT(t, t_low - 0.1 * (t_high - t_low)) << zoom;
-                EXPECT_LT(t, t_high + 0.1 * (t_high - t_low)) << zoom;
+            for (const bool of_t : {true, false}) {
+                const auto numbers = NumbersAt(chart, of_t);
+                EXPECT_GE(numbers.size(), 4U) << kind << ' ' << zoom;
+                EXPECT_LE(numbers.size(), 20U) << kind << ' ' << zoom;
+                const auto [low, high] =
+                    of_t ? std::minmax(one.t, other.t) : std::minmax(one.x, other.x);
+                for (const double number : numbers) {
+                    EXPECT_GT(number, low - 0.1 * (high - low)) << kind << ' ' << zoom;
+                    EXPECT_LT(number, high + 0.1 * (high - low)) << kind << ' ' << zoom;
+                }
             }
         }
         chart.Paint();

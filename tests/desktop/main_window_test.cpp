@@ -115,7 +115,7 @@ TEST_F(MainWindowTest, ACarriedMarkIsRepaintedWhereItWasAndWhereItComesTo) {
     ChartWidget& chart = window_->Chart();
     const QPointF start = chart.ToWidget(form_.overlay.PP2.state);
     Mouse(chart, QEvent::MouseButtonPress, start);
-    ASSERT_EQ(form_.PP2Gefasst, 1);
+    ASSERT_TRUE(form_.Pointer().IsCarried(form_.overlay.PP2));
     QApplication::processEvents();
     RepaintWatch watch(chart);
     Mouse(chart, QEvent::MouseMove, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
