@@ -60,6 +60,14 @@ void PaintWithWarmCache(benchmark::State& state) {
 }
 BENCHMARK(PaintWithWarmCache)->Unit(benchmark::kMillisecond);
 
+void PaintUnderExact(benchmark::State& state) {
+    StartedForm started;
+    started.form.chart.convention_override = Convention::Exact;
+    double pressure = 0;
+    for (auto _ : state) started.form.chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, pressure);
+}
+BENCHMARK(PaintUnderExact)->Unit(benchmark::kMillisecond);
+
 void PointerMoveWithReadOut(benchmark::State& state) {
     StartedForm started;
     double x = 100;
