@@ -77,6 +77,10 @@ bool LineReader::Next(Line& line) {
     return true;
 }
 
+bool LineReader::HoldsLine() const {
+    return std::memchr(block_.data() + begin_, '\n', end_ - begin_) != nullptr;
+}
+
 bool LineReader::Fill() {
     MakeRoom();
     const auto count = source_({block_.data() + end_, block_.size() - end_});

@@ -26,19 +26,14 @@ class BufferedSink {
   public:
     explicit BufferedSink(ByteSink sink) : sink_(std::move(sink)) {}
 
-    // To be appended to; EndLine or Flush passes it on.
+    // To be appended to; Flush passes it on.
     std::string buffer;
 
-    void EndLine() {
-        buffer += '\n';
-        if (buffer.size() >= kWorthWriting) Flush();
-    }
     void Flush();
     // Stays set: what follows a failed write is dropped.
     bool Failed() const { return failed_; }
 
   private:
-    static constexpr std::size_t kWorthWriting = 1U << 18U;
     ByteSink sink_;
     bool failed_ = false;
 };
@@ -59,6 +54,8 @@ class LineReader {
 
     // False at the end of the input, and when it cannot be read.
     bool Next(Line& line);
+    // Whether Next has a line without asking for more bytes; the texts of earlier lines then stay.
+    bool HoldsLine() const;
     bool Failed() const { return failed_; }
 
   private:

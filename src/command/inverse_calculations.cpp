@@ -15,7 +15,7 @@ using ResultCells = std::span<std::optional<double>>;
 class InverseCalculation : public RowCalculation {
   public:
     InverseCalculation(const DataFiles& files, double default_p_bar)
-        : solver_(files), default_p_bar_(default_p_bar) {}
+        : solver_(files), files_(files), default_p_bar_(default_p_bar) {}
 
     void Calculate(InputValues inputs, ResultCells results, std::string& reason) override {
         double relF = 0, p_bar = inputs.back().value_or(default_p_bar_);
@@ -47,7 +47,13 @@ class InverseCalculation : public RowCalculation {
 
     StateSolver solver_;
 
+    template <typename Calculation>
+    std::unique_ptr<RowCalculation> AnotherOf() const {
+        return std::make_unique<Calculation>(files_, default_p_bar_);
+    }
+
   private:
+    const DataFiles& files_;
     double default_p_bar_;
 };
 
@@ -70,6 +76,8 @@ class HumidityFromX : public InverseCalculation {
     std::span<const InputColumn> Inputs() const override { return kHumidityInputs; }
     std::span<const std::string_view> Results() const override { return kHumidityResults; }
 
+    std::unique_ptr<RowCalculation> Another() const override { return AnotherOf<HumidityFromX>(); }
+
   protected:
     double FirstTemperature(InputValues inputs) const override { return *inputs[0]; }
     void Search(InputValues inputs, ResultCells results, std::string& reason) override {
@@ -91,6 +99,10 @@ class TemperatureFromEnthalpy : public InverseCalculation {
     using InverseCalculation::InverseCalculation;
     std::span<const InputColumn> Inputs() const override { return kEnthalpyInputs; }
     std::span<const std::string_view> Results() const override { return kEnthalpyResults; }
+
+    std::unique_ptr<RowCalculation> Another() const override {
+        return AnotherOf<TemperatureFromEnthalpy>();
+    }
 
   protected:
     double FirstTemperature(InputValues inputs) const override { return *inputs[0]; }
@@ -125,6 +137,10 @@ class TemperatureFromDensity : public InverseCalculation {
     using InverseCalculation::InverseCalculation;
     std::span<const InputColumn> Inputs() const override { return kDensityInputs; }
     std::span<const std::string_view> Results() const override { return kDensityResults; }
+
+    std::unique_ptr<RowCalculation> Another() const override {
+        return AnotherOf<TemperatureFromDensity>();
+    }
 
   protected:
     // The search begins 8 K above its start.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -27,6 +28,10 @@ class RowCalculation {
 
     virtual std::span<const InputColumn> Inputs() const = 0;
     virtual std::span<const std::string_view> Results() const = 0;
+
+    // One like this for another thread, where the two then work at the same time; null where one
+    // has to do.
+    virtual std::unique_ptr<RowCalculation> Another() const { return nullptr; }
 
     // `inputs` and `results` stand in the order of the two lists; the results come empty. A result
     // that does not exist stays empty, or may be no finite number; `reason` says in a few words why

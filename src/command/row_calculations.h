@@ -6,10 +6,11 @@
 
 #include "base/data_files.h"
 #include "command/row_calculation.h"
-#include "kernel/humid_air_state.h"
-#include "kernel/water_air_tables.h"
+#include "kernel/air_state.h"
 
 namespace zandrell {
+
+struct WaterAirTables;
 
 // The results of a state, in the order of the columns that the state calculation adds.
 inline constexpr std::size_t kStateResults = 8;

@@ -8,6 +8,7 @@
 
 #include "command/row_calculations.h"
 #include "command/table_cells.h"
+#include "kernel/humid_air_state.h"
 
 namespace zandrell {
 namespace {
@@ -57,9 +58,8 @@ bool FindState(const WaterAirTables& tables, StateQuestion& question, FoundResul
         return false;
     }
     if (relF != question.rh / 100) question.rh = relF * 100;
-    const auto results = ResultsOf(EvaluateHumidity(
-        tables, EvaluateTemperature(tables, EvaluatePressure(tables, question.p), question.t),
-        relF));
+    const auto results =
+        ResultsOf(EvaluateAt(tables, EvaluatePressure(tables, question.p), relF, question.t));
     for (std::size_t i = 0; i < found.size(); ++i) {
         if (std::isfinite(results[i])) found[i] = results[i];
     }

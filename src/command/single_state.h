@@ -2,10 +2,9 @@
 
 #include <string>
 
-#include "kernel/humid_air_state.h"
-#include "kernel/water_air_tables.h"
-
 namespace zandrell {
+
+struct WaterAirTables;
 
 // What a state is asked for: degC, per cent, bar.
 struct StateQuestion {

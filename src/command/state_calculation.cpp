@@ -3,6 +3,7 @@
 
 #include "command/row_calculations.h"
 #include "command/table_cells.h"
+#include "kernel/humid_air_state.h"
 
 namespace zandrell {
 namespace {
@@ -17,6 +18,10 @@ class StateCalculation : public RowCalculation {
     std::span<const InputColumn> Inputs() const override { return kInputs; }
     std::span<const std::string_view> Results() const override { return kStateResultNames; }
 
+    std::unique_ptr<RowCalculation> Another() const override {
+        return std::make_unique<StateCalculation>(tables_, default_p_bar_);
+    }
+
     void Calculate(std::span<const std::optional<double>> inputs,
                    std::span<std::optional<double>> results, std::string& reason) override {
         const double t = *inputs[0];
@@ -29,9 +34,7 @@ class StateCalculation : public RowCalculation {
         }
         // Measurements mostly share one pressure, and its boiling point costs as much as a state.
         if (!pressure_ || pressure_->p_bar != p_bar) pressure_ = EvaluatePressure(tables_, p_bar);
-        const AirState state =
-            EvaluateHumidity(tables_, EvaluateTemperature(tables_, *pressure_, t), relF);
-        const auto found = ResultsOf(state);
+        const auto found = ResultsOf(EvaluateAt(tables_, *pressure_, relF, t));
         std::copy(found.begin(), found.end(), results.begin());
     }
 

@@ -7,6 +7,7 @@
 #include "chart/chart_settings.h"
 #include "command/row_calculations.h"
 #include "command/single_state.h"
+#include "kernel/water_air_tables.h"
 #include "shell/form_script.h"
 
 namespace zandrell {

@@ -174,6 +174,30 @@ TEST(StateTable, ResultsAreLackingOneByOne) {
     EXPECT_NEAR(json["p_vapour_pa"].get<double>(), 0.02 * 19920, 5);
 }
 
+// Many lines at once are shared among the cores, few are not: rows and reports are the same, in
+// the order of the lines.
+TEST(StateTable, RowsStayInTheirOrder) {
+    std::string states = "t,rh,p,n\n", searches = "t_start,h,kind,step,rh,x,p\n";
+    for (int i = 0; i < 3000; ++i) {
+        const std::string n = std::to_string(i);
+        states += std::to_string(i % 90 - 20) + (i % 11 == 0 ? ",bad," : ",40,") +
+                  std::to_string(0.9 + i % 13 * 0.01) + "," + n + "\n";
+        searches += std::to_string(i % 40) + "," + std::to_string(i % 70) + "," +
+                    std::to_string(i % 4) + ",30,50,7," + std::to_string(0.9 + i % 5 * 0.02) + "\n";
+    }
+    for (const bool json : {false, true}) {
+        for (CommandLine line : {StateLine(), InvertLine("t-from-h")}) {
+            line.json = json;
+            const std::string& table = line.verb == Verb::Invert ? searches : states;
+            const TableRun few = RunTable(line, table, 100), many = RunTable(line, table, 1 << 20);
+            EXPECT_EQ(Lines(few.output).size(), json ? 3000U : 3001U);
+            EXPECT_GT(Lines(few.reports).size(), 200U);
+            EXPECT_TRUE(few.output == many.output) << "rows differ";
+            EXPECT_EQ(few.reports, many.reports);
+        }
+    }
+}
+
 TEST(StateTable, RefusesATableWithoutItsColumns) {
     struct Case {
         std::string table;
