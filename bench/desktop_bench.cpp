@@ -110,8 +110,10 @@ void DragOfAMarkInThePlant(benchmark::State& state) {
         SendMouse(chart, QEvent::MouseMove, start + 60 * QPointF(std::cos(turn), std::sin(turn)));
         QApplication::processEvents();
     }
-    state.counters["repaints"] =
-        benchmark::Counter(counter.paints, benchmark::Counter::kAvgIterations);
+    // Not a counter of the benchmark: a table with a column for some of its rows cannot be written.
+    if (counter.paints < 0.5 * static_cast<double>(state.iterations())) {
+        state.SkipWithError("the moves were not repainted");
+    }
     SendMouse(chart, QEvent::MouseButtonPress, start);
 }
 BENCHMARK(DragOfAMarkInThePlant)->Unit(benchmark::kMillisecond);

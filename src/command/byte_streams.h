@@ -26,14 +26,19 @@ class BufferedSink {
   public:
     explicit BufferedSink(ByteSink sink) : sink_(std::move(sink)) {}
 
-    // To be appended to; Flush passes it on.
+    // To be appended to; EndLine, when much has gathered, and Flush pass it on.
     std::string buffer;
 
+    void EndLine() {
+        buffer += '\n';
+        if (buffer.size() >= kWorthWriting) Flush();
+    }
     void Flush();
     // Stays set: what follows a failed write is dropped.
     bool Failed() const { return failed_; }
 
   private:
+    static constexpr std::size_t kWorthWriting = 1U << 18U;
     ByteSink sink_;
     bool failed_ = false;
 };

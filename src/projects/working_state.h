@@ -5,12 +5,11 @@
 #include <string_view>
 
 #include "base/data_files.h"
+#include "base/file_names.h"
 #include "forms/control.h"
 
 namespace zandrell {
 
-// The file in which the inputs of the main window outlive a run, unless a hand-over names another.
-inline constexpr std::string_view kWorkingStateFile = "QV_ACT.dat";
 // The inputs as they were before the last load.
 inline constexpr std::string_view kPreviousStateFile = "QV_ACT.bak";
 
