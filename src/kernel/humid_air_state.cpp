@@ -111,6 +111,11 @@ AirState StateByFormulas(const WaterAirTables& tables, const TemperaturePoint& p
     return StateOf(air, point.pressure, point.dry_air_enthalpy, vapour_enthalpy);
 }
 
+AirState StateByFormulas(const WaterAirTables& tables, const PressurePoint& pressure, double T,
+                         double relF) {
+    return StateByFormulas(tables, TemperatureByFormulas(tables, pressure, T), relF);
+}
+
 AirState EvaluateAt(const WaterAirTables& tables, const PressurePoint& pressure, double relF,
                     double t) {
     return StateAt(tables, pressure, relF, t);

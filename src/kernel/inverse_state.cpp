@@ -1,6 +1,5 @@
 #include "kernel/inverse_state.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "base/number_text.h"
@@ -25,11 +24,17 @@ struct Excess {
 
 // A temperature at which a search can go without whole states: covered by the table, below
 // boiling, and with air enough left in it.
-struct TabulatedPoint {
-    double T = 0, p_bar = 0;
+struct DensityPoint {
+    double T = 0, p_bar = 0, saturated_density = 0;
+    MixedAir Mix(double relF) const { return MixAt(p_bar, T, saturated_density, relF); }
+};
+
+struct EnthalpyPoint : DensityPoint {
+    EnthalpyPoint(double t, double bar, const StateTable::Entry& found)
+        : DensityPoint{t + kKelvinOffset, bar, found.saturated_density}, entry(found) {}
+
     StateTable::Entry entry;
 
-    MixedAir Mix(double relF) const { return MixAt(p_bar, T, entry.saturated_density, relF); }
     Excess EnthalpyAbove(double h_target, const MixedAir& air, double relF) const {
         const double moist = air.vapour_density * air.gas_term * VapourEnthalpy(entry, air, relF);
         return {(DryAirEnthalpy(entry, T) - h_target) * air.air_pressure + moist, air.air_pressure};
@@ -72,7 +77,7 @@ class SearchedStates {
 
     Excess EnthalpyAbove(double h_target, double relF, double t) {
         if (Tabulated(t)) {
-            const TabulatedPoint point = PointAt(t);
+            const EnthalpyPoint point(t, pressure_->p_bar, tables_.states->At(t));
             const MixedAir air = point.Mix(relF);
             if (Leaves(air, relF, t)) return point.EnthalpyAbove(h_target, air, relF);
         }
@@ -83,7 +88,7 @@ class SearchedStates {
     Excess EnthalpyAbove(double h_target, double t, HumidityRatio x) {
         double relF = 0;
         if (Tabulated(t)) {
-            const TabulatedPoint point = PointAt(t);
+            const EnthalpyPoint point(t, pressure_->p_bar, tables_.states->At(t));
             const MixedAir saturated = point.Mix(kSaturation);
             if (Leaves(saturated, kSaturation, t)) {
                 AssignFinite(relF, x.g_per_kg / (1000 * saturated.x));
@@ -100,17 +105,16 @@ class SearchedStates {
 
     Excess DensityAbove(double rho_target, double relF, double t) {
         if (Tabulated(t)) {
-            const MixedAir air = MixAt(pressure_->p_bar, t + kKelvinOffset,
-                                       tables_.states->SaturatedDensity(t), relF);
+            const MixedAir air = DensityAt(t).Mix(relF);
             if (Leaves(air, relF, t)) return zandrell::DensityAbove(rho_target, air);
         }
         return {At(relF, t).ZustandDichte - rho_target};
     }
 
     // Null where x does not rise with humidity all the way to saturation, or the table ends.
-    std::optional<TabulatedPoint> RisingPoint(double t) const {
+    std::optional<DensityPoint> RisingPoint(double t) const {
         if (!Tabulated(t)) return std::nullopt;
-        const TabulatedPoint point = PointAt(t);
+        const DensityPoint point = DensityAt(t);
         if (TableIsTooCoarse(point.Mix(kSaturation))) return std::nullopt;
         return point;
     }
@@ -132,8 +136,8 @@ class SearchedStates {
     bool Tabulated(double t) const {
         return pressure_ != nullptr && zandrell::Tabulated(tables_, *pressure_, t);
     }
-    TabulatedPoint PointAt(double t) const {
-        return {t + kKelvinOffset, pressure_->p_bar, tables_.states->At(t)};
+    DensityPoint DensityAt(double t) const {
+        return {t + kKelvinOffset, pressure_->p_bar, tables_.states->SaturatedDensity(t)};
     }
     // Whether the table is good enough for this state, which then is the last one.
     bool Leaves(const MixedAir& air, double relF, double t) {
@@ -168,53 +172,54 @@ constexpr int kHumidityRoundsEnd = 60;
 // what relF leads to is known from where it lies.
 class HumidityComparison {
   public:
-    HumidityComparison(const TabulatedPoint& point, double x_target)
+    HumidityComparison(const DensityPoint& point, double x_target)
         : point_(point),
-          target_(x_target),
           at_target_(HumidityFor(x_target)),
           lowest_(HumidityFor(x_target - kHumidityTolerance)),
           highest_(HumidityFor(x_target + kHumidityTolerance)) {}
 
-    // -1, 0 or 1: which way the target lies from relF, and whether x is within the tolerance.
-    struct Answer {
-        int way = 0;
-        bool met = false;
-    };
-    Answer Ask(double relF) const {
-        constexpr double kTooCloseToTell = 1e-11;
-        const double nearest = std::min(
-            {std::abs(relF - at_target_), std::abs(relF - lowest_), std::abs(relF - highest_)});
-        if (nearest > kTooCloseToTell) {
-            return {relF < at_target_ ? 1 : -1, relF > lowest_ && relF < highest_};
-        }
-        const double x = 1000 * point_.Mix(relF).x;
-        return {(target_ > x) - (target_ < x), std::abs(target_ - x) <= kHumidityTolerance};
+    // Whether relF is that close to the target or an end of the tolerance that only x itself tells.
+    bool TooClose(double relF) const {
+        constexpr double kTooClose = 1e-11;
+        return (std::abs(relF - at_target_) < kTooClose) | (std::abs(relF - lowest_) < kTooClose) |
+               (std::abs(relF - highest_) < kTooClose);
     }
+    // Else these do.
+    double AtTarget() const { return at_target_; }
+    bool Met(double relF) const { return (relF > lowest_) & (relF < highest_); }
+
+    double HumidityRatio(double relF) const { return 1000 * point_.Mix(relF).x; }
 
   private:
     double HumidityFor(double x) const {
         const double total = point_.p_bar * kPascalPerBar;
         const double vapour = x * kGasConstantSteam, air = 1000 * kGasConstantAir;
-        return x * total / (point_.entry.saturated_density * point_.T * (vapour + air));
+        return x * total / (point_.saturated_density * point_.T * (vapour + air));
     }
 
-    const TabulatedPoint& point_;
-    double target_, at_target_, lowest_, highest_;
+    const DensityPoint& point_;
+    double at_target_, lowest_, highest_;
 };
 
-SearchResult HumiditySearch(SearchedStates& states, const TabulatedPoint& point, double t,
+SearchResult HumiditySearch(SearchedStates& states, const DensityPoint& point, double t,
                             double x_target) {
     const HumidityComparison comparison(point, x_target);
     double f = 0.5, d = 0.5, last = f;
-    HumidityComparison::Answer answer;
-    for (int round = 1; !answer.met && round < kHumidityRoundsEnd; ++round) {
-        answer = comparison.Ask(f);
+    bool met = false;
+    for (int round = 1; !met && round < kHumidityRoundsEnd; ++round) {
         last = f;
         d /= 2;
-        f += answer.way * d;
+        if (comparison.TooClose(f)) [[unlikely]] {
+            const double x = comparison.HumidityRatio(f);
+            met = std::abs(x_target - x) <= kHumidityTolerance;
+            if (x_target != x) f += x_target > x ? d : -d;
+        } else {
+            met = comparison.Met(f);
+            f += std::copysign(d, comparison.AtTarget() - f);  // no branch to mispredict
+        }
     }
     states.Leave(last, t);
-    return states.Result(f * 100, answer.met);
+    return states.Result(f * 100, met);
 }
 
 }  // namespace

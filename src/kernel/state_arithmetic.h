@@ -59,6 +59,9 @@ inline AirState StateOf(const MixedAir& air, const PressurePoint& pressure, doub
 
 // Requires: a point made by TemperatureByFormulas.
 AirState StateByFormulas(const WaterAirTables& tables, const TemperaturePoint& point, double relF);
+// The same from pressure and T (K); out of line, to leave the way by the table short.
+[[gnu::noinline]] AirState StateByFormulas(const WaterAirTables& tables,
+                                           const PressurePoint& pressure, double T, double relF);
 
 // Where the digits that the table lacks would show: close to the change of the vapour's enthalpy,
 // and where little but vapour is left, so that humidity and density hang on small differences.
@@ -84,7 +87,7 @@ inline AirState TabulatedState(const WaterAirTables& tables, const PressurePoint
                                const StateTable::Entry& entry, double T, double relF) {
     const MixedAir air = MixAt(pressure.p_bar, T, entry.saturated_density, relF);
     if (TableIsTooCoarse(air)) [[unlikely]] {
-        return StateByFormulas(tables, TemperatureByFormulas(tables, pressure, T), relF);
+        return StateByFormulas(tables, pressure, T, relF);
     }
     return StateOf(air, pressure, DryAirEnthalpy(entry, T), VapourEnthalpy(entry, air, relF));
 }
@@ -100,7 +103,7 @@ inline AirState StateAt(const WaterAirTables& tables, const PressurePoint& press
     if (Tabulated(tables, pressure, t)) {
         return TabulatedState(tables, pressure, tables.states->At(t), T, relF);
     }
-    return StateByFormulas(tables, TemperatureByFormulas(tables, pressure, T), relF);
+    return StateByFormulas(tables, pressure, T, relF);
 }
 
 }  // namespace zandrell
