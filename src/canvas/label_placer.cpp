@@ -13,8 +13,9 @@ constexpr double kTextGap = 0.4;   // between two texts side by side
 constexpr double kLineGap = 0.12;  // between a text and a line that stays clear
 constexpr double kReachX = 14, kReachY = 6;
 constexpr double kStepX = 0.5, kStepY = 0.25;
-constexpr double kFar = 0.8;         // a gap that breaks the sight of what belongs together
-constexpr double kNumberReach = 3;   // how far a number goes aside
+constexpr double kFar = 0.8;  // a gap that breaks the sight of what belongs together
+// How far a number goes out of the way of a line, and of another text: a hair, else it is left out.
+constexpr double kNumberReach = 3, kCrowdedNumberReach = 0.4;
 constexpr double kSoftReach = 3;     // how far a text goes out of the way of a soft line
 constexpr double kAlongCost = 0.35;  // moves along the own line keep label and line together
 
@@ -61,6 +62,18 @@ int Turn(TextRole role) {
             break;
     }
     return 4;
+}
+
+// A label finds its mark again best on one of its sides, so these are tried before all else: right
+// of it as wanted, then left, each at some heights.
+std::vector<Offset> SidesOf(const WantedLabel& label, double width, double em) {
+    if (label.role != TextRole::MarkLabel) return {};
+    const double gap = (label.left - label.anchor_x) / em + kTextGap;
+    std::vector<Offset> sides;
+    for (const double x : {0.0, -width - gap, -width - 2 * gap}) {
+        for (const double y : {0.0, 0.5, -0.75, -1.5, 1.0}) sides.push_back({x, y, 0});
+    }
+    return sides;
 }
 
 // The shortest line from what a text belongs to.
@@ -137,29 +150,40 @@ LabelPlacer::Neighbours LabelPlacer::Near(const LabelBox& box) const {
 
 PlacedLabel LabelPlacer::PlaceOne(const WantedLabel& label) const {
     const LabelBox wanted = BoxOf(label);
-    const auto is_alone = [gap = kTextGap * em_](const auto& others, const LabelBox& box) {
-        return None(others, {box.left - gap, box.top, box.right + gap, box.bottom}, BoxMeets);
-    };
-    // A number that has no room of its own goes; one on a line that is to stay clear steps aside.
     const bool is_number = label.role == TextRole::AxisNumber;
-    if (is_number && !is_alone(boxes_, wanted)) return {wanted, false};
     const Neighbours near = Near(wanted);
-    const auto is_free = [&](const LabelBox& box, bool far) {
-        return is_alone(near.boxes, box) &&
-               None(near.lines, box.Grown(kLineGap * em_), LineMeets) &&
-               !(far && IsCutOff(label, box, near.lines));
-    };
     const double far_from = GapTo(label, wanted) + kFar * em_;
+    const auto at = [&](const Offset& move) {
+        const LabelBox box = wanted.Moved(move.x * em_, move.y * em_);
+        return PlacedLabel{box, true, !is_number && GapTo(label, box) > far_from};
+    };
+    const auto is_alone = [&](const LabelBox& box) {
+        const double gap = kTextGap * em_;
+        return None(near.boxes, {box.left - gap, box.top, box.right + gap, box.bottom}, BoxMeets);
+    };
+    const auto is_free = [&](const PlacedLabel& placed) {
+        const LabelBox& box = placed.box;
+        return surface_.Holds(box) && is_alone(box) &&
+               None(near.lines, box.Grown(kLineGap * em_), LineMeets) &&
+               !(placed.far && IsCutOff(label, box, near.lines));
+    };
+    const auto is_clear = [&](const PlacedLabel& placed) {
+        return None(near.soft_lines, placed.box, LineMeets);
+    };
+    for (const Offset& move : SidesOf(label, (wanted.right - wanted.left) / em_, em_)) {
+        const PlacedLabel placed = at(move);
+        if (is_free(placed) && is_clear(placed)) return placed;
+    }
     PlacedLabel fallback{wanted,
                          label.role == TextRole::MarkLabel || label.role == TextRole::AxisTitle};
+    const double number_reach = is_alone(wanted) ? kNumberReach : kCrowdedNumberReach;
+    const double reach = is_number ? number_reach : std::hypot(kReachX, kReachY);
     bool found = false;
     for (const Offset& move : MovesOf(label)) {
-        if ((found && move.cost > kSoftReach) || (is_number && move.cost > kNumberReach)) break;
-        const LabelBox box = wanted.Moved(move.x * em_, move.y * em_);
-        const bool far = GapTo(label, box) > far_from;
-        if (!surface_.Holds(box) || !is_free(box, far)) continue;
-        const PlacedLabel placed{box, true, far && !is_number};
-        if (None(near.soft_lines, box, LineMeets)) return placed;
+        if (move.cost > (found ? kSoftReach : reach)) break;
+        const PlacedLabel placed = at(move);
+        if (!is_free(placed)) continue;
+        if (is_clear(placed)) return placed;
         if (!found) fallback = placed;
         found = true;
     }

@@ -105,6 +105,23 @@ TEST(LabelPlacer, NumbersOfADenseAxisAreThinnedEvenly) {
     for (std::size_t i = 0; i < placed.size(); ++i) EXPECT_EQ(placed[i].shown, i % 2 == 0) << i;
 }
 
+TEST(LabelPlacer, ANumberStepsAHairAsideAndAMarksLabelToTheOtherSide) {
+    auto placer = Placer();
+    placer.KeepClear(LabelBox{90, 30, 140, 46});
+    const auto number = placer.Place({At(100, 50, TextRole::AxisNumber)});
+    EXPECT_TRUE(number[0].shown);
+    EXPECT_NEAR(number[0].box.top, 46, 2.5);
+
+    auto around = Placer();
+    around.KeepClear(LabelBox{105, 0, 600, 300});
+    WantedLabel label = At(105, 50, TextRole::MarkLabel);
+    label.anchor_x = 100;
+    const auto marked = around.Place({label});
+    EXPECT_LE(marked[0].box.right, 100);
+    EXPECT_GE(marked[0].box.right, 85);
+    EXPECT_FALSE(marked[0].far);
+}
+
 // A pile of labels: whatever is shown stands alone and inside, and what moved far says so.
 TEST(LabelPlacer, APileComesApart) {
     std::vector<WantedLabel> pile;
