@@ -98,6 +98,7 @@ TEST(LabelPlacer, ALineToAvoidIsCrossedOnlyWhereNothingElseIsNear) {
 
 TEST(LabelPlacer, NumbersOfADenseAxisAreThinnedEvenly) {
     std::vector<WantedLabel> numbers;
+    numbers.reserve(30);
     for (int i = 0; i < 30; ++i) {
         numbers.push_back(At(10 + 8 * i, 280, TextRole::AxisNumber, "10"));
     }
@@ -125,6 +126,7 @@ TEST(LabelPlacer, ANumberStepsAHairAsideAndAMarksLabelToTheOtherSide) {
 // A pile of labels: whatever is shown stands alone and inside, and what moved far says so.
 TEST(LabelPlacer, APileComesApart) {
     std::vector<WantedLabel> pile;
+    pile.reserve(40);
     for (int i = 0; i < 40; ++i) {
         pile.push_back(At(200 + 7 * i, 100 + 3 * i, static_cast<TextRole>(i % 5), "label text"));
     }

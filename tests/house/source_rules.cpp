@@ -67,7 +67,7 @@ std::optional<fs::path> OwnFile(const SourceText& source, const std::string& spe
         if (fs::exists(file.lexically_normal())) return own(file);
     }
     // A header that is made at build time stands in no folder of the sources.
-    const auto generated = own(below);
+    auto generated = own(below);
     if (generated && AllowedRooms().contains(generated->begin()->string())) return generated;
     return std::nullopt;
 }
