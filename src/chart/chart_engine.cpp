@@ -76,7 +76,8 @@ void ChartEngine::DiagrammZeichnen(ChartTask modus, double a, double b, double& 
     if (printing && modus != ChartTask::PaintPrinter) return;
     const bool reading = modus == ChartTask::ReadOutWhole || modus == ChartTask::ReadOutAsScaled;
     ReadSettings(druck);
-    if (modus != ChartTask::ReadOutWhole) ApplyColours();
+    // A read-out leaves the colours alone: a mark that is carried has its own.
+    if (!reading) ApplyColours();
     if (modus == ChartTask::PaintWhole || modus == ChartTask::ReadOutWhole) {
         if (settings.convention == Convention::Exact) TakeAspect(followed_width_);
         ApplyBaseScale(settings, scale);

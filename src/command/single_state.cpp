@@ -95,9 +95,9 @@ bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, st
         }
         mark = ',';
     };
-    member("t", question.t);
-    member("rh", question.rh);
-    member("p", question.p);
+    member("t", used.t);
+    member("rh", used.rh);
+    member("p", used.p);
     for (std::size_t i = 0; i < results.size(); ++i) member(kStateResultNames[i], results[i]);
     text += "}\n";
     return true;

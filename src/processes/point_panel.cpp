@@ -16,6 +16,7 @@ constexpr double kMarkCorner = 6;  // canvas units from a state up and left to i
 constexpr int kFlowBarEnd = 200, kFlowBarMiddle = 100;
 constexpr double kKgPerHourOfGramPerSecond = 3.6;
 constexpr double kTrialFlow = 1000;          // m3/h
+constexpr double kHalf = 0.5;                // m3/h; flows are rounded to whole ones
 constexpr double kHalfOfLastDecimal = 0.05;  // kJ/kg; enthalpies are rounded, not cut
 
 bool HasCapacity(Calculation mode) { return mode == Calculation::Capacity || IsTool(mode); }
@@ -64,14 +65,19 @@ void PointPanel::ShowForMode(Calculation mode) {
     SetShown(VScroll1, true);  // also with its flow field hidden in mode 1
     ShowSecondFlow(mode == Calculation::Mixing);
 
+    relF2.background
+        .reset();  // the red of an impossible humidity belongs to the tool that was left
+    TakeBarRanges();
+    Anlage1PN.visible = true;
+}
+
+void PointPanel::TakeBarRanges() {
     const ChartSettings& settings = context_.settings;
     const auto least = RoundToInteger(kBarUnitsPerField * settings.ChartTMin);
     const auto most = RoundToInteger(kBarUnitsPerField * settings.ChartTMax);
-    if (least && most) {
-        Tscroll1.SetRange(*least, *most);
-        Tscroll2.SetRange(*least, *most);
-    }
-    Anlage1PN.visible = true;
+    if (!least || !most) return;
+    Tscroll1.SetRange(*least, *most);
+    Tscroll2.SetRange(*least, *most);
 }
 
 void PointPanel::ShowSecondFlow(bool shown) {
@@ -87,23 +93,23 @@ PointPanel::Inputs PointPanel::ReadInputs() const {
             ParsedNumber(relF2.text), ParsedNumber(LuftM1.text), ParsedNumber(LuftM2.text)};
 }
 
+bool PointPanel::InRange(double t) const {
+    return t >= context_.settings.ChartTMin && t <= context_.settings.ChartTMax;
+}
+
 bool PointPanel::WithinChart(const Inputs& inputs) const {
-    const ChartSettings& settings = context_.settings;
-    const auto in_range = [&](double t) {
-        return t >= settings.ChartTMin && t <= settings.ChartTMax;
-    };
-    return IsHumidityInput(inputs.relF1) && IsHumidityInput(inputs.relF2) && in_range(inputs.t1) &&
-           in_range(inputs.t2);
+    return IsHumidityInput(inputs.relF1) && IsHumidityInput(inputs.relF2) && InRange(inputs.t1) &&
+           InRange(inputs.t2);
 }
 
 void PointPanel::ZustandRechnen(Calculation mode, MarkPlacing marke) {
     context_.shared.ZurueckVomDialog = DialogEcho::Expected;
     Inputs inputs = ReadInputs();
-    bool states_known = EvaluateStates(inputs);
+    bool states_known = IsTool(mode) ? EvaluateGivenState(mode, inputs) : EvaluateStates(inputs);
     if (IsTool(mode)) {
         FillInSecondState(mode, inputs);
-        states_known = EvaluateFilledInState(mode, states_known);
         inputs = ReadInputs();
+        states_known = EvaluateFilledInState(mode, inputs) && states_known;
     }
     if (!(ParsedNumber(absF1.text) > 0 && ParsedNumber(absF2.text) > 0)) return;
     MarkenSetzen(mode, marke);
@@ -131,20 +137,26 @@ bool PointPanel::EvaluateStates(const Inputs& inputs) {
     return true;
 }
 
+// State 1 of a tool. Only what the user gives is tested: the figure of state 2 that the tool wrote
+// in the run before must not lock it.
+bool PointPanel::EvaluateGivenState(Calculation mode, const Inputs& inputs) {
+    StateSolver& solver = context_.solver;
+    const bool gives_humidity = mode == Calculation::SteamHumidifier;
+    const bool second_given = gives_humidity ? IsHumidityInput(inputs.relF2) : InRange(inputs.t2);
+    if (!IsHumidityInput(inputs.relF1) || !InRange(inputs.t1) || !second_given) return false;
+    if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
+    ZustandX1 = solver.ZustandX;
+    enthalpy1_ = solver.ZustandH;
+    density1_ = solver.ZustandDichte;
+    ShowStateTexts(solver, absF1, enth1);
+    return true;
+}
+
 // State 2 anew from the texts that the tool wrote, so that the first capacity shown is the right
-// one. absF2 keeps what the tool wrote, and enth2 too behind the water humidifier. A first state
-// that was passed over because of the old text of the second is made up for.
-bool PointPanel::EvaluateFilledInState(Calculation mode, bool states_known) {
-    const Inputs inputs = ReadInputs();
+// one. absF2 keeps what the tool wrote, and enth2 too behind the water humidifier.
+bool PointPanel::EvaluateFilledInState(Calculation mode, const Inputs& inputs) {
     StateSolver& solver = context_.solver;
     if (!WithinChart(inputs)) return false;
-    if (!states_known) {
-        if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
-        ZustandX1 = solver.ZustandX;
-        enthalpy1_ = solver.ZustandH;
-        density1_ = solver.ZustandDichte;
-        ShowStateTexts(solver, absF1, enth1);
-    }
     if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
     ZustandX2 = solver.ZustandX;
     enthalpy2_ = solver.ZustandH;
@@ -305,23 +317,33 @@ void PointPanel::TakeFlowStep(const FlowInput& flow) {
     if (typed > 0) CentreFlowBar(flow.bar, flow.step, typed);
 }
 
-// The load is proportional to the flow, so one trial tells the flow.
-void PointPanel::VolStrm_rech(Calculation mode) {
+// The load is proportional to the flow, so one trial tells the flow. False where no positive flow
+// gives the capacity: as with heat asked of a change that takes it away, where the former flow
+// stays.
+bool PointPanel::VolStrm_rech(Calculation mode) {
     const double wanted_kw = ParsedNumber(Kleist.text);
+    const std::string former_flow = LuftM1.text;
     LuftM1.text = TrimmedNumberText(kTrialFlow);
     ZustandRechnen(mode, MarkPlacing::FromFields);
     SchieberAbgleich();
     const double trial_kw = ParsedNumber(Kleist.text);
-    // A trial without load fails here and leaves the trial flow in the field.
-    ShowNumber(LuftM1, std::floor(kTrialFlow * wanted_kw / trial_kw + 0.5));
+    const double flow = std::floor(kTrialFlow * wanted_kw / trial_kw + kHalf);
+    const bool possible = std::isfinite(flow) && flow > 0;
+    if (possible) {
+        ShowNumber(LuftM1, flow);
+    } else if (std::isfinite(flow)) {
+        LuftM1.text = former_flow;
+    }  // a trial without load fails and leaves its flow
     Kleist.text = TrimmedNumberText(wanted_kw);
     TakeFlowStep(FirstFlow());
+    return possible;
 }
 
 void PointPanel::VolumeFromCapacity(Calculation mode) {
     const double wanted_kw = ParsedNumber(Kleist.text);
-    VolStrm_rech(mode);
+    const bool possible = VolStrm_rech(mode);
     ZustandRechnen(mode, MarkPlacing::FromFields);
+    if (!possible) return;  // the figures are those of the flow that stays
     double scale = 0;
     AssignFinite(scale, ParsedNumber(Kleist.text) / wanted_kw);
     Kleist.text = TrimmedNumberText(wanted_kw);

@@ -46,6 +46,9 @@ class PointPanel {
     // typed, as the suite's users know it.
     void ShowForMode(Calculation mode);
 
+    // The ranges of the temperature bars, which are those of the chart.
+    void TakeBarRanges();
+
     // Reads the six fields, computes both states, lets the tool fill in state 2, draws, and gives
     // capacity or mixture.
     void ZustandRechnen(Calculation mode, MarkPlacing marke);
@@ -56,8 +59,9 @@ class PointPanel {
     // Brings the bars in line with the fields. A value outside the chart or the bar leaves it.
     void SchieberAbgleich();
 
-    // The volume flow that gives the wanted capacity in Kleist.
-    void VolStrm_rech(Calculation mode);
+    // The volume flow that gives the wanted capacity in Kleist. False, with the flow as it was,
+    // where no positive one does.
+    bool VolStrm_rech(Calculation mode);
     // The same with the rounding of the flow taken out of the three capacities again.
     void VolumeFromCapacity(Calculation mode);
 
@@ -87,7 +91,9 @@ class PointPanel {
     Inputs ReadInputs() const;
     bool WithinChart(const Inputs& inputs) const;
     bool EvaluateStates(const Inputs& inputs);
-    bool EvaluateFilledInState(Calculation mode, bool states_known);
+    bool EvaluateGivenState(Calculation mode, const Inputs& inputs);
+    bool EvaluateFilledInState(Calculation mode, const Inputs& inputs);
+    bool InRange(double t) const;
     AirPoint FirstState(double t1) const { return {t1, ZustandX1, enthalpy1_}; }
     AirPoint SecondState(double t2) const { return {t2, ZustandX2, enthalpy2_}; }
 

@@ -18,6 +18,8 @@ void SetWorkingState(std::string_view text, const WorkingStateFields& state) {
     }
     reader.ReadBoolean(state.steam->on);
     reader.ReadBoolean(state.water->on);
+    // The two are a pair; a file of other hands may hold both.
+    if (state.steam->on) state.water->on = false;
     TextField& coil = *state.coil_humidity;
     coil.text.clear();
     reader.ReadText(coil.text);

@@ -23,14 +23,21 @@ void InputKeeper::FollowLoad() {
     Follow();
 }
 
+void InputKeeper::AlignBars() {
+    const Calculation mode = std::exchange(processes_.Rechenmodus, Calculation::None);
+    // Ranges first: a position outside its range is refused.
+    processes_.point.TakeBarRanges();
+    processes_.point.SchieberAbgleich();
+    processes_.plant.TakeBarsFromFields();
+    processes_.Rechenmodus = mode;
+}
+
 void InputKeeper::Follow() {
     PointPanel& point = processes_.point;
     PlantPanel& plant = processes_.plant;
-    const Calculation mode = std::exchange(processes_.Rechenmodus, Calculation::None);
+    const Calculation mode = processes_.Rechenmodus;
     point.LuftSchritt1 = point.LuftSchritt2 = 0;  // steps of flows that are no longer there
-    point.SchieberAbgleich();
-    if (mode == Calculation::Plant) plant.TakeBarsFromFields();
-    processes_.Rechenmodus = mode;
+    AlignBars();
     if (mode == Calculation::Plant) {
         plant.AnlageBerechnen();
     } else if (mode != Calculation::None) {

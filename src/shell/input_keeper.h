@@ -26,6 +26,10 @@ class InputKeeper {
     // After a load, the same behind which nothing is left of what was derived from other inputs.
     void FollowLoad();
 
+    // Brings ranges and positions of all bars in line with the fields. The bars run nothing
+    // meanwhile, so that no field is rewritten and nothing is computed.
+    void AlignBars();
+
     // After the inputs were replaced: bars and steps are brought in line, the process in force is
     // computed once, and the project's texts are shown. The bars run nothing meanwhile, so that the
     // inputs stay as they are.

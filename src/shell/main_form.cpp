@@ -52,7 +52,7 @@ void MainForm::ListControls() {
 }
 
 void MainForm::Load() {
-    ReadSuiteParameters(named_folder_, files_, shared);
+    const auto missing_folder = ReadSuiteParameters(named_folder_, files_, shared);
     LoadCaptions(files_, shared.LanguageTag, captions);
     LoadAirCoCaptions(files_, shared.LanguageTag, captions);
     LoadQVCaptions(files_, shared.LanguageTag, captions);
@@ -62,6 +62,12 @@ void MainForm::Load() {
     chart.controls.Label27.text =
         shared.AppTitle + " " + shared.VersionText + " - Created 30/1/2026";
     ApplySkin(*this);
+    if (missing_folder) {
+        user_.ShowMessage({shared.AppTitle,
+                           FilledIn(captions[Caption::DataFolderMissing],
+                                    {missing_folder->string(), files_.DataFolder().string()}),
+                           MessageIcon::Stop});
+    }
 }
 
 void MainForm::Resize(int width, int height) {
@@ -87,7 +93,7 @@ void MainForm::Activate() {
     if (inputs_replaced) {
         inputs_.FollowLoad();
     } else {
-        processes.point.SchieberAbgleich();
+        inputs_.AlignBars();
         if (processes.Rechenmodus == Calculation::Plant) processes.plant.AnlageBerechnen();
     }
     if (KindOf(shared.ProjektArt).own_pressure) panels_.AnlageOeffnen();
@@ -115,8 +121,8 @@ void MainForm::PointerRelease(PointerButton button) {
 
 void MainForm::OpenOptions() {
     panels_.HideBoth();
-    overlay.AnlageMarkenLoeschen();
     pointer_.OptionsOpened();
+    overlay.AnlageMarkenLoeschen();
     options.Open();
     // The options are the one dialog whose closing redraws, whatever ran before.
     shared.ZurueckVomDialog = DialogEcho::None;

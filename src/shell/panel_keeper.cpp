@@ -45,9 +45,9 @@ void PanelKeeper::PlacePlantPanel() {
 }
 
 void PanelKeeper::OpenPointPanel(Calculation mode, bool calculate) {
+    pointer_.PanelOpened(PointerOwner::PointPanel);
     processes_.plant.Frame1.visible = false;
     processes_.Rechenmodus = mode;
-    pointer_.PanelOpened(PointerOwner::PointPanel);
     if (!point_panel_moved_) PlacePointPanel();
     processes_.point.ShowForMode(mode);
     if (calculate) processes_.point.ZustandRechnen(mode, MarkPlacing::FromFields);

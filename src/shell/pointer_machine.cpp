@@ -193,7 +193,14 @@ void PointerMachine::PickUpMarks(CanvasPoint place) {
         carrier.mark.shape = 1;
         carrier.mark.colour = kLightGreen;
         carrier.carried = true;
+        carrier.former_temperature = carrier.plant_temperature.text;
+        carrier.former_humidity = carrier.plant_humidity.text;
+        carrier.former_x = HumidityOf(carrier);
     }
+}
+
+double& PointerMachine::HumidityOf(Carrier& carrier) {
+    return carrier.x != nullptr ? *carrier.x : processes_.point.ZustandX2;
 }
 
 void PointerMachine::LetGo(Carrier& carrier) {
@@ -202,10 +209,18 @@ void PointerMachine::LetGo(Carrier& carrier) {
     carrier.mark.colour = overlay_.ZAeLine.colour;  // that of the scheme, so that it shows on black
 }
 
-void PointerMachine::LetGoOfAll() {
+void PointerMachine::PutBack(bool draw) {
+    if (!CarriesAny()) return;
+    const bool in_plant = processes_.Rechenmodus == Calculation::Plant;
     for (Carrier& carrier : carriers_) {
-        if (carrier.carried) LetGo(carrier);
+        if (!carrier.carried) continue;
+        LetGo(carrier);
+        HumidityOf(carrier) = carrier.former_x;
+        if (!in_plant) continue;
+        carrier.plant_temperature.text = carrier.former_temperature;
+        carrier.plant_humidity.text = carrier.former_humidity;
     }
+    if (draw) processes_.Repeat();
 }
 
 bool PointerMachine::DropFirstCarriedMark(CanvasPoint place) {
@@ -236,11 +251,12 @@ void PointerMachine::TakeDroppedState(const Carrier& carrier) {
         processes_.point.ZustandRechnen(processes_.Rechenmodus, MarkPlacing::FromFields);
         return;
     }
-    TakeReadOut(carrier.plant_temperature, carrier.plant_humidity);
-    if (carrier.plant_humidity_bar != nullptr) {
+    // Nothing at all is taken from where there is no state; the mark goes back to its fields.
+    const bool taken = TakeReadOut(carrier.plant_temperature, carrier.plant_humidity);
+    if (taken && carrier.plant_humidity_bar != nullptr) {
         carrier.plant_humidity_bar->ShowTenths(ParsedNumber(read_out_.relF.text));
     }
-    if (carrier.plant_temperature_bar != nullptr) {
+    if (taken && carrier.plant_temperature_bar != nullptr) {
         carrier.plant_temperature_bar->ShowTenths(ParsedNumber(read_out_.Temp.text));
     }
     processes_.plant.AnlageBerechnen();
@@ -252,12 +268,10 @@ void PointerMachine::MoveCarriedMarks(CanvasPoint place) {
     const bool in_plant = processes_.Rechenmodus == Calculation::Plant;
     for (Carrier& carrier : carriers_) {
         if (!carrier.carried) continue;
-        if (carrier.x == nullptr) {
-            // State 2 of the point panel follows the supply and the coil mark in every mode: what
-            // is drawn of it next starts where the pointer was.
-            processes_.point.ZustandX2 = x;
-        } else if (IsPointMode(processes_.Rechenmodus)) {
-            *carrier.x = x;
+        const bool in_point_mode = IsPointMode(processes_.Rechenmodus);
+        // The supply and the coil mark move state 2 of the point panel in every mode.
+        if (carrier.x == nullptr || in_point_mode) HumidityOf(carrier) = x;
+        if (carrier.x != nullptr && in_point_mode) {
             processes_.point.MarkenSetzen(processes_.Rechenmodus, carrier.placing);
         }
         if (in_plant) TakeReadOut(carrier.plant_temperature, carrier.plant_humidity);
@@ -268,19 +282,20 @@ void PointerMachine::MoveCarriedMarks(CanvasPoint place) {
 // --- What the window does.
 
 void PointerMachine::PanelOpened(PointerOwner owner) {
-    LetGoOfAll();
+    PutBack(true);
+    chart_.controls.ZoomShape.visible = false;  // a frame on the chart would be dead
     owner_ = owner;
     if (owner == PointerOwner::PointPanel) shape_ = PointerShape::Arrow;
 }
 
 void PointerMachine::PanelClosed() {
-    LetGoOfAll();
+    PutBack(true);
     shape_ = PointerShape::Cross;
     owner_ = PointerOwner::Nobody;
 }
 
 void PointerMachine::OptionsOpened() {
-    LetGoOfAll();
+    PutBack(false);  // the closing of the options draws
     if (owner_ == PointerOwner::Zoomed) return;
     owner_ = PointerOwner::Nobody;
     chart_.controls.ZoomShape.visible = false;

@@ -72,13 +72,19 @@ class PointerMachine {
         double* x = nullptr;  // g/kg
         MarkPlacing placing = MarkPlacing::FromFields;
         bool carried = false;
+        // As they were when the mark was picked up.
+        std::string former_temperature{}, former_humidity{};
+        double former_x = 0;
     };
 
     bool IsPanelOpen() const;
     bool CarriesAny() const;
     void ReadOut(CanvasPoint place);
+    // The humidity ratio of the state that follows the mark.
+    double& HumidityOf(Carrier& carrier);
     void LetGo(Carrier& carrier);
-    void LetGoOfAll();
+    // Marks that were carried and not dropped go back to where they came from.
+    void PutBack(bool draw);
     void PickUpMarks(CanvasPoint place);
     bool DropFirstCarriedMark(CanvasPoint place);
     void TakeDroppedState(const Carrier& carrier);

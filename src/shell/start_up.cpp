@@ -37,21 +37,39 @@ int WholeNumber(const std::string& field, int otherwise) {
     return RoundToInteger(ParsedNumber(field)).value_or(otherwise);
 }
 
-void TakeFolders(const std::array<std::string, kParameterFields + 1>& fields,
-                 const NamedFolder& named, DataFiles& files, SharedValues& shared) {
+bool IsFolder(const fs::path& path) {
+    std::error_code error;
+    return fs::is_directory(path, error);
+}
+
+// Absolute and without a separator at its end, whatever way it was written.
+fs::path WholePath(const fs::path& path) {
+    std::error_code error;
+    const fs::path whole = fs::absolute(path, error);
+    if (error || whole.empty()) return path;
+    const fs::path normal = whole.lexically_normal();
+    return normal.has_filename() || !normal.has_relative_path() ? normal : normal.parent_path();
+}
+
+// A folder that is not there is not taken: the program goes on with the one of the start. The name
+// of such a folder is the answer.
+std::optional<fs::path> TakeFolders(const std::array<std::string, kParameterFields + 1>& fields,
+                                    const NamedFolder& named, DataFiles& files,
+                                    SharedValues& shared) {
     const std::string folder = Trimmed(fields[2]);
-    if (!folder.empty()) files.SetDataFolder(folder);
+    std::optional<fs::path> missing;
+    if (IsFolder(folder)) files.SetDataFolder(WholePath(folder));
+    if (!folder.empty() && !IsFolder(folder)) missing = folder;
     shared.ProjectFolder = fields[19];
     if (shared.ProjectFolder.empty() || shared.ProjectFolder == "C:\\") {
         shared.ProjectFolder = CurrentFolder().string();
     }
     shared.LogoFile = fields[23];
     if (Trimmed(shared.LogoFile).empty()) {
-        shared.LogoFile =
-            (fs::path(folder.empty() ? files.DataFolder() : fs::path(folder)) / "zdsample.jpg")
-                .string();
+        shared.LogoFile = (files.DataFolder() / "zdsample.jpg").string();
     }
     if (folder.empty()) files.SetDataFolder(FindDataFolder(2, named));
+    return missing;
 }
 
 void TakeTexts(const std::array<std::string, kParameterFields + 1>& fields, SharedValues& shared) {
@@ -114,13 +132,16 @@ fs::path DeliveredDataSet() {
     return program.parent_path().parent_path() / "share" / "zandrell";
 }
 
-void ReadSuiteParameters(const NamedFolder& named, DataFiles& files, SharedValues& shared) {
+std::optional<fs::path> ReadSuiteParameters(const NamedFolder& named, DataFiles& files,
+                                            SharedValues& shared) {
+    std::optional<fs::path> missing;
+    files.SetDataFolder(WholePath(files.DataFolder()));
     const FileText file = files.OpenForInput("kparam.dat");
     std::array<std::string, kParameterFields + 1> fields;
     DelimitedReader reader(file.text);
     for (std::size_t i = 1; i <= kParameterFields; ++i) reader.ReadText(fields[i]);
     if (file.status == FileStatus::Ok) {
-        TakeFolders(fields, named, files, shared);
+        missing = TakeFolders(fields, named, files, shared);
     } else {
         shared.ProjectFolder = CurrentFolder().string();
         shared.LogoFile = (files.DataFolder() / "zdsample.jpg").string();
@@ -131,6 +152,7 @@ void ReadSuiteParameters(const NamedFolder& named, DataFiles& files, SharedValue
     shared.PaperOrientation = fields[29].empty() ? 1 : WholeNumber(fields[29], 1);
     shared.VersionText = kVersion;  // a stored version of another release is overruled
     shared.MainsFrequency = 50;
+    return missing;
 }
 
 void LoadBranding(const DataFiles& files, SharedValues& shared) {

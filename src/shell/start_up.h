@@ -30,8 +30,11 @@ std::filesystem::path PrepareDataFolder(const NamedFolder& named, bool deliver_i
 std::filesystem::path DeliveredDataSet();
 
 // Reads kparam.dat into the shared values, with their defaults. Its second field moves the data
-// folder; while that is empty the folder is the one of FindDataFolder.
-void ReadSuiteParameters(const NamedFolder& named, DataFiles& files, SharedValues& shared);
+// folder; while that is empty the folder is the one of FindDataFolder. The folder is absolute then,
+// without a separator at its end. Answers a folder that the file names and that is not there; the
+// one of the start then stays.
+std::optional<std::filesystem::path> ReadSuiteParameters(const NamedFolder& named, DataFiles& files,
+                                                         SharedValues& shared);
 
 // The title of a re-branded installation out of rechOpt.dat, else "Zandrell".
 void LoadBranding(const DataFiles& files, SharedValues& shared);

@@ -119,7 +119,7 @@ TEST(ScriptedChart, RefusesAChartWithoutCoefficients) {
     ScriptedChart chart(line, "", dumps);
     std::string error;
     EXPECT_FALSE(chart.Run(error));
-    EXPECT_EQ(error, "no/such/folder/qvdata.dat: missing");
+    EXPECT_TRUE(error.ends_with("no/such/folder/qvdata.dat: missing")) << error;
 }
 
 TEST(FormVerb, RunsAScriptAndNamesItsBadLine) {

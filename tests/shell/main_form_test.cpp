@@ -179,8 +179,8 @@ TEST(MainForm, TheOptionsDoNotThrowAwayWhatWasTyped) {
     const Json dump = session.RunOnce(std::string(kStates) +
                                       "click BearButt\nclick optButt\nset qvopt.absD .9\nclick "
                                       "qvopt.Command3D1\ndump Temp1 LuftM1 ChartDruckBar\n");
-    EXPECT_EQ(TextOf(dump, "Temp1"), " 30");
-    EXPECT_EQ(TextOf(dump, "LuftM1"), " 1000");
+    EXPECT_EQ(TextOf(dump, "Temp1"), "30");
+    EXPECT_EQ(TextOf(dump, "LuftM1"), "1000");
     EXPECT_EQ(dump["ChartDruckBar"], 0.9);
 }
 
