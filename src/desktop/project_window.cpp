@@ -61,7 +61,13 @@ ProjectWindow::ProjectWindow(ProjectDialog& form, Pictures& pictures, QWidget* p
     columns->setStretchFactor(1, 1);
     layout->addWidget(columns, 1);
     layout->addLayout(MakeName());
-    name_->setFocus();
+    // Who opens a file looks for it in the list, who saves one gives it a name.
+    const bool lists = dialog_.ProNam.text.empty() || dialog_.ProNam.text.starts_with('.');
+    if (lists && !dialog_.List1.items.empty()) {
+        files_->setFocus();
+    } else {
+        name_->setFocus();
+    }
 }
 
 QLayout* ProjectWindow::MakeFolderPath() {
@@ -116,14 +122,15 @@ QWidget* ProjectWindow::MakeFiles() {
     row->addWidget(filter, 1);
     row->addWidget(build.Caption(dialog_.sort_label));
     auto* order = new QComboBox(group);
+    order->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     mirror_.Bind(order, dialog_.order);
     mirror_.Describe(order, dialog_.sort_label);
     row->addWidget(order);
     layout->addLayout(row);
-    auto* list = MakeList(group, kFileWidth);
-    mirror_.Bind(list, dialog_.List1);
-    mirror_.Describe(list, dialog_.Label1);
-    layout->addWidget(list, 1);
+    files_ = MakeList(group, kFileWidth);
+    mirror_.Bind(files_, dialog_.List1);
+    mirror_.Describe(files_, dialog_.Label1);
+    layout->addWidget(files_, 1);
     return group;
 }
 

@@ -26,6 +26,7 @@ class ProjectWindow : public ModalWindow {
     ProjectDialog& dialog_;
     QLineEdit* path_ = nullptr;
     QLineEdit* name_ = nullptr;
+    QListWidget* files_ = nullptr;
     bool asks_for_folder_ = false;
 };
 

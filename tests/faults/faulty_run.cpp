@@ -52,7 +52,7 @@ std::string TornFile(const FolderContent& now, const FolderContent& before,
     for (const auto& [name, ignored] : all) {
         const std::string content = Held(now, name);
         if (content != Held(before, name) && content != Held(after, name)) {
-            return name + ": " + content;
+            return name + ": " + content.substr(0, 200);
         }
     }
     return {};

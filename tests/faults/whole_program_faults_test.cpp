@@ -22,14 +22,23 @@ void TakeName(ModalForm& dialog) {
     dialog.UserClick("Command3D1");
 }
 
-int SaveAProject(const std::filesystem::path& folder, const faults::Ready& ready) {
+// The program is started before the faults begin.
+struct Started {
+    explicit Started(const std::filesystem::path& folder)
+        : files(folder), form(user, files, NamedFolder(folder)) {
+        form.Load();
+        form.shared.ProjectFolder = folder.string();
+        form.Resize(1280, 800);
+        form.Activate();
+    }
     DeskUser user;
-    DataFiles files(folder);
-    MainForm form(user, files, NamedFolder(folder));
-    form.Load();
-    form.shared.ProjectFolder = folder.string();
-    form.Resize(1280, 800);
-    form.Activate();
+    DataFiles files;
+    MainForm form;
+};
+
+int SaveAProject(const std::filesystem::path& folder, const faults::Ready& ready) {
+    Started started(folder);
+    auto& [user, files, form] = started;
     user.in_window = [&](ModalForm& window) {
         if (window.form.Name() == "qvopt") TakeSettings(window);
         if (window.form.Name() == "ProjLaden") TakeName(window);
@@ -48,6 +57,7 @@ TEST(WholeProgramFaults, OptionsAndAProject) {
     if (std::getenv("ZANDRELL_ALL_FAULTS") == nullptr) GTEST_SKIP() << "./dev faults runs it";
     const TestFolder folder;
     folder.CopyWholeSet();
+    Started(folder.Path());  // the curves of the first paint are in their file
     const faults::FaultyAct act{
         "whole program",
         faults::ContentOf(folder.Path()),

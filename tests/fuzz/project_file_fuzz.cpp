@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::Require(HasProjectExtension(SavedName(project.header.title, project.header.remark)));
     // What the dialog has completed loses no letters.
     if (!IsBareExtension(completed)) {
-        fuzz::Require(EqualIgnoringCase(SavedName(completed, ""), completed));
+        fuzz::Require(EqualIgnoringCase(SavedName(completed, ""), Trimmed(completed)));
     }
     fuzz::Require(Shortened(text, 24).size() <= 4 * 24);
     WorkingFileOf(project.header.tag);
