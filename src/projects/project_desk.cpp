@@ -45,7 +45,7 @@ void ProjectDesk::QuickLoad() {
 void ProjectDesk::NewProject() {
     SharedValues& shared = context_.shared;
     window_.busy(true);
-    if (keeper.KeepPresent({})) {
+    if (keeper.Seen().MayRemove(shared.ProjektFeldDatei) && keeper.KeepPresent({})) {
         context_.files.DeleteDataFile(
             shared.ProjektFeldDatei, context_.captions,
             [this](const std::string& text) { Complain(context_, text); });

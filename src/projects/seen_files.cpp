@@ -28,6 +28,10 @@ bool SeenFiles::MayReplace(const std::string& key, const FileText& present, Targ
     return !changed || Ask(context_, ChangedElsewhereQuestion(context_, name));
 }
 
+bool SeenFiles::MayRemove(std::string_view name) const {
+    return MayReplace(KeyOf(name), context_.files.OpenForInput(name), Target::Own);
+}
+
 WriteResult SeenFiles::Write(std::string_view name, const std::string& wanted, Target target) {
     const std::string key = KeyOf(name);
     const std::string text = DecodeText(EncodeText(wanted));  // as it will read back

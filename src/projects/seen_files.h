@@ -33,6 +33,9 @@ class SeenFiles {
     // changed the file since it was seen, and before any other file than an own one is replaced.
     WriteResult Write(std::string_view name, const std::string& text, Target target = Target::Own);
 
+    // Asks where another program has changed an own file since it was seen; it is to be removed.
+    bool MayRemove(std::string_view name) const;
+
   private:
     std::string KeyOf(std::string_view name) const;
     bool MayReplace(const std::string& key, const FileText& present, Target target) const;

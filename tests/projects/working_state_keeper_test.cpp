@@ -186,6 +186,11 @@ TEST_F(KeeperTest, ALaterSaveDoesNotThrowAwayAnEarlierOneOfAnotherProgram) {
     fields_.FillWith("mine too");
     desk_.QuickSave();
     EXPECT_EQ(user_.questions.size(), asked) << "the own save is nobody else's";
+    folder_.Write("QV_ACT.dat", State("theirs again"));
+    desk_.NewProject();
+    EXPECT_EQ(user_.questions.size(), asked + 1);
+    EXPECT_EQ(fields_[0], "mine too");
+    EXPECT_NE(folder_.Read("QV_ACT.dat").find("theirs again"), std::string::npos);
 }
 
 TEST_F(KeeperTest, AFileThatCouldNotBeReadAtTheStartIsNotReplacedUnasked) {
