@@ -33,6 +33,8 @@ plant() { # NAME TITLE
     "$build/bin/print_figures" "$data" "examples/$1.txt" "$2" | tee "$demo/$1.txt"
     printf '\n'
 }
+"$calc" --data "$data" print -o "$demo/plant-sheet.pdf" --form examples/plant-summer.txt
+printf 'Printed %s/plant-sheet.pdf\n\n' "$demo"
 plant plant-summer "Sample plant in summer"
 plant plant-winter-steam "Sample plant in winter, steam humidifier"
 plant plant-winter-water "Sample plant in winter, water humidifier"

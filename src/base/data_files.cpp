@@ -217,6 +217,11 @@ FileText DataFiles::OpenForInput(std::string_view name, std::uintmax_t largest) 
 
 FileStatus DataFiles::OpenForOutput(std::string_view name, std::string_view text,
                                     Durability durability, std::string* reason) const {
+    return ReplaceBytes(name, EncodeText(text), durability, reason);
+}
+
+FileStatus DataFiles::ReplaceBytes(std::string_view name, std::string_view bytes,
+                                   Durability durability, std::string* reason) const {
     ++own_writes_;
     fs::path path = Resolve(name);
     std::error_code no_such_file;
@@ -225,8 +230,7 @@ FileStatus DataFiles::OpenForOutput(std::string_view name, std::string_view text
     ClearReadOnly(path);
     struct stat about {};
     const bool in_the_way = ::stat(path.c_str(), &about) == 0 && !S_ISREG(about.st_mode);
-    const int error =
-        in_the_way ? NoFileError(about) : ReplaceFile(path, EncodeText(text), durability);
+    const int error = in_the_way ? NoFileError(about) : ReplaceFile(path, bytes, durability);
     if (error == 0) return FileStatus::Ok;
     if (reason != nullptr) *reason = SystemWords(error);
     return FileStatus::NotWritten;

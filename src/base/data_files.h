@@ -41,6 +41,7 @@ class RecordFile {
     RecordFile(FileStatus status, std::string bytes, std::size_t record_length);
     FileStatus Status() const { return status_; }
     bool Empty() const { return bytes_.empty(); }
+    const std::string& Bytes() const { return bytes_; }
     std::string_view Record(std::size_t number) const;
 
   private:
@@ -76,6 +77,11 @@ class DataFiles {
     FileStatus OpenForOutput(std::string_view name, std::string_view text,
                              Durability durability = Durability::Flushed,
                              std::string* reason = nullptr) const;
+
+    // The same for a file of bytes that are encoded already, such as one of records.
+    FileStatus ReplaceBytes(std::string_view name, std::string_view bytes,
+                            Durability durability = Durability::Flushed,
+                            std::string* reason = nullptr) const;
 
     // For reading only; a missing file is not created. Record length 0 means 128.
     RecordFile OpenRandom(std::string_view name, std::size_t record_length) const;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "base/calendar.h"
 
 namespace zandrell {
 
@@ -12,6 +15,10 @@ inline constexpr std::string_view kVersion = "10.11.2";
 // Why the next activation of the main window is only an echo and reloads nothing: a dialog or a
 // calculation is on its way, or a flow was just typed.
 enum class DialogEcho { None = 0, Expected = 1, FlowTyped = 5 };
+
+// Whether the print setup has just closed: the activation that follows reads nothing anew, and
+// clears it.
+enum class PrintSetupSignal { None = 0, Closed = 33 };
 
 // How the options were left.
 enum class OptionsSignal { None = 0, Taken = 77, Cancelled = 88 };
@@ -53,6 +60,10 @@ struct SharedValues {
     DialogEcho ZurueckVomDialog = DialogEcho::None;
     int DialogMode = 0;
     OptionsSignal OptionenSignal = OptionsSignal::None;
+    PrintSetupSignal print_setup_signal = PrintSetupSignal::None;
+    int HelpClosed = 0;                    // 1: the help box was saved or closed
+    std::string DateText;                  // a date on its way, or the topic for the help box
+    std::optional<CalendarDay> clock_day;  // the day that the program sees; empty: today
 
     double AuswahlLeistung = 0;   // kW, noted for a selection dialog
     double AuswahlLuftstrom = 0;  // m3/h, the same

@@ -5,6 +5,7 @@
 
 #include "command/command_line.h"
 #include "command/process_ends.h"
+#include "command/sibling_printer.h"
 #include "command/verbs.h"
 
 namespace {
@@ -69,9 +70,9 @@ int main(int count, char** arguments) {
         if (!error.empty()) ReportFailure(error);
         return *status;
     }
-    if (line.verb == Verb::Chart) {
+    if (line.verb == Verb::Chart || line.verb == Verb::Print) {
         // The toolkit would slow down every start, so the program that draws with it stands apart.
-        BecomeSibling("zandrell-calc-chart", arguments, error);
+        BecomeSibling(std::string(kDrawingProgram), arguments, error);
         return ReportFailure(error);
     }
     return Run(line, error) ? 0 : ReportFailure(error);

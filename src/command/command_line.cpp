@@ -45,6 +45,7 @@ constexpr const char* kFormHelp =
     "  window WIDTH HEIGHT   set NAME TEXT   return NAME   click NAME   choose NAME\n"
     "  check NAME on|off   select NAME INDEX   scroll NAME POSITION   key NAME KEY\n"
     "  pointer move|press|release X Y [left|right]   answer VALUE   activate   close\n"
+    "  clock YYYY-MM-DD   open Hilfebox TOPIC   printer FILE.pdf   print FILE.pdf\n"
     "  dump [NAME ...]       writes one line of JSON\n"
     "The controls of another window are WINDOW.NAME once it is open.";
 
@@ -65,6 +66,7 @@ constexpr const char* kExamples =
     "  zandrell-calc state < measured.csv > states.csv\n"
     "  zandrell-calc invert rh-from-x --json < table.csv\n"
     "  zandrell-calc chart -o chart.svg --kind carrier --size 1920x1080\n"
+    "  zandrell-calc print -o sheet.pdf --form plant.txt --paper A3 --landscape\n"
     "  zandrell-calc catalogue 600 --units --json\n"
     "  zandrell-calc capacity 600 LeistFaktor=0.92\n"
     "  zandrell-calc capacity 650 --duties rooms.csv";
@@ -129,13 +131,13 @@ void TakeZoom(const std::string& text, ChartRequest& chart) {
     chart.zoom = ZoomFrame{frame[0], frame[1], frame[2], frame[3]};
 }
 
+bool HasEnding(std::string_view name, std::string_view ending) {
+    return name.size() > ending.size() &&
+           EqualIgnoringCase(name.substr(name.size() - ending.size()), ending);
+}
+
 void TakeChart(const TypedOptions& typed, ChartRequest& chart) {
-    const auto ends = [&](std::string_view ending) {
-        return chart.output.size() > ending.size() &&
-               EqualIgnoringCase(
-                   std::string_view(chart.output).substr(chart.output.size() - ending.size()),
-                   ending);
-    };
+    const auto ends = [&](std::string_view ending) { return HasEnding(chart.output, ending); };
     if (!ends(".svg") && !ends(".png") && !ends(".pdf")) {
         Refuse(chart.output + ": a chart file ends in .svg, .png or .pdf");
     }
@@ -253,6 +255,25 @@ void AddCapacity(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     });
 }
 
+void AddPrint(CLI::App& app, CommandLine& line) {
+    auto* verb = app.add_subcommand("print", "Writes the printed page of a process to a PDF");
+    verb->add_option("-o,--output", line.print.output, "the file, .pdf")->required();
+    verb->add_option("--form", line.print.script,
+                     "a script as of the verb form, whose process is printed; - is the standard "
+                     "input");
+    verb->add_option("--paper", line.print.paper, "A4, A3 or A2; without it as in the settings")
+        ->check(CLI::IsMember({"A4", "A3", "A2"}));
+    verb->add_flag("--landscape", line.print.landscape, "without it as in the settings");
+    verb->add_option("--style", line.print.header_style, "of the page header: 0 framed, 1 short")
+        ->check(CLI::IsMember({0, 1}));
+    verb->callback([&] {
+        line.verb = Verb::Print;
+        if (!HasEnding(line.print.output, ".pdf")) {
+            Refuse(line.print.output + ": a printed page ends in .pdf");
+        }
+    });
+}
+
 std::string OneLine(std::string text) {
     std::replace(text.begin(), text.end(), '\n', ' ');
     return text;
@@ -277,6 +298,7 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     AddChart(app, typed, line);
     AddCatalogue(app, line);
     AddCapacity(app, typed, line);
+    AddPrint(app, line);
     try {
         app.parse(count, arguments);
     } catch (const CLI::ParseError& stop) {
@@ -289,7 +311,9 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     }
     if (app.get_subcommands().empty()) {
         error =
-            "a verb is needed: state, invert, form, chart, catalogue or capacity; --help says more";
+            "a verb is needed: state, invert, form, chart, print, catalogue or capacity; --help "
+            "says "
+            "more";
         return kWrongUse;
     }
     if (!typed.data.empty()) line.data = typed.data;

@@ -26,7 +26,16 @@ struct StateOptions {
     std::optional<double> p;
 };
 
-enum class Verb { State, Invert, Form, Chart, Catalogue, Capacity };
+// The page to print, and where to.
+struct PrintRequest {
+    std::string output;
+    std::string script;               // as of a ChartRequest
+    std::string paper;                // A4, A3 or A2; empty as in the settings
+    bool landscape = false;           // else as in the settings
+    std::optional<int> header_style;  // 0 or 1; empty as in the settings
+};
+
+enum class Verb { State, Invert, Form, Chart, Print, Catalogue, Capacity };
 
 struct CommandLine {
     Verb verb = Verb::State;
@@ -39,6 +48,7 @@ struct CommandLine {
     std::optional<Convention> convention;  // of the verbs form and chart; empty as in the settings
     CatalogueRequest catalogue;
     CapacityRequest capacity;
+    PrintRequest print;
 };
 
 // Reads the arguments of the program. An exit status means that there is nothing left to do: help

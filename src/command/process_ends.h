@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace zandrell {
 
@@ -19,5 +21,11 @@ bool ReadScript(const std::string& name, std::string& script, std::string& error
 // Replaces the process by the program of that name in the same folder, with the same arguments.
 // Returns only on failure, with one line in `error`.
 void BecomeSibling(const std::string& program, char** arguments, std::string& error);
+
+// Runs the program of that name in the same folder and waits for it. `input` is what it reads,
+// `output` what it writes to its standard output. False, with one line in `error`, when it cannot
+// be run or ends with another status than 0; it then says why on its standard output.
+bool RunSibling(std::string_view program, const std::vector<std::string>& arguments,
+                const std::string& input, std::string& output, std::string& error);
 
 }  // namespace zandrell

@@ -5,12 +5,13 @@
 #include <string>
 
 #include "command/command_line.h"
+#include "command/sibling_printer.h"
 #include "shell/form_script.h"
 
 namespace zandrell {
 
-// The verb `chart` up to the drawing: a main form that starts at the wanted size and kind, and goes
-// through the script and the zoom.
+// The verbs `chart` and `print` up to the drawing: a main form that starts at the wanted size and
+// kind, and goes through the script and the zoom.
 class ScriptedChart {
   public:
     // `script` is its text, empty for none; its dumps go to `dumps`, which outlives the chart.
@@ -23,6 +24,9 @@ class ScriptedChart {
     // Its picture and overlay are what is to be drawn.
     const MainForm& Form() const { return form_; }
 
+    // The page of the verb `print`, with what the request says in place of the settings.
+    Sheet ComposeSheet(const PrintRequest& request);
+
   private:
     bool RunScript(std::string& error);
     bool Zoom(const ZoomFrame& zoom, std::string& error);
@@ -31,6 +35,7 @@ class ScriptedChart {
     std::istringstream script_;
     ScriptedUser user_;
     DataFiles files_;
+    SiblingPrinter printer_;
     MainForm form_;
 };
 

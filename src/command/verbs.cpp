@@ -6,6 +6,7 @@
 #include "base/file_names.h"
 #include "chart/chart_settings.h"
 #include "command/row_calculations.h"
+#include "command/sibling_printer.h"
 #include "command/single_state.h"
 #include "kernel/water_air_tables.h"
 #include "shell/form_script.h"
@@ -84,6 +85,8 @@ bool RunForm(const CommandLine& line, std::istream& script, std::ostream& dumps,
     ScriptedUser user(script, dumps);
     MainForm form(user, files, line.data);
     form.chart.convention_override = line.convention;
+    SiblingPrinter printer;
+    form.printing.SetDevice(&printer);
     if (!user.Run(form, error)) return false;
     if (dumps.flush()) return true;
     error = "the output cannot be written";

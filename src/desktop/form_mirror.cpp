@@ -141,6 +141,22 @@ void FormMirror::Bind(QLineEdit* field, const TextField& control) {
     });
 }
 
+void FormMirror::Bind(QPlainTextEdit* text, const TextField& control) {
+    AddCommon(text, control);
+    const std::string_view name = control.name;
+    const auto wanted = [&control] {
+        return Utf8(control.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    };
+    // The widget tells of every change; one that the form has made leaves both equal and is no act.
+    QObject::connect(text, &QPlainTextEdit::textChanged, text, [this, text, name, wanted] {
+        const QString typed = text->toPlainText();
+        if (typed != wanted()) Perform([&] { window_.UserSetText(name, typed.toStdString()); });
+    });
+    writers_.push_back([text, wanted] {
+        if (text->toPlainText() != wanted()) text->setPlainText(wanted());
+    });
+}
+
 void FormMirror::Bind(QSlider* bar, const ScrollBar& control) {
     AddCommon(bar, control);
     bar->setOrientation(Qt::Horizontal);

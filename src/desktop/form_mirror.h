@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -43,6 +44,7 @@ class FormMirror {
 
     void Bind(QLabel* label, const Control& control);
     void Bind(QLineEdit* field, const TextField& control);
+    void Bind(QPlainTextEdit* text, const TextField& control);
     void Bind(QSlider* bar, const ScrollBar& control);
     void Bind(QRadioButton* option, const OptionButton& control);
     void Bind(QCheckBox* box, const CheckBox& control);

@@ -47,7 +47,9 @@ QString ProjectIn(const QMimeData& dragged) {
 }  // namespace
 
 MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
-    : form_(form), pictures_(files), mirror_(form, pictures_) {
+    : form_(form), pictures_(files), printing_(user, form.captions), mirror_(form, pictures_) {
+    form.printing.SetDevice(&printing_);
+    form.help.viewer = &viewer_;
     mirror_.skinned = !form.controls.FunktButtPn.picture.empty();
     auto* centre = new QWidget(this);
     auto* layout = new QHBoxLayout(centre);
@@ -93,6 +95,7 @@ void MainWindow::MakeMenus() {
             mirror_.Bind(action, *entry);
             const auto key = StandardKeys().find(branch.entry);
             if (key != StandardKeys().end()) action->setShortcuts(key->second);
+            if (branch.entry == form_.controls.HelpHere.name) action->setShortcut(Qt::Key_F1);
         }
     }
 }

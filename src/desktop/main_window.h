@@ -6,7 +6,9 @@
 #include "desktop/floating_panel.h"
 #include "desktop/form_mirror.h"
 #include "desktop/pictures.h"
+#include "desktop/qt_printing.h"
 #include "desktop/qt_user.h"
+#include "desktop/qt_viewer.h"
 #include "shell/main_form.h"
 
 namespace zandrell {
@@ -44,6 +46,8 @@ class MainWindow : public QMainWindow {
 
     MainForm& form_;
     Pictures pictures_;
+    QtPrinting printing_;
+    QtViewer viewer_;
     FormMirror mirror_;
     ChartWidget* chart_ = nullptr;
     FloatingPanel* point_view_ = nullptr;

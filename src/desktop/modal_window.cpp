@@ -28,6 +28,10 @@ void ModalWindow::Run() {
 }
 
 void ModalWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1) {
+        if (on_help) on_help();
+        return;
+    }
     if (event->key() == Qt::Key_Escape) {
         mirror_.Click(form_.cancel_control);
         return;

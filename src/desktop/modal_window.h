@@ -17,6 +17,8 @@ class ModalWindow : public QDialog {
     // Blocks until the form is closed.
     void Run();
 
+    std::function<void()> on_help;  // the key F1
+
     // Writes what differs, and closes when the form is closed.
     void Refresh();
 

@@ -10,9 +10,12 @@
 #include <QThread>
 #include <algorithm>
 
+#include "desktop/help_window.h"
 #include "desktop/options_window.h"
+#include "desktop/print_setup_window.h"
 #include "desktop/project_window.h"
 #include "painter/chart_file.h"
+#include "shell/help_in_hand.h"
 
 namespace zandrell {
 namespace {
@@ -56,19 +59,35 @@ bool QtUser::Confirm(const Message& question) {
 void QtUser::ShowModal(ModalForm& window) {
     Refresh();
     if (!opener_.form) return Refuse(window);
+    QWidget* active = QApplication::activeModalWidget();
+    QWidget* parent = active ? active : opener_.window;
     if (auto* options = dynamic_cast<OptionsForm*>(&window)) {
         OptionsWindow dialog(*options, opener_.form->captions, opener_.form->chart.picture,
-                             *opener_.pictures, opener_.window);
+                             *opener_.pictures, parent);
         return Run(dialog, window);
     }
     if (auto* projects = dynamic_cast<ProjectDialog*>(&window)) {
-        ProjectWindow dialog(*projects, *opener_.pictures, opener_.window);
+        ProjectWindow dialog(*projects, *opener_.pictures, parent);
+        return Run(dialog, window);
+    }
+    if (auto* setup = dynamic_cast<PrintSetupForm*>(&window)) {
+        PrintSetupWindow dialog(*setup, *opener_.pictures, parent);
+        return Run(dialog, window);
+    }
+    if (auto* help = dynamic_cast<HelpForm*>(&window)) {
+        HelpWindow dialog(*help, *opener_.pictures, parent);
         return Run(dialog, window);
     }
     Refuse(window);
 }
 
 void QtUser::Run(ModalWindow& dialog, ModalForm& window) const {
+    // Help on the help would only open it again.
+    if (&window != &opener_.form->help) {
+        dialog.on_help = [form = opener_.form, name = window.form.Name()] {
+            form->OpenHelp(TopicInHand(*form, name));
+        };
+    }
     if (on_window) on_window(&window);
     dialog.Run();
     if (on_window) on_window(nullptr);
@@ -99,7 +118,10 @@ QPrinter& QtUser::Printer() {
 
 bool QtUser::ChoosePrinter(const std::string& title) {
     Refresh();
-    QPrintDialog dialog(&Printer(), opener_.window);
+    if (on_message) on_message({title, "", MessageIcon::Information});
+    if (!print_file.empty()) return true;
+    QWidget* active = QApplication::activeModalWidget();
+    QPrintDialog dialog(&Printer(), active ? active : opener_.window);
     dialog.setWindowTitle(QString::fromStdString(title));
     return dialog.exec() == QDialog::Accepted;
 }

@@ -38,6 +38,9 @@ class QtUser : public UserInterface {
     void CopyChart() override;
     bool ChoosePrinter(const std::string& title) override;
 
+    // A PDF that takes the pages in place of a printer; empty: none. No printer is asked for then.
+    std::string print_file;
+
     // The printer chosen last, the system's own before that.
     QPrinter& Printer();
 

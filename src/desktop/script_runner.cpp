@@ -53,7 +53,11 @@ ScriptRunner::ScriptRunner(MainForm& form, MainWindow& window, QtUser& user)
 bool ScriptRunner::Start(const std::string& path) {
     std::ifstream file(path);
     if (!file) return false;
-    for (std::string line; std::getline(file, line);) lines_.push_back(line);
+    int number = 0;
+    for (std::string line; std::getline(file, line);) {
+        ++number;
+        for (std::string& act : ActsOf(line)) lines_.emplace_back(number, std::move(act));
+    }
     Schedule();
     return true;
 }
@@ -69,9 +73,8 @@ void ScriptRunner::RunNextLine() {
         if (shot_taken_) QApplication::exit(EXIT_SUCCESS);
         return;
     }
-    const std::string line = lines_.front();
+    const auto [number, line] = lines_.front();
     lines_.pop_front();
-    const int number = ++line_number_;
     Schedule();
     std::string error;
     if (!RunLine(line, error)) Fail(std::to_string(number), error);

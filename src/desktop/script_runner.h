@@ -33,9 +33,8 @@ class ScriptRunner {
 
     MainWindow& window_;
     FormScript script_;
-    QObject context_;  // calls that are still to come die with it
-    std::deque<std::string> lines_;
-    int line_number_ = 0;
+    QObject context_;                                // calls that are still to come die with it
+    std::deque<std::pair<int, std::string>> lines_;  // with their numbers
     bool shot_taken_ = false;
     bool failed_ = false;
 };

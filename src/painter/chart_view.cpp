@@ -71,6 +71,25 @@ ChartView::ChartView(const RecordingCanvas& picture, const QRectF& target, doubl
     if (extent_.height() < 1) extent_.setHeight(1);
 }
 
+ChartView::ChartView(const PaperPlace& place)
+    : target_(place.page),
+      extent_(place.extent),
+      text_room_(place.text_room),
+      stroke_unit_(place.stroke_unit),
+      line_unit_(place.line_unit),
+      least_line_(place.least_line),
+      font_(place.font) {}
+
+double ChartView::Thickness(int width, double strength) const {
+    if (!line_unit_) return strength * width * stroke_unit_;
+    return std::max(least_line_, width * *line_unit_);
+}
+
+bool ChartView::HoldsText(CanvasPoint corner) const {
+    if (!text_room_) return IsOnCanvas(corner, kTextTolerance);
+    return text_room_->contains(QPointF(corner.x, corner.y));
+}
+
 // The margin m at which the text that reaches farthest just ends inside the surface: a text of
 // width w at the share s of the extent needs left + s (W - left - m) + w <= W - gap.
 double ChartView::RightMargin(const RecordingCanvas& picture, double left_margin) const {

@@ -13,10 +13,22 @@ namespace {
 
 constexpr double kDotShare = 0.28;       // of the area of the comfort field that its dots cover
 constexpr qsizetype kPointsOfCurve = 4;  // fewer are a line with bends
+constexpr double kGrains = 8;            // of a stroke; finer places of dots are not seen
 constexpr double kRowUnits = 0.7;        // canvas units between two rows of these dots
 
 bool DrawsPixels(const QPainter& painter) {
     return painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster;
+}
+
+// A transparent colour on a ground, as an opaque one.
+QColor Mixed(const QColor& colour, const QColor& ground) {
+    const float share = colour.alphaF();
+    const auto mix = [share](float over, float under) {
+        return share * over + (1 - share) * under;
+    };
+    return QColor::fromRgbF(mix(colour.redF(), ground.redF()),
+                            mix(colour.greenF(), ground.greenF()),
+                            mix(colour.blueF(), ground.blueF()));
 }
 
 // On pixels the text itself is drawn all around: its glyphs are kept ready, stroking their outlines
@@ -86,7 +98,7 @@ void QtCanvas::Line(double x1, double y1, double x2, double y2, int colour) {
 }
 
 double QtCanvas::Thickness(const Shade& shade) const {
-    return shade.width * look_.width * view_.StrokeUnit();
+    return view_.Thickness(look_.width, shade.width);
 }
 
 void QtCanvas::FlushLines() {
@@ -162,18 +174,25 @@ void QtCanvas::FlushDots() {
     const double side = std::max(view_.StrokeUnit(), kDotShare * row_pixels);
     QColor colour = ShadeFor(dot_colour_, StrokeRole::Dots, ground_).colour;
     colour.setAlphaF(static_cast<float>(std::clamp(0.45 * row_pixels / side, 0.06, 0.9)));
-    QPainterPath squares;
-    squares.setFillRule(Qt::WindingFill);
-    const bool one_by_one = DrawsPixels(painter_);
-    for (const QPointF& dot : dots_) {
-        const QRectF square(dot.x() - side / 2, dot.y() - side / 2, side, side);
-        if (one_by_one) {
-            painter_.fillRect(square, colour);
-        } else {
-            squares.addRect(square);
+    if (DrawsPixels(painter_)) {
+        for (const QPointF& dot : dots_) {
+            painter_.fillRect(QRectF(dot.x() - side / 2, dot.y() - side / 2, side, side), colour);
         }
+    } else {
+        // Short thick strokes in an opaque mixture: a file would be three times as large with the
+        // outline of each square, which a transparent pen is turned into as well.
+        // Round numbers are shorter and compress well.
+        const double grain = view_.StrokeUnit() / kGrains;
+        const auto round = [grain](double place) { return std::round(place / grain) * grain; };
+        QPainterPath strokes;
+        for (const QPointF& dot : dots_) {
+            strokes.moveTo(round(dot.x() - side / 2), round(dot.y()));
+            strokes.lineTo(round(dot.x() + side / 2), round(dot.y()));
+        }
+        painter_.strokePath(
+            strokes, QPen(Mixed(colour, ShadeFor(ground_, StrokeRole::Ground, ground_).colour),
+                          side, Qt::SolidLine, Qt::FlatCap));
     }
-    painter_.fillPath(squares, colour);
     dots_.clear();
 }
 
@@ -208,9 +227,13 @@ void QtCanvas::DrawTexts() {
     }
 }
 
-TextLayout QtCanvas::Finish() {
+void QtCanvas::FinishStrokes() {
     FlushLines();
     FlushDots();
+}
+
+TextLayout QtCanvas::Finish() {
+    FinishStrokes();
     DrawTexts();
     return std::move(texts_);
 }

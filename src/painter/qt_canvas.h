@@ -37,6 +37,8 @@ class QtCanvas : public Canvas {
     void Circle(double x, double y, double radius, int colour) override;
     void Text(double x, double y, std::string_view text) override;
 
+    // Draws the lines and dots that are still kept, but no texts.
+    void FinishStrokes();
     // Draws what is still kept and tells where the texts came to stand. Requires: called once after
     // the last stroke.
     TextLayout Finish();

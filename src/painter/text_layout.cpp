@@ -9,7 +9,6 @@ namespace zandrell {
 namespace {
 
 constexpr double kTextBoxUnits = 10;  // canvas units; the places of texts count on this height
-constexpr double kTextTolerance = 8;  // canvas units
 
 }  // namespace
 
@@ -53,7 +52,7 @@ void TextLayout::Line(const Segment& line, int colour) {
 }
 
 void TextLayout::Text(CanvasPoint place, std::string_view text, TextRole role) {
-    if (!IsOnCanvas(place, kTextTolerance)) return;
+    if (!view_->HoldsText(place)) return;
     const QPointF corner = view_->ToDevice(place);
     const double middle =
         corner.y() + kTextBoxUnits / 2 * view_->Extent().height() / (kCanvasBottom - kCanvasTop);

@@ -62,6 +62,8 @@ const std::vector<ProgramValue>& ModeValues() {
         {"UserCompany", [](MainForm& m) { return Json(m.shared.UserCompany); }},
         {"HeaderStyle", [](MainForm& m) { return Json(m.shared.HeaderStyle); }},
         {"SkinNumber", [](MainForm& m) { return Json(m.shared.SkinNumber); }},
+        {"HelpClosed", [](MainForm& m) { return Json(m.shared.HelpClosed); }},
+        {"DateText", [](MainForm& m) { return Json(m.shared.DateText); }},
         {"LogoFile", [](MainForm& m) { return Json(m.shared.LogoFile); }},
         {"DateFormatCode", [](MainForm& m) { return Json(m.shared.DateFormatCode); }},
         {"LabelFontSize", [](MainForm& m) { return Json(m.shared.LabelFontSize); }},
@@ -181,6 +183,13 @@ void AddChartLabel(const ChartLabel& label, Json& json) {
     json["colour"] = label.colour;
 }
 
+std::string WithPlainLineEnds(std::string text) {
+    for (auto end = text.find("\r\n"); end != std::string::npos; end = text.find("\r\n", end)) {
+        text.erase(end, 1);
+    }
+    return text;
+}
+
 void AddOwn(const Control& control, Json& json) {
     switch (control.kind) {
         case ControlKind::OptionButton:
@@ -195,8 +204,11 @@ void AddOwn(const Control& control, Json& json) {
         case ControlKind::ComboBox:
             AddChoiceList(static_cast<const ChoiceList&>(control), json);
             break;
-        case ControlKind::Panel:
         case ControlKind::Picture:
+            json["picture"] = static_cast<const Panel&>(control).picture;
+            AddPlace(static_cast<const Panel&>(control), json);
+            break;
+        case ControlKind::Panel:
             AddPlace(static_cast<const Panel&>(control), json);
             break;
         case ControlKind::ScrollBar:
@@ -211,8 +223,10 @@ void AddOwn(const Control& control, Json& json) {
         case ControlKind::ChartLabel:
             AddChartLabel(static_cast<const ChartLabel&>(control), json);
             break;
-        case ControlKind::Label:
         case ControlKind::TextField:
+            json["text"] = WithPlainLineEnds(control.text);
+            break;
+        case ControlKind::Label:
         case ControlKind::Button:
         case ControlKind::MenuEntry:
             json["text"] = control.text;
@@ -235,7 +249,7 @@ Json DumpControl(const Control& control) {
 }  // namespace
 
 std::vector<ModalForm*> WindowsOf(MainForm& main) {
-    return {&main.options, &main.Projects().dialog};
+    return {&main.options, &main.Projects().dialog, &main.printing.setup, &main.help};
 }
 
 Json DumpForm(MainForm& main) {

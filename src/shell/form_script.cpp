@@ -11,6 +11,7 @@
 #include "base/number_text.h"
 #include "canvas/canvas.h"
 #include "shell/form_dump.h"
+#include "shell/help_in_hand.h"
 
 namespace zandrell {
 namespace {
@@ -45,6 +46,14 @@ std::string ValueOf(std::string_view line) {
     place = line.find_first_not_of(" \t", place);
     place = line.find_first_of(" \t", place);
     return place == std::string_view::npos ? std::string() : std::string(line.substr(place + 1));
+}
+
+// What stands behind the first word.
+std::string BehindAct(std::string_view line) {
+    const auto act = line.find_first_not_of(" \t");
+    const auto end = line.find_first_of(" \t", act);
+    const auto value = line.find_first_not_of(" \t", end);
+    return value == std::string_view::npos ? std::string() : std::string(line.substr(value));
 }
 
 bool ReadWholeFile(const std::string& path, std::string& content) {
@@ -87,9 +96,23 @@ bool Fail(std::string& error, const std::string& reason) {
 
 }  // namespace
 
+std::vector<std::string> ActsOf(std::string line) {
+    if (line.ends_with('\r')) line.pop_back();
+    if (WordsOf(line).empty() || WordsOf(line)[0] != "print") return {std::move(line)};
+    return {"printer " + BehindAct(line), "click druckbutt", "click DruckEInstell.Okbutt"};
+}
+
 void FormScript::WindowOpened(ModalForm& window) {
+    if (window_ != nullptr) below_.push_back(window_);
     window_ = &window;
     opened_.push_back({window.title, "", MessageIcon::Information});
+}
+
+void FormScript::WindowClosed() {
+    window_ = nullptr;
+    if (below_.empty()) return;
+    window_ = below_.back();
+    below_.pop_back();
 }
 
 std::string FormScript::TakeAnswer() {
@@ -110,11 +133,10 @@ bool FormScript::RunLine(std::string_view line, std::string& error) {
         answers_.emplace_back(value == std::string_view::npos ? "" : line.substr(value));
         return true;
     }
-    if (act == "close" && window_ != nullptr) {
-        window_->UserClick(window_->cancel_control);
-        return true;
-    }
-    if (act == "open") return OpenWindow(words, error);
+    if (act == "close" && window_ != nullptr) return window_->UserClick(window_->cancel_control);
+    if (act == "clock") return RunClock(words, error);
+    if (act == "printer") return RunPrinter(line, error);
+    if (act == "open") return OpenWindow(words, ValueOf(line), error);
     if (act == "window" || act == "activate" || act == "close" || act == "pointer") {
         if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
         return act == "pointer" ? RunPointer(words, error) : RunWindowAct(words, error);
@@ -139,10 +161,31 @@ bool FormScript::RunWindowAct(const Words& words, std::string& error) {
     return true;
 }
 
-bool FormScript::OpenWindow(const Words& words, std::string& error) {
+bool FormScript::RunClock(const Words& words, std::string& error) {
+    const auto day = words.size() == 2 ? ReadDay(words[1]) : std::nullopt;
+    if (!day) return Fail(error, "clock needs a day, YYYY-MM-DD");
+    form_.shared.clock_day = day;
+    return true;
+}
+
+bool FormScript::RunPrinter(std::string_view line, std::string& error) {
+    const std::string file = BehindAct(line);
+    if (file.empty()) return Fail(error, "the printer needs a PDF file");
+    if (form_.printing.PrintToFile(file)) return true;
+    return Fail(error, "there is no printer here");
+}
+
+// As another module of the suite would open a window.
+bool FormScript::OpenWindow(const Words& words, const std::string& value, std::string& error) {
     if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
+    const std::string window = words.size() > 1 ? words[1] : "";
+    if (window == "Hilfebox") {
+        form_.shared.DateText = value;
+        form_.help.ShowHelp();
+        return true;
+    }
     int mode = 0;
-    if (words.size() < 2 || words[1] != "ProjLaden") return Fail(error, "no such window");
+    if (window != "ProjLaden") return Fail(error, "no such window");
     if (words.size() != 3 || !ReadWhole(words[2], mode)) {
         return Fail(error, "open ProjLaden needs its DialogMode");
     }
@@ -232,6 +275,10 @@ bool FormScript::RunKey(const Target& target, const std::string& key, std::strin
     WindowForm& window = *target.window;
     const Control& control = *window.form.Find(target.control);
     const bool confirms = key == "Return" || key == "Enter";
+    if (key == "F1") {
+        form_.OpenHelp(TopicInHand(form_, window_ != nullptr ? window_->form.Name() : ""));
+        return true;
+    }
     if (key == "Escape" && window_ != nullptr) {
         return window_->UserClick(window_->cancel_control);
     }
@@ -277,10 +324,21 @@ bool ScriptedUser::Run(MainForm& form, std::string& error, WindowSize size) {
     return error_.empty();
 }
 
+bool ScriptedUser::ReadAct(std::string& act) {
+    if (acts_ahead_.empty()) {
+        std::string line;
+        if (!std::getline(script_, line)) return false;
+        ++line_number_;
+        for (std::string& one : ActsOf(line)) acts_ahead_.push_back(std::move(one));
+    }
+    act = std::move(acts_ahead_.front());
+    acts_ahead_.pop_front();
+    return true;
+}
+
 bool ScriptedUser::RunNextLine() {
     std::string line;
-    if (!error_.empty() || !std::getline(script_, line)) return false;
-    ++line_number_;
+    if (!error_.empty() || !ReadAct(line)) return false;
     // A line that opens a window runs others before it comes back.
     const int number = line_number_;
     std::string reason;
@@ -316,7 +374,8 @@ bool ScriptedUser::Confirm(const Message& question) {
 
 bool ScriptedUser::ChoosePrinter(const std::string& title) {
     acts_->NoteMessage({title, "", MessageIcon::Information});
-    return acts_->TakeAnswer() == "ok";
+    const std::string answer = acts_->TakeAnswer();
+    return answer != "cancel" && answer != "no";
 }
 
 }  // namespace zandrell

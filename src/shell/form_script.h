@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -8,6 +9,10 @@
 #include "shell/main_form.h"
 
 namespace zandrell {
+
+// The acts of one line of a script: `print FILE` stands for the three of a print-out, any other
+// line for itself.
+std::vector<std::string> ActsOf(std::string line);
 
 // Carries out one act a line on the main form, or on the window that is open, as a user would.
 class FormScript {
@@ -23,7 +28,7 @@ class FormScript {
     void NoteMessage(const Message& message) { opened_.push_back(message); }
     // A window is open until WindowClosed; meanwhile the main form takes no input.
     void WindowOpened(ModalForm& window);
-    void WindowClosed() { window_ = nullptr; }
+    void WindowClosed();
 
     // Answers that are waiting for the next dialog or message; empty when there is none.
     std::string TakeAnswer();
@@ -38,7 +43,9 @@ class FormScript {
     bool RunWindowAct(const Words& words, std::string& error);
     bool RunControlAct(const std::string& act, const std::string& name, const std::string& value,
                        std::string& error);
-    bool OpenWindow(const Words& words, std::string& error);
+    bool OpenWindow(const Words& words, const std::string& value, std::string& error);
+    bool RunClock(const Words& words, std::string& error);
+    bool RunPrinter(std::string_view line, std::string& error);
     bool RunPointer(const Words& words, std::string& error);
     bool RunKey(const Target& target, const std::string& key, std::string& error);
     bool Find(const std::string& name, Target& target, std::string& error);
@@ -47,6 +54,7 @@ class FormScript {
     MainForm& form_;
     std::ostream& dumps_;
     ModalForm* window_ = nullptr;
+    std::vector<ModalForm*> below_;  // windows that opened others
     std::vector<Message> opened_;
     std::vector<std::string> answers_;
 };
@@ -75,11 +83,13 @@ class ScriptedUser : public UserInterface {
     bool ChoosePrinter(const std::string& title) override;
 
   private:
+    bool ReadAct(std::string& act);
     bool RunNextLine();
 
     std::istream& script_;
     std::ostream& dumps_;
     FormScript* acts_ = nullptr;
+    std::deque<std::string> acts_ahead_;  // of the line that was read last
     int line_number_ = 0;
     std::string error_;
 };

@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/help_in_hand.h"
 #include "shell/main_form.h"
 
 namespace zandrell {
@@ -34,6 +35,8 @@ void MainForm::BindActs() {
     BindMenuActs();
     BindPanelActs();
     BindProjectActs();
+    BindPrintingActs();
+    BindHelpActs();
 }
 
 void MainForm::BindToolActs() {
@@ -128,6 +131,31 @@ void MainForm::BindPanelActs() {
     for (const Button* button : {&plant.AnlageAbButt, &plant.AnlageAbButt_l, &plant.Command3D6,
                                  &plant.Command3D6_l, &plant.Picture12}) {
         acts.Add(button->name, ActKind::Click, [this] { panels_.Close(processes.plant.Frame1); });
+    }
+}
+
+void MainForm::BindPrintingActs() {
+    for (const Button* button :
+         {&controls.druckbutt.picture, &controls.druckbutt.caption, &controls.mPributt_2}) {
+        acts.Add(button->name, ActKind::Click, [this] { Print(); });
+    }
+    acts.Add(controls.mPributt.name, ActKind::Release, [this] { Print(); });
+    acts.Add(controls.PrinterSetup.name, ActKind::Click, [this] { printing.OpenPrinterDialog(); });
+    acts.Add(controls.PrintPreview.name, ActKind::Click, [this] {
+        printing.ShowPreview();
+        SetTitle();
+    });
+}
+
+void MainForm::BindHelpActs() {
+    acts.Add(controls.HelpHere.name, ActKind::Click, [this] { OpenHelp(TopicInHand(*this, {})); });
+    for (const auto& [entry, topic] : {std::pair{&controls.HelpSoftware, HelpTopic::Software},
+                                       {&controls.HelpChart, HelpTopic::ChartAndReadOut},
+                                       {&controls.HelpAirTreatment, HelpTopic::AirTreatment},
+                                       {&controls.HelpProject, HelpTopic::ProjectData},
+                                       {&controls.HelpValues, HelpTopic::SetOfValues},
+                                       {&controls.HelpSettings, HelpTopic::Settings}}) {
+        acts.Add(entry->name, ActKind::Click, [this, topic = topic] { OpenHelp(topic); });
     }
 }
 

@@ -57,6 +57,7 @@ void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& 
     entry(c.Undo, OrEnglish(words[Caption::Undo], "Undo"));
     entry(c.Redo, OrEnglish(words[Caption::Redo], "Redo"));
     entry(c.PrinterSetup, words[Caption::Printer]);
+    entry(c.PrintPreview, words[Caption::PrintPreview]);
     entry(c.Ende, words[Caption::Exit]);
     entry(c.Opt, words[Caption::Settings]);
     entry(c.qveinst, words[Caption::ModuleName]);
@@ -76,6 +77,18 @@ void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& 
     entry(c.kopieren, words[Caption::ModuleName] + " &" + words[Caption::CopyToClipboard]);
     entry(c.Hsich, words[Caption::SaveButton]);
     entry(c.Hlad, words[Caption::Load]);
+}
+
+void SetHelpCaptions(MainControls& c, const SharedValues& shared, const Captions& words) {
+    c.HelpMenu.text = c.HelpHere.text = "&" + words[Caption::Help];
+    for (const auto& [entry, topic] : {std::pair{&c.HelpSoftware, HelpTopic::Software},
+                                       {&c.HelpChart, HelpTopic::ChartAndReadOut},
+                                       {&c.HelpAirTreatment, HelpTopic::AirTreatment},
+                                       {&c.HelpProject, HelpTopic::ProjectData},
+                                       {&c.HelpValues, HelpTopic::SetOfValues},
+                                       {&c.HelpSettings, HelpTopic::Settings}}) {
+        entry->text = "&" + TopicText(topic, shared, words);
+    }
 }
 
 void SetToolCaptions(MainControls& c, const Captions& words) {
@@ -203,6 +216,7 @@ void SetCaptions(MainForm& main) {
     const Captions& captions = main.captions;
     const std::string& tag = main.shared.LanguageTag;
     SetMenuCaptions(main.controls, captions, tag);
+    SetHelpCaptions(main.controls, main.shared, captions);
     SetToolCaptions(main.controls, captions);
     SetReadOutCaptions(main.controls, captions);
     SetPointPanelCaptions(main.processes.point, captions);

@@ -5,11 +5,6 @@ namespace zandrell {
 MainControls::MainControls() {
     ZOOMMIN.visible = false;
     Shape3.visible = false;
-    // Printing is not built yet: what leads to it is off.
-    PrinterSetup.enabled = false;
-    for (Button* button : {&druckbutt.picture, &druckbutt.caption, &mPributt, &mPributt_2}) {
-        button->enabled = false;
-    }
 }
 
 std::array<ToolButton*, 8> MainControls::ToolButtons() {
@@ -23,12 +18,15 @@ void MainControls::ListControls(Form& form) {
     form.Add({&Label24, &Label25, &Proj_T, &Schr_T});
     form.Add({&temperature_word, &humidity_word, &ratio_word, &enthalpy_word, &density_word,
               &vapour_word, &pressure_word, &Label7, &Label19, &Shape3});
-    form.Add({&proj, &NeuPro, &ProLad, &ProSpeich, &ProSpeichU, &PrinterSetup, &Ende});
+    form.Add(
+        {&proj, &NeuPro, &ProLad, &ProSpeich, &ProSpeichU, &PrinterSetup, &PrintPreview, &Ende});
     form.Add({&Recent, &PrevState, &Undo, &Redo});
     for (MenuEntry& entry : recent_entries) form.Add({&entry});
     form.Add({&Opt, &qveinst, &wrgEinst});
     form.Add({&Bearb, &ZustAe, &Misch, &Kleis, &AnlageS, &Leist_Ber, &Heiz_start, &Kuehl_start,
               &Humid_W_Start, &Humid_D_Start, &kopieren, &Hsich, &Hlad});
+    form.Add({&HelpMenu, &HelpHere, &HelpSoftware, &HelpChart, &HelpAirTreatment, &HelpProject,
+              &HelpValues, &HelpSettings});
 }
 
 }  // namespace zandrell

@@ -40,7 +40,8 @@ struct MainControls {
     Panel Shape3{"Shape3"};  // outline of a panel that is being dragged
 
     MenuEntry proj{"proj"}, NeuPro{"NeuPro"}, ProLad{"ProLad"}, ProSpeich{"ProSpeich"},
-        ProSpeichU{"ProSpeichU"}, PrinterSetup{"PrinterSetup"}, Ende{"Ende"};
+        ProSpeichU{"ProSpeichU"}, PrinterSetup{"PrinterSetup"}, PrintPreview{"PrintPreview"},
+        Ende{"Ende"};
     // Beside the suite's own entries.
     MenuEntry Recent{"Recent"}, PrevState{"PrevState"}, Undo{"Undo"}, Redo{"Redo"};
     std::array<MenuEntry, 8> recent_entries = {
@@ -51,6 +52,9 @@ struct MainControls {
         Leist_Ber{"Leist_Ber"}, Heiz_start{"Heiz_start"}, Kuehl_start{"Kuehl_start"},
         Humid_W_Start{"Humid_W_Start"}, Humid_D_Start{"Humid_D_Start"}, kopieren{"kopieren"},
         Hsich{"Hsich"}, Hlad{"Hlad"};
+    MenuEntry HelpMenu{"HelpMenu"}, HelpHere{"HelpHere"}, HelpSoftware{"HelpSoftware"},
+        HelpChart{"HelpChart"}, HelpAirTreatment{"HelpAirTreatment"}, HelpProject{"HelpProject"},
+        HelpValues{"HelpValues"}, HelpSettings{"HelpSettings"};
 
     MainControls();
     std::array<ToolButton*, 8> ToolButtons();
@@ -62,7 +66,7 @@ struct MenuBranch {
     std::string_view entry;
     std::string_view parent;  // empty: in the menu bar
 };
-inline constexpr std::array<MenuBranch, 35> kMenuTree = {{
+inline constexpr std::array<MenuBranch, 44> kMenuTree = {{
     {"proj", ""},
     {"NeuPro", "proj"},
     {"ProLad", "proj"},
@@ -79,6 +83,7 @@ inline constexpr std::array<MenuBranch, 35> kMenuTree = {{
     {"ProSpeichU", "proj"},
     {"PrevState", "proj"},
     {"PrinterSetup", "proj"},
+    {"PrintPreview", "proj"},
     {"Ende", "proj"},
     {"Opt", ""},
     {"qveinst", "Opt"},
@@ -98,6 +103,14 @@ inline constexpr std::array<MenuBranch, 35> kMenuTree = {{
     {"kopieren", "Bearb"},
     {"Hsich", ""},
     {"Hlad", ""},
+    {"HelpMenu", ""},
+    {"HelpHere", "HelpMenu"},
+    {"HelpSoftware", "HelpMenu"},
+    {"HelpChart", "HelpMenu"},
+    {"HelpAirTreatment", "HelpMenu"},
+    {"HelpProject", "HelpMenu"},
+    {"HelpValues", "HelpMenu"},
+    {"HelpSettings", "HelpMenu"},
 }};
 
 }  // namespace zandrell

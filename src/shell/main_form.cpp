@@ -19,6 +19,9 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
       chart(files, shared, captions, solver, overlay, read_out),
       processes({shared, captions, solver, chart.settings, chart.scale, overlay, read_out}),
       options(files, shared, captions, solver, user),
+      printing({user, files, shared, captions, chart, overlay, processes, controls.Proj_T,
+                controls.Schr_T}),
+      help(files, shared, captions, user),
       user_(user),
       files_(files),
       named_folder_(std::move(named)),
@@ -34,6 +37,8 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
                  [this](bool busy) { pointer_.SetBusy(busy); }}),
       undo_({*this, files, shared, processes, overlay, pointer_, panels_, inputs_, projects_,
              [this] { Activate(); }}) {
+    printing.after_printing = [this] { PaintAgain(); };
+    printing.setup.choose_logo = [this] { projects_.OpenDialog(shared.DialogMode); };
     ListControls();
     BindActs();
     chart.additions = [this](Canvas& canvas) {
@@ -85,6 +90,12 @@ void MainForm::Activate() {
     shared.OptionenSignal = OptionsSignal::None;
     if (signal == OptionsSignal::Cancelled) return last_step();
     pointer_.Activated();
+    if (shared.print_setup_signal == PrintSetupSignal::Closed) {
+        shared.print_setup_signal = PrintSetupSignal::None;
+        SetCaptions(*this);
+        panels_.KeepOpenPanel();
+        return last_step();
+    }
     const bool inputs_replaced = projects_.Activate();
     SetCaptions(*this);
     chart.TakeAspect(panels_.WidthTwips());
@@ -129,6 +140,29 @@ void MainForm::OpenOptions() {
     user_.ShowModal(options);
     Activate();
     undo_.NoteSettings();
+}
+
+void MainForm::Print() {
+    printing.Druck_start();
+    // A cancelled setup leaves everything as it was, and the window is not activated either.
+    if (shared.print_setup_signal == PrintSetupSignal::Closed) Activate();
+}
+
+// Behind a print-out: the whole chart, also where a part of it was printed.
+void MainForm::PaintAgain() {
+    chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, solver.ChartDruckBar);
+    const Calculation mode = processes.Rechenmodus;
+    if (mode == Calculation::Plant) {
+        processes.plant.AnlageBerechnen();
+    } else if (IsPointMode(mode)) {
+        processes.point.ZustandRechnen(mode, MarkPlacing::FromFields);
+    }
+    SetTitle();
+}
+
+void MainForm::OpenHelp(HelpTopic topic) {
+    shared.DateText = TopicText(topic, shared, captions);
+    help.ShowHelp();
 }
 
 void MainForm::AuswahlOeffnen() {

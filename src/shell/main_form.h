@@ -6,7 +6,9 @@
 #include "chart/chart_engine.h"
 #include "forms/user_interface.h"
 #include "forms/window_form.h"
+#include "help/help_form.h"
 #include "kernel/state_solver.h"
+#include "printing/chart_printing.h"
 #include "processes/process_panels.h"
 #include "projects/project_desk.h"
 #include "shell/input_keeper.h"
@@ -38,6 +40,8 @@ class MainForm : public WindowForm {
     ChartEngine chart;
     ProcessPanels processes;
     OptionsForm options;
+    ChartPrinting printing;
+    HelpForm help;
     bool ended = false;  // the window has closed and the program ends
 
     // The events of the window. Sizes are device-independent pixels.
@@ -61,6 +65,9 @@ class MainForm : public WindowForm {
     // A project that a file manager names.
     void OpenProject(const std::filesystem::path& path);
 
+    // Shows a topic of the help over whatever window is open.
+    void OpenHelp(HelpTopic topic);
+
     // Saves the working state and ends the program; also when the window is closed by its frame.
     // When the inputs cannot be saved the window stays, so that nothing is lost unseen; a second
     // try closes it.
@@ -78,8 +85,12 @@ class MainForm : public WindowForm {
     void BindPanelActs();
     void BindProjectActs();
     void FollowAct(std::string_view control, ActKind kind);
+    void BindPrintingActs();
+    void BindHelpActs();
     void SetTitle();
     void OpenOptions();
+    void Print();
+    void PaintAgain();
     void AuswahlOeffnen();
 
     UserInterface& user_;

@@ -79,6 +79,11 @@ void PanelKeeper::Close(Panel& panel) {
     panel.visible = false;
 }
 
+void PanelKeeper::KeepOpenPanel() {
+    if (processes_.plant.Frame1.visible) pointer_.PanelOpened(PointerOwner::PlantPanel);
+    if (processes_.point.Anlage1PN.visible) pointer_.PanelOpened(PointerOwner::PointPanel);
+}
+
 void PanelKeeper::HideBoth() {
     processes_.point.Anlage1PN.visible = false;
     processes_.plant.Frame1.visible = false;

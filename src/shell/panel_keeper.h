@@ -25,6 +25,8 @@ class PanelKeeper {
     void OpenTool(Calculation mode);
     void AnlageOeffnen();
     void Close(Panel& panel);
+    // After an activation the pointer belongs again to the panel that is still open.
+    void KeepOpenPanel();
     // Both, without a word to the pointer.
     void HideBoth();
 

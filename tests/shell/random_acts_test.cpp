@@ -42,29 +42,25 @@ class RandomUser {
                 return PointerAct();
         }
     }
-    // A window that opens stays for a few acts of its own.
-    std::string WindowActs(const std::string& window) {
-        return window == "ProjLaden" ? ProjectActs() : OptionsActs();
-    }
-    std::string ProjectActs() {
+    // A window stays open for a few acts of its own.
+    std::string WindowActs(const ModalForm& window) {
+        const std::string prefix = window.form.Name() + ".";
         std::string acts;
-        for (const char* act : {"set ProjLaden.Filter a", "select ProjLaden.Order 1",
-                                "set ProjLaden.ProNam a,b", "set ProjLaden.ProNam Halle"}) {
-            if (Below(2) == 0) acts += std::string(act) + "\n";
-        }
-        return acts + "click ProjLaden.Command3D1\nclick ProjLaden.Command3D2\n";
-    }
-    std::string OptionsActs() {
-        std::string acts;
-        for (const char* field : {"absD", "qvTmind", "qvtmaxi", "Xmini", "Xmaxi", "geoH"}) {
-            if (Below(3) == 0) {
-                acts += std::string("set qvopt.") + field + " " + AnyText() + "\nreturn qvopt." +
-                        field + "\n";
+        for (const Control* control : window.form.Controls()) {
+            const std::string name = prefix + std::string(control->name);
+            const bool typed =
+                control->kind == ControlKind::TextField || control->kind == ControlKind::ComboBox;
+            if (typed && Below(3) == 0) {
+                acts += "set " + name + " " + AnyText() + "\nreturn " + name + "\n";
+            }
+            if (control->kind == ControlKind::OptionButton && Below(4) == 0) {
+                acts += "choose " + name + "\n";
             }
         }
-        if (Below(2) == 0) acts += "choose qvopt.Option3d" + std::to_string(1 + Below(2)) + "\n";
-        return acts + "click qvopt.Command3D1\nclick qvopt.Command3D5\n";
+        if (Below(2) == 0) acts += "click " + prefix + std::string(window.default_control) + "\n";
+        return acts + "click " + prefix + std::string(window.cancel_control) + "\n";
     }
+    bool Agrees() { return Below(2) == 0; }
 
   private:
     std::size_t Below(std::size_t limit) { return random_() % limit; }
@@ -89,7 +85,7 @@ class RandomAnswers : public UserInterface {
     void ShowMessage(const Message& /*message*/) override {}
     void ShowModal(ModalForm& window) override {
         script_->WindowOpened(window);
-        std::istringstream acts(user_.WindowActs(window.form.Name()));
+        std::istringstream acts(user_.WindowActs(window));
         std::string error;
         for (std::string act; !window.closed && std::getline(acts, act);) {
             EXPECT_TRUE(script_->RunLine(act, error)) << act << ": " << error;
@@ -100,7 +96,7 @@ class RandomAnswers : public UserInterface {
     void WaitMilliseconds(int /*milliseconds*/) override {}
     bool Confirm(const Message& /*question*/) override { return false; }
     void CopyChart() override {}
-    bool ChoosePrinter(const std::string& /*title*/) override { return false; }
+    bool ChoosePrinter(const std::string& /*title*/) override { return user_.Agrees(); }
 
     void SetScript(FormScript& script) { script_ = &script; }
 
