@@ -7,6 +7,7 @@
 #include "base/data_files.h"
 #include "kernel/humid_air_state.h"
 #include "kernel/inverse_state.h"
+#include "kernel/real_air.h"
 #include "kernel/state_solver.h"
 #include "kernel/steam.h"
 #include "kernel/water_air_tables.h"
@@ -72,6 +73,19 @@ void StateOfThePeer(benchmark::State& rounds) {
     PerHour(rounds, [](double relF, double t) { return peer::State(relF, t, kPressureBar * 1e5); });
 }
 BENCHMARK(StateOfThePeer);
+
+void RealAir(benchmark::State& rounds) {
+    PerHour(rounds, [](double relF, double t) { return EvaluateRealAir(relF, t, kPressureBar); });
+}
+BENCHMARK(RealAir);
+
+void RealAirWithDewPoint(benchmark::State& rounds) {
+    PerHour(rounds, [](double relF, double t) {
+        const auto state = EvaluateRealAir(relF, t, kPressureBar);
+        return RealDewPoint(state->vapour_pressure, kPressureBar);
+    });
+}
+BENCHMARK(RealAirWithDewPoint);
 
 void StateInTwoSteps(benchmark::State& rounds) {
     const PressurePoint pressure = EvaluatePressure(Tables(), kPressureBar);

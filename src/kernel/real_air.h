@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+
+namespace zandrell {
+
+// Humid air as a real gas, after ASHRAE research project 1485 (Herrmann, Kretzschmar and Gatley,
+// HVAC&R Research 15, 2009), the source of the moist-air tables of the ASHRAE Handbook: ice below
+// 0.01 degC, enhancement factor, second and third virial coefficients. Within 0.05 % in humidity
+// and density and 0.1 kJ/kg in enthalpy of that model where vapour makes at most half the pressure.
+
+// Limits, inclusive.
+inline constexpr double kRealAirLowest = -60, kRealAirHighest = 100;      // degC
+inline constexpr double kRealAirLowestBar = 0.5, kRealAirHighestBar = 2;  // bar
+inline constexpr double kRealAirMostWater =
+    10 / (10 + 18.015268 / 28.966);  // of the moles: 10 kg/kg
+
+// Per kg of dry air where not said otherwise.
+struct RealAirState {
+    double x = 0;                // humidity ratio, g/kg
+    double enthalpy = 0;         // kJ/kg; 0 for dry air at 0 degC and 1.01325 bar and for saturated
+                                 // liquid at 0.01 degC
+    double volume = 0;           // m3/kg
+    double density = 0;          // of the humid air, kg/m3
+    double vapour_pressure = 0;  // Pa, the mole fraction of the vapour times the total pressure
+    double enhancement = 1;      // by which air raises the saturation pressure of water at t and p
+};
+
+// Saturation pressure of pure water in Pa at t in degC: over ice up to 0.01 degC (IAPWS R14-08,
+// from -100), over liquid water above (IAPWS-IF97, equation 30, to 373 degC).
+double RealSaturationPressure(double t);
+
+// The state at relative humidity relF (0..1, over ice up to 0.01 degC), t in degC and p_bar. Above
+// the boiling temperature relF is that of the saturation pressure without enhancement. Empty
+// outside the limits, for a humidity outside 0..1 and for more than 10 kg of water per kg.
+std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar);
+
+// The dew point in degC, up to 0.01 degC the frost point, of air with this vapour pressure in Pa.
+// Empty for pressures that are not reached between -100 degC and the highest temperature, and
+// outside the limits of p_bar.
+std::optional<double> RealDewPoint(double vapour_pressure, double p_bar);
+
+}  // namespace zandrell
