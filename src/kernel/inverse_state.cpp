@@ -181,12 +181,13 @@ class HumidityComparison {
     // Whether relF is that close to the target or an end of the tolerance that only x itself tells.
     bool TooClose(double relF) const {
         constexpr double kTooClose = 1e-11;
-        return (std::abs(relF - at_target_) < kTooClose) | (std::abs(relF - lowest_) < kTooClose) |
-               (std::abs(relF - highest_) < kTooClose);
+        return std::abs(relF - at_target_) < kTooClose || std::abs(relF - lowest_) < kTooClose ||
+               std::abs(relF - highest_) < kTooClose;
     }
     // Else these do.
     double AtTarget() const { return at_target_; }
-    bool Met(double relF) const { return (relF > lowest_) & (relF < highest_); }
+    // As a product, which is positive between the two only: no branch to mispredict.
+    bool Met(double relF) const { return (relF - lowest_) * (highest_ - relF) > 0; }
 
     double HumidityRatio(double relF) const { return 1000 * point_.Mix(relF).x; }
 
