@@ -1,5 +1,7 @@
 #include "projects/working_state.h"
 
+#include <vector>
+
 #include "base/delimited_text.h"
 #include "base/number_text.h"
 
@@ -24,6 +26,15 @@ void SetWorkingState(std::string_view text, const WorkingStateFields& state) {
     coil.text.clear();
     reader.ReadText(coil.text);
     if (ParsedNumber(coil.text) == 0) coil.text = kUsualCoilHumidity;
+}
+
+bool HoldsWorkingState(std::string_view text, const WorkingStateFields& state) {
+    std::vector<TextField> texts(state.fields.size() + 1, TextField(""));
+    OptionButton steam("", state.steam->on), water("", state.water->on);
+    WorkingStateFields loaded{{}, &steam, &water, &texts.back()};
+    for (std::size_t i = 0; i < loaded.fields.size(); ++i) loaded.fields[i] = &texts[i];
+    SetWorkingState(text, loaded);
+    return WorkingStateText(loaded) == WorkingStateText(state);
 }
 
 std::string WorkingStateText(const WorkingStateFields& state) {

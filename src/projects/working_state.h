@@ -27,6 +27,9 @@ struct WorkingStateFields {
 // "95".
 void SetWorkingState(std::string_view text, const WorkingStateFields& state);
 
+// Whether the controls hold what that text would set them to.
+bool HoldsWorkingState(std::string_view text, const WorkingStateFields& state);
+
 // The text of the file, one item a line.
 std::string WorkingStateText(const WorkingStateFields& state);
 

@@ -125,12 +125,20 @@ bool WorkingStateKeeper::WriteReport(std::string_view name) {
 }
 
 bool WorkingStateKeeper::SaveAtEnd() {
-    const ProjectKind kind = KindOf(context_.shared.ProjektArt);
-    if (!kind.keeps_state || end_was_held_up_) return true;
-    const std::string name =
-        kind.saves_own_file ? context_.shared.ProjektFeldDatei : std::string(kWorkingStateFile);
-    end_was_held_up_ = ArbeitsfelderSpeichern(name, SaveOccasion::AtEnd) == WriteResult::Failed;
+    if (!KindOf(context_.shared.ProjektArt).keeps_state || end_was_held_up_) return true;
+    end_was_held_up_ =
+        ArbeitsfelderSpeichern(FileAtEnd(), SaveOccasion::AtEnd) == WriteResult::Failed;
     return !end_was_held_up_;
+}
+
+std::string WorkingStateKeeper::FileAtEnd() const {
+    return KindOf(context_.shared.ProjektArt).saves_own_file ? context_.shared.ProjektFeldDatei
+                                                             : std::string(kWorkingStateFile);
+}
+
+bool WorkingStateKeeper::IsSaved() const {
+    if (!KindOf(context_.shared.ProjektArt).keeps_state) return true;
+    return HoldsWorkingState(context_.files.OpenForInput(FileAtEnd()).text, fields_);
 }
 
 bool WorkingStateKeeper::KeepPresent(std::string_view incoming) {

@@ -42,6 +42,8 @@ class WorkingStateKeeper {
     // Saves to the file of the kind in force. False when the program should stay open, since the
     // inputs could not be saved; a second try lets it go.
     bool SaveAtEnd();
+    // Whether the end of the program would save nothing that its file does not hold.
+    bool IsSaved() const;
 
     // Keeps the present inputs before `incoming`, the text of a working state, replaces them,
     // unless the two are the same or the fields are empty. False when they can not be kept, which
@@ -57,6 +59,7 @@ class WorkingStateKeeper {
   private:
     void Take(const HandOver& hand_over);
     void LoadForKind(bool first);
+    std::string FileAtEnd() const;
     bool WriteReport(std::string_view name);
     bool Save(std::string_view name, const std::string& text);
     bool ComplainUnread(std::string_view name, const FileText& file);

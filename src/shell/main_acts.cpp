@@ -58,7 +58,7 @@ void MainForm::BindToolActs() {
     on_tool(controls.PLbutt, [this] { projects_.QuickLoad(); });
     acts.Add(controls.ZOOMMIN.name, ActKind::Click, [this] { pointer_.ZoomOut(); });
     acts.Add(controls.Command3D7.name, ActKind::Release, [this] { ende_qv(); });
-    acts.Add(controls.Command3D2.name, ActKind::Release, [this] { CloseWindow(); });
+    acts.Add(controls.Command3D2.name, ActKind::Release, [this] { ExitWithoutSaving(); });
 }
 
 void MainForm::BindMenuActs() {

@@ -125,8 +125,8 @@ void SetToolCaptions(MainControls& c, const Captions& words) {
     tip(c.druckbutt, words[Caption::Print], words[Caption::ModuleName]);
     c.mPributt.tool_tip = c.mPributt_2.tool_tip = words[Caption::Print];
     c.ZOOMMIN.text = words[Caption::ZoomOut];
-    c.Command3D7.text = words[Caption::Exit];
-    c.Command3D2.text = words[Caption::Cancel];
+    c.Command3D7.text = words[Caption::SaveAndExit];
+    c.Command3D2.text = words[Caption::ExitWithoutSaving];
 }
 
 void SetReadOutCaptions(MainControls& c, const Captions& words) {

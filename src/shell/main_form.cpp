@@ -191,6 +191,12 @@ void MainForm::ende_qv() {
     if (projects_.SaveAtEnd()) CloseWindow();
 }
 
+void MainForm::ExitWithoutSaving() {
+    const Message question{shared.AppTitle, captions[Caption::UnsavedInputsQuestion],
+                           MessageIcon::Question};
+    if (projects_.keeper.IsSaved() || user_.Confirm(question)) CloseWindow();
+}
+
 void MainForm::CloseWindow() {
     user_.WaitMilliseconds(kClosingPause);
     ended = true;

@@ -72,8 +72,8 @@ class MainForm : public WindowForm {
     // When the inputs cannot be saved the window stays, so that nothing is lost unseen; a second
     // try closes it.
     void ende_qv();
-    // Closes without saving.
-    void CloseWindow();
+    // Ends without saving; asks first when inputs would be lost.
+    void ExitWithoutSaving();
 
     const DataFiles& Files() const { return files_; }
 
@@ -92,6 +92,7 @@ class MainForm : public WindowForm {
     void Print();
     void PaintAgain();
     void AuswahlOeffnen();
+    void CloseWindow();
 
     UserInterface& user_;
     DataFiles& files_;

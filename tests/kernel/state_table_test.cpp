@@ -54,7 +54,8 @@ TEST(StateTable, GivesTheFormulas) {
     std::uniform_real_distribution<double> wide(-50, 200), part(0, 1), log_p(-5, std::log(8.5));
     int covered = 0;
     for (int i = 0; i < 30000; ++i) {
-        const double t = i % 100 == 0 ? -50 + i / 100 : wide(random);
+        const int whole_degrees = i / 100 - 50;
+        const double t = i % 100 == 0 ? whole_degrees : wide(random);
         const double p = i % 3 == 0 ? 1.013 : std::exp(log_p(random));
         covered += RealTables().states->Covers(t) && RealTables().states->CoversPressure(p);
         ExpectFormulas(RealTables(), i % 7 == 0 ? 1 : part(random), t, p);

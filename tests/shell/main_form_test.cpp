@@ -151,8 +151,15 @@ TEST(MainForm, ClosingKeepsTheWorkingStateAndNeverWritesOverAnUnreadableOne) {
     EXPECT_EQ(TextOf(dump, "phiKanal"), "90");
     EXPECT_TRUE(dump["Option3D4"]["value"]);
     EXPECT_FALSE(dump["Option3D3"]["value"]);
-    session.Run("set Temp1 1\nclick Command3D2\n");
+    const auto left = session.Run(
+        "set Temp1 1\nclick Command3D2\ndump ended\n"
+        "answer yes\nclick Command3D2\ndump ended\n");
+    EXPECT_EQ(left[0]["ended"], false) << "what was typed is not lost without a question";
+    EXPECT_EQ(left[0]["dialogs"][0]["icon"], "question");
+    EXPECT_EQ(left[1]["ended"], true);
     EXPECT_EQ(session.folder.Read("QV_ACT.dat"), saved) << "closing without saving";
+    EXPECT_EQ(session.RunOnce("click Command3D2\ndump ended\n")["ended"], true)
+        << "nothing typed, nothing asked";
 
     const std::string huge(5U << 20U, 'x');
     session.folder.Write("QV_ACT.dat", huge);
