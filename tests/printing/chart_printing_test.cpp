@@ -26,7 +26,7 @@ TEST(Printing, OnePageWithTheProjectOfTheFields) {
     EXPECT_FALSE(session.chart.printing);
     EXPECT_EQ(session.repeats, 1);
     EXPECT_EQ(session.shared.DialogMode, 0);
-    EXPECT_EQ(session.shared.print_setup_signal, PrintSetupSignal::None);
+    EXPECT_EQ(session.shared.print_setup_signal, PrintSetupSignal::Closed);
     EXPECT_TRUE(session.user.messages.empty());
 }
 
