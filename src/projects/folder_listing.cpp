@@ -61,6 +61,7 @@ std::vector<std::string> FilesIn(const fs::path& folder, std::string_view extens
         return NameComesFirst(a.name, b.name);
     });
     std::vector<std::string> names;
+    names.reserve(files.size());
     for (ListedFile& file : files) names.push_back(std::move(file.name));
     return names;
 }

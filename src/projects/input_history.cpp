@@ -3,7 +3,8 @@
 namespace zandrell {
 
 void InputHistory::Reset(InputSnapshot inputs) {
-    snapshots_.assign(1, std::move(inputs));
+    snapshots_.clear();
+    snapshots_.push_back(std::move(inputs));
     present_ = 0;
     gesture_.clear();
 }

@@ -90,7 +90,7 @@ bool IsBareExtension(std::string_view name) {
 
 std::string CompletedName(std::string_view name, std::string_view title,
                           std::string_view extension) {
-    const std::string trimmed = Trimmed(name);
+    std::string trimmed = Trimmed(name);
     if (trimmed.empty() || EqualIgnoringCase(trimmed, extension)) {
         return CleanedTitle(title) + std::string(extension);
     }

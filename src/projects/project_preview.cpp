@@ -48,16 +48,16 @@ std::string TimeText(const std::filesystem::path& path) {
 std::string Shortened(const std::string& text, std::size_t most) {
     std::string result;
     std::size_t count = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool starts = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
+    for (const char letter : text) {
+        const auto byte = static_cast<unsigned char>(letter);
+        const bool starts = (byte & 0xC0U) != 0x80U;
         if (starts && ++count > most) {
             while (!result.empty() && (static_cast<unsigned char>(result.back()) & 0xC0U) == 0x80U)
                 result.pop_back();
             if (!result.empty()) result.pop_back();
             return result + "…";
         }
-        const bool control = static_cast<unsigned char>(text[i]) < ' ';
-        result += control ? ' ' : text[i];
+        result += byte < ' ' ? ' ' : letter;
     }
     return result;
 }
