@@ -40,7 +40,8 @@ std::optional<double> HumidityAt(const ChartState& point, StateSolver& solver) {
 }  // namespace
 
 void ReadOutPanel::ListControls(Form& form) {
-    form.Add({&Pn1, &Temp, &relF, &absF, &EnthL, &DichtL, &DampfDS, &AbsDruck});
+    form.Add({&Pn1});
+    for (Row& row : rows) form.Add({row.figure, &row.word});
 }
 
 void ShowStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel) {

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <array>
 #include <optional>
+#include <string_view>
 
+#include "base/captions.h"
+#include "base/unit_texts.h"
 #include "chart/chart_scale.h"
 #include "forms/control.h"
 #include "forms/form.h"
@@ -11,9 +15,31 @@ namespace zandrell {
 
 // The panel that shows the state under the pointer.
 struct ReadOutPanel {
+    ReadOutPanel() = default;
+    ReadOutPanel(const ReadOutPanel&) = delete;
+    ReadOutPanel& operator=(const ReadOutPanel&) = delete;
+
     Panel Pn1{"Pn1"};
     Label Temp{"Temp"}, relF{"relF"}, absF{"absF"}, EnthL{"EnthL"}, DichtL{"DichtL"},
         DampfDS{"DampfDS"}, AbsDruck{"AbsDruck"};
+
+    // The figures from the top, each with its sign and unit on the panel and its word in a tool
+    // tip: the signs of the chart's own axes leave the column narrow.
+    struct Row {
+        Label* figure;
+        Label word;
+        std::string_view sign, unit;
+        Caption caption;
+    };
+    std::array<Row, 7> rows{{
+        {&Temp, Label("TempLabel"), "t", UnitDegC, Caption::Temperature},
+        {&relF, Label("relFLabel"), "φ", "%", Caption::RelativeHumidity},
+        {&absF, Label("absFLabel"), "x", "g/kg", Caption::HumidityRatio},
+        {&EnthL, Label("EnthLLabel"), "h", UnitKJkg, Caption::Enthalpy},
+        {&DichtL, Label("DichtLLabel"), "ρ", "kg/m³", Caption::Density},
+        {&DampfDS, Label("DampfDSLabel"), "pD", "hPa", Caption::VapourPressure},
+        {&AbsDruck, Label("AbsDruckLabel"), "p", UnitBar, Caption::Pressure},
+    }};
 
     void ListControls(Form& form);
 };

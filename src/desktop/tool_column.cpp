@@ -98,15 +98,9 @@ QWidget* ToolColumn::MakeReadOut() {
     MakeBold(heading);
     grid->addWidget(heading, 0, 0, 1, 2);
     int row = 1;
-    for (const auto& [word, figure] : {std::pair{&words.temperature_word, &read_out.Temp},
-                                       {&words.humidity_word, &read_out.relF},
-                                       {&words.ratio_word, &read_out.absF},
-                                       {&words.enthalpy_word, &read_out.EnthL},
-                                       {&words.density_word, &read_out.DichtL},
-                                       {&words.vapour_word, &read_out.DampfDS},
-                                       {&words.pressure_word, &read_out.AbsDruck}}) {
-        grid->addWidget(build.Caption(*word), row, 0);
-        grid->addWidget(build.Figure(*figure, *word, {}, 6), row, 1);
+    for (const auto& figure : read_out.rows) {
+        grid->addWidget(build.Caption(figure.word), row, 0);
+        grid->addWidget(build.Figure(*figure.figure, figure.word, {}, 6), row, 1);
         ++row;
     }
     grid->setColumnStretch(0, 1);

@@ -129,21 +129,11 @@ void SetToolCaptions(MainControls& c, const Captions& words) {
     c.Command3D2.text = words[Caption::ExitWithoutSaving];
 }
 
-void SetReadOutCaptions(MainControls& c, const Captions& words) {
-    // The symbols of the chart's own axes leave the column narrow; the words stand in the tool
-    // tips.
-    const auto symbol = [](Label& label, const std::string& sign, std::string_view unit,
-                           const std::string& word) {
-        label.text = WithUnit(sign, unit);
-        label.tool_tip = word;
-    };
-    symbol(c.temperature_word, "t", UnitDegC, words[Caption::Temperature]);
-    symbol(c.humidity_word, "φ", "%", words[Caption::RelativeHumidity]);
-    symbol(c.ratio_word, "x", "g/kg", words[Caption::HumidityRatio]);
-    symbol(c.enthalpy_word, "h", UnitKJkg, words[Caption::Enthalpy]);
-    symbol(c.density_word, "ρ", "kg/m³", words[Caption::Density]);
-    symbol(c.vapour_word, "pD", "hPa", words[Caption::VapourPressure]);
-    symbol(c.pressure_word, "p", UnitBar, words[Caption::Pressure]);
+void SetReadOutCaptions(MainControls& c, ReadOutPanel& read_out, const Captions& words) {
+    for (auto& row : read_out.rows) {
+        row.word.text = WithUnit(std::string(row.sign), row.unit);
+        row.word.tool_tip = words[row.caption];
+    }
     c.Label24.text = words[Caption::Project] + " :";
     c.Label25.text = words[Caption::Remark] + " :";
 }
@@ -218,7 +208,7 @@ void SetCaptions(MainForm& main) {
     SetMenuCaptions(main.controls, captions, tag);
     SetHelpCaptions(main.controls, main.shared, captions);
     SetToolCaptions(main.controls, captions);
-    SetReadOutCaptions(main.controls, captions);
+    SetReadOutCaptions(main.controls, main.read_out, captions);
     SetPointPanelCaptions(main.processes.point, captions);
     SetPlantPanelCaptions(main.processes.plant, captions, tag);
     main.controls.Label7.text = captions[Caption::ModuleName];

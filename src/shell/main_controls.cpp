@@ -16,8 +16,7 @@ void MainControls::ListControls(Form& form) {
     for (ToolButton* button : ToolButtons()) form.Add({&button->picture, &button->caption});
     form.Add({&ZOOMMIN, &mPributt, &mPributt_2, &Command3D7, &Command3D2});
     form.Add({&Label24, &Label25, &Proj_T, &Schr_T});
-    form.Add({&temperature_word, &humidity_word, &ratio_word, &enthalpy_word, &density_word,
-              &vapour_word, &pressure_word, &Label7, &Label19, &Shape3});
+    form.Add({&Label7, &Label19, &Shape3});
     form.Add(
         {&proj, &NeuPro, &ProLad, &ProSpeich, &ProSpeichU, &PrinterSetup, &PrintPreview, &Ende});
     form.Add({&Recent, &PrevState, &Undo, &Redo});

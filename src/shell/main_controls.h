@@ -31,10 +31,6 @@ struct MainControls {
     // The project's two texts, below the tool buttons.
     Label Label24{"Label24"}, Label25{"Label25"};
     TextField Proj_T{"Proj_T"}, Schr_T{"Schr_T"};
-    // Words of the read-out panel, in the order of its figures.
-    Label temperature_word{"TempLabel"}, humidity_word{"relFLabel"}, ratio_word{"absFLabel"},
-        enthalpy_word{"EnthLLabel"}, density_word{"DichtLLabel"}, vapour_word{"DampfDSLabel"},
-        pressure_word{"AbsDruckLabel"};
     // Heading of the read-out panel (always white) and the vendor line, never bold.
     Label Label7{"Label7"}, Label19{"Label19"};
     Panel Shape3{"Shape3"};  // outline of a panel that is being dragged
