@@ -38,7 +38,7 @@ const std::map<std::string_view, Keys>& StandardKeys() {
 // The first project among what is dragged; empty: none.
 QString ProjectIn(const QMimeData& dragged) {
     for (const QUrl& url : dragged.urls()) {
-        const QString path = url.toLocalFile();
+        QString path = url.toLocalFile();
         if (path.endsWith(QStringLiteral(".prj"), Qt::CaseInsensitive)) return path;
     }
     return {};

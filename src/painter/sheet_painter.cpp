@@ -204,6 +204,7 @@ void PaintLabels(QPainter& painter, const Sheet& sheet, const PrintedChart& char
     if (labels.empty()) return;
     const QFont font = FontOf(sheet, labels.front()->font_size, false);
     std::vector<WantedLabel> wanted;
+    wanted.reserve(labels.size());
     for (const SheetItem* label : labels) {
         wanted.push_back(WantedPlace(*label, chart.places, font));
     }
