@@ -13,7 +13,7 @@ namespace zandrell {
 namespace {
 
 constexpr int kFolderWidth = 190, kFileWidth = 250, kPreviewWidth = 290, kListHeight = 260;
-constexpr int kDriveCharacters = 12;
+constexpr int kBoxCharacters = 12;
 constexpr int kIndent = 12;  // pixels at scale 1
 
 int DepthOf(const QString& path) {
@@ -75,7 +75,7 @@ QLayout* ProjectWindow::MakeFolderPath() {
     PanelBuilder build(mirror_, this);
     auto* drive = new QComboBox(this);
     drive->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    drive->setMinimumContentsLength(kDriveCharacters);
+    drive->setMinimumContentsLength(kBoxCharacters);
     mirror_.Bind(drive, dialog_.Drive1);
     row->addWidget(drive);
     path_ = build.Field(dialog_.Text1, dialog_.Label1);
@@ -122,7 +122,7 @@ QWidget* ProjectWindow::MakeFiles() {
     row->addWidget(filter, 1);
     row->addWidget(build.Caption(dialog_.sort_label));
     auto* order = new QComboBox(group);
-    order->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    order->setMinimumContentsLength(kBoxCharacters);
     mirror_.Bind(order, dialog_.order);
     mirror_.Describe(order, dialog_.sort_label);
     row->addWidget(order);
