@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPointF>
 #include <QRectF>
+#include <limits>
 #include <optional>
 
 #include "canvas/recording_canvas.h"
@@ -57,6 +58,10 @@ class ChartView {
     double Thickness(int width, double strength) const;
     // The font of the chart's texts.
     const QFont& Font() const { return font_; }
+    // Where texts have to end on a page; a surface of its own has a margin for them.
+    double TextsEnd() const {
+        return text_room_ ? target_.right() : std::numeric_limits<double>::infinity();
+    }
     // Whether a text that starts there belongs to the picture.
     bool HoldsText(CanvasPoint corner) const;
 

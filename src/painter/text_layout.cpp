@@ -53,12 +53,14 @@ void TextLayout::Line(const Segment& line, int colour) {
 
 void TextLayout::Text(CanvasPoint place, std::string_view text, TextRole role) {
     if (!view_->HoldsText(place)) return;
-    const QPointF corner = view_->ToDevice(place);
+    QPointF corner = view_->ToDevice(place);
     const double middle =
         corner.y() + kTextBoxUnits / 2 * view_->Extent().height() / (kCanvasBottom - kCanvasTop);
     // The leading blank of a number would push it off the line that it names.
     const QString shown =
         QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).trimmed();
+    const double width = QFontMetricsF(view_->Font()).horizontalAdvance(shown);
+    corner.setX(std::min(corner.x(), view_->TextsEnd() - width));
     const QPointF anchor = role == TextRole::StubLabel ? last_end_ : QPointF(corner.x(), middle);
     wanted_.push_back({corner.x(), middle, shown.toStdString(), role, anchor.x(), anchor.y(),
                        last_direction_.x(), last_direction_.y()});
