@@ -22,7 +22,8 @@ enum class ChartTask {
     ReadOutWhole = 2,
     PaintZoomed = 3,
     PaintPrinter = 4,
-    ReadOutAsScaled = 5
+    ReadOutAsScaled = 5,
+    PaintAsScaled = 6  // with the scale that was set before
 };
 
 // Controls that belong to the chart's surface: progress, logo, and the rubber frame of a zoom.

@@ -89,6 +89,8 @@ void SuiteZoom(const ZoomFrame& frame, double factor_x, double factor_y, ChartSc
 // What the frame holds, in the middle of the canvas. A frame without width or height, or of less
 // than a millionth of a unit, leaves the scale.
 void ExactZoom(const ZoomFrame& frame, ChartScale& scale);
+// Writes the rounded numbers of the origin, by which dumps and print-outs know an exact scale.
+void TellOrigin(ChartScale& scale);
 
 // Steps of the grids and along the humidity curves.
 struct GridSteps {

@@ -22,7 +22,8 @@ constexpr double kMollierSpan = 1.07, kLeastCarrierSpan = 1.2;  // of the range 
 // What is left of the length 1800 of the Carrier chart's axis with room at both ends, or at one.
 constexpr double kCarrierLength = 1750, kCarrierReach = 1765;
 
-// Dumps and print-outs know the scale by these numbers.
+}  // namespace
+
 void TellOrigin(ChartScale& scale) {
     const auto tell = [](int& target, double value) {
         if (const auto rounded = RoundToInteger(value)) target = *rounded;
@@ -32,8 +33,6 @@ void TellOrigin(ChartScale& scale) {
     tell(scale.VersatzX, -scale.exact.x * scale.MassstabX);
     tell(scale.VersatzT, scale.exact.t * scale.MassstabT);
 }
-
-}  // namespace
 
 double ChartScale::ExactXm(double x) const { return exact.x_units + (x - exact.x) * MassstabX; }
 double ChartScale::ExactYm(double t) const { return exact.t_units - (t - exact.t) * MassstabT; }
