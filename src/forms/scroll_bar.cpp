@@ -17,6 +17,12 @@ bool ScrollBar::SetPosition(std::optional<int> position) {
     return true;
 }
 
+std::string ScrollBar::PositionText() const { return TrimmedNumberText(position_); }
+
+std::string ScrollBar::TenthsText() const {
+    return TrimmedNumberText(position_ / kBarUnitsPerField);
+}
+
 bool ScrollBar::ShowTenths(double value) {
     return SetPosition(RoundToInteger(kBarUnitsPerField * value));
 }

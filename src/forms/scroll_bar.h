@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "forms/control.h"
 
@@ -24,6 +25,10 @@ class ScrollBar : public Control {
     // Refuses a position outside the range: nothing moves, nothing fires, and the result is false.
     // An empty position, a number that could not be rounded, is refused too.
     bool SetPosition(std::optional<int> position);
+
+    // The position as text, and as what a field shows for it that the bar counts in tenths.
+    std::string PositionText() const;
+    std::string TenthsText() const;
 
     // The position that stands for a field's value; one outside the range is refused.
     bool ShowTenths(double value);

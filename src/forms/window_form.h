@@ -24,6 +24,8 @@ class WindowForm {
     // How the labels and button captions are written; a skin changes it.
     bool bold_labels = false;
     int label_font_size = 10;  // points
+    // A skin's picture behind everything, file in the data folder; empty: as designed.
+    std::string ground_picture;
 
     bool modified = false;  // the work shown differs from its file; the title bar tells so
 

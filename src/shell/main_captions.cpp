@@ -197,7 +197,26 @@ void SetPlantPanelCaptions(PlantPanel& p, const Captions& words, const std::stri
 
 bool IsCaption(const Control& control) {
     return control.kind == ControlKind::Label || control.kind == ControlKind::OptionButton ||
+           control.kind == ControlKind::CheckBox ||
            (control.kind == ControlKind::Button && control.name.ends_with("_l"));
+}
+
+// Fonts and colours of the captions. False where the window stays as designed.
+bool DressWindow(const SharedValues& shared, WindowForm& window) {
+    window.label_font_size = 10;
+    if (shared.LanguageTag == "TWA") {
+        window.label_font_size =
+            RoundToInteger(ParsedNumber(shared.LabelFontSize)).value_or(window.label_font_size);
+        if (window.label_font_size < 6 || window.label_font_size > 40) window.label_font_size = 12;
+    }
+    const int skin = shared.SkinNumber;
+    if (skin < 1 || skin > 5) return false;
+    const bool dark_text = skin == 1 || skin == 4 || skin == 5;
+    window.bold_labels = dark_text;
+    for (Control* control : window.form.Controls()) {
+        if (IsCaption(*control)) control->foreground = dark_text ? kBlack : kWhite;
+    }
+    return true;
 }
 
 }  // namespace
@@ -216,32 +235,22 @@ void SetCaptions(MainForm& main) {
 }
 
 void ApplySkin(MainForm& main) {
-    const SharedValues& shared = main.shared;
     MainControls& controls = main.controls;
-    PointPanel& point = main.processes.point;
-    PlantPanel& plant = main.processes.plant;
-    main.label_font_size = 10;
-    if (shared.LanguageTag == "TWA") {
-        main.label_font_size =
-            RoundToInteger(ParsedNumber(shared.LabelFontSize)).value_or(main.label_font_size);
-        if (main.label_font_size < 6 || main.label_font_size > 40) main.label_font_size = 12;
-    }
-    main.controls.Label7.foreground = kWhite;
-    const int skin = shared.SkinNumber;
-    if (skin < 1 || skin > 5) return;
+    const bool skinned = DressWindow(main.shared, main);
+    controls.Label7.foreground = kWhite;
+    if (!skinned) return;
     controls.FunktButtPn.picture = "ZD_Bk00.jpg";
     main.read_out.Pn1.picture = "ZD_Bk031.jpg";
+    PointPanel& point = main.processes.point;
+    PlantPanel& plant = main.processes.plant;
     for (Panel* panel : {&point.Anlage1PN, &plant.Panel3D10, &plant.Frame1}) {
         panel->picture = "ZD_Back01.jpg";
     }
     for (Panel* panel : {&plant.Panel3D2, &point.Panel3D9}) panel->picture = "ZD_Back02.jpg";
-    const bool dark_text = skin == 1 || skin == 4 || skin == 5;
-    main.bold_labels = dark_text;
-    for (Control* control : main.form.Controls()) {
-        if (IsCaption(*control) && control != &controls.Label7) {
-            control->foreground = dark_text ? kBlack : kWhite;
-        }
-    }
+}
+
+void ApplySkin(const SharedValues& shared, ModalForm& window) {
+    if (DressWindow(shared, window)) window.ground_picture = "ZD_Back01.jpg";
 }
 
 }  // namespace zandrell

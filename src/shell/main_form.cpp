@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "projects/project_kind.h"
 #include "projects/temperature_lines.h"
+#include "shell/form_dump.h"
 #include "shell/main_captions.h"
 
 namespace zandrell {
@@ -67,6 +68,7 @@ void MainForm::Load() {
     chart.controls.Label27.text =
         shared.AppTitle + " " + shared.VersionText + " - Created 30/1/2026";
     ApplySkin(*this);
+    for (ModalForm* window : WindowsOf(*this)) ApplySkin(shared, *window);
     if (missing_folder) {
         user_.ShowMessage({shared.AppTitle,
                            FilledIn(captions[Caption::DataFolderMissing],

@@ -58,6 +58,9 @@ class MainForm : public WindowForm {
     bool ZoomInto(CanvasPoint corner, double width, double height) {
         return pointer_.ZoomInto(corner, width, height);
     }
+    bool ZoomAround(CanvasPoint place, double factor) { return pointer_.ZoomAround(place, factor); }
+    void GrabChart(CanvasPoint place) { pointer_.GrabChart(place); }
+    void DragChart(CanvasPoint place) { pointer_.DragChart(place); }
     const PointerMachine& Pointer() const { return pointer_; }
 
     PanelKeeper& Panels() { return panels_; }

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "canvas/palette.h"
+#include "chart/scale_moves.h"
 
 namespace zandrell {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 // The frame is taken a little larger than it was drawn.
 constexpr double kZoomAllowance = 1.05;
 constexpr double kChartWidth = 1800, kChartHeight = 580;
+constexpr double kLargestMagnification = 50;
 
 constexpr std::string_view kNoState = "-";
 
@@ -115,6 +117,7 @@ void PointerMachine::StartFrame(CanvasPoint place) {
     auto& frame = chart_.controls.ZoomShape;
     owner_ = PointerOwner::FrameDrawing;
     frame.visible = true;
+    frame_anchor_ = place;
     frame.left = place.x;
     frame.top = place.y;
     frame.width = frame.height = 0;
@@ -123,8 +126,10 @@ void PointerMachine::StartFrame(CanvasPoint place) {
 void PointerMachine::FollowFrame(CanvasPoint place) {
     auto& frame = chart_.controls.ZoomShape;
     if (owner_ == PointerOwner::FrameDrawing) {
-        frame.height = std::floor(std::abs(place.y - frame.top));
-        frame.width = std::floor(std::abs(place.x - frame.left));
+        frame.height = std::floor(std::abs(place.y - frame_anchor_.y));
+        frame.width = std::floor(std::abs(place.x - frame_anchor_.x));
+        frame.left = place.x < frame_anchor_.x ? frame_anchor_.x - frame.width : frame_anchor_.x;
+        frame.top = place.y < frame_anchor_.y ? frame_anchor_.y - frame.height : frame_anchor_.y;
         return;
     }
     const bool inside = Contains(frame, place);
@@ -163,6 +168,44 @@ void PointerMachine::ZoomOut() {
     // The suite keeps the pointer until a panel has been opened and closed.
     const bool exact = chart_.settings.convention == Convention::Exact;
     if (exact && owner_ == PointerOwner::Zoomed) owner_ = PointerOwner::Nobody;
+}
+
+// --- Wheel and hand.
+
+void PointerMachine::Show(const ChartScale& scale) {
+    DropFrame();
+    chart_.scale = scale;
+    zoom_out_.visible = true;
+    if (!IsPanelOpen()) owner_ = PointerOwner::Zoomed;
+    Paint(ChartTask::PaintAsScaled);
+    processes_.Repeat();
+}
+
+bool PointerMachine::ZoomAround(CanvasPoint place, double factor) {
+    if (CarriesAny() || owner_ == PointerOwner::FrameDrawing) return false;
+    const double now = Magnification(chart_.scale, chart_.settings);
+    const double wanted = std::min(now * factor, kLargestMagnification);
+    if (!(wanted > 0)) return false;
+    if (wanted > 1.001) {
+        Show(Magnified(chart_.scale, place, wanted / now));
+    } else if (zoom_out_.visible) {
+        ZoomOut();
+        if (owner_ == PointerOwner::Zoomed) owner_ = PointerOwner::Nobody;
+    }
+    return true;
+}
+
+void PointerMachine::GrabChart(CanvasPoint place) {
+    grabbed_scale_.reset();
+    if (CarriesAny() || owner_ == PointerOwner::FrameDrawing) return;
+    grabbed_place_ = place;
+    grabbed_scale_ = chart_.scale;
+}
+
+void PointerMachine::DragChart(CanvasPoint place) {
+    if (!grabbed_scale_) return;
+    const ChartScale scale = Shifted(*grabbed_scale_, grabbed_place_, place);
+    if (ShowsTheRange(scale, chart_.settings)) Show(scale);
 }
 
 // --- Marks that are picked up, carried and dropped.

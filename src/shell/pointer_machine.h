@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "chart/chart_engine.h"
@@ -37,6 +38,7 @@ class PointerMachine {
     PointerOwner PanelZustand() const { return owner_; }
     PointerShape MousePointer() const { return shape_; }
     bool IsCarried(const Mark& mark) const;
+    bool CarriesAny() const;
     // The marks that a press can pick up now.
     std::vector<const Mark*> MarksToPickUp() const;
 
@@ -52,6 +54,12 @@ class PointerMachine {
     bool ZoomInto(CanvasPoint corner, double width, double height);
     // Paints the whole chart again (`Zoom_min`).
     void ZoomOut();
+    // The wheel: the chart so many times as large around a place, at most to its full extent back.
+    // Beside open panels it works too, and they keep the pointer. Refused while a mark is carried.
+    bool ZoomAround(CanvasPoint place, double factor);
+    // A hand that drags the chart: where it was put on it, and where it is now.
+    void GrabChart(CanvasPoint place);
+    void DragChart(CanvasPoint place);
 
     // What the window does.
     void PanelOpened(PointerOwner owner);
@@ -78,7 +86,6 @@ class PointerMachine {
     };
 
     bool IsPanelOpen() const;
-    bool CarriesAny() const;
     void ReadOut(CanvasPoint place);
     // The humidity ratio of the state that follows the mark.
     double& HumidityOf(Carrier& carrier);
@@ -92,6 +99,7 @@ class PointerMachine {
     void MoveCarriedMarks(CanvasPoint place);
     void StartFrame(CanvasPoint place);
     void FollowFrame(CanvasPoint place);
+    void Show(const ChartScale& scale);
     void Paint(ChartTask task, double a = 0, double b = 0);
 
     ChartEngine& chart_;
@@ -103,6 +111,9 @@ class PointerMachine {
     PointerOwner owner_ = PointerOwner::Nobody;
     PointerShape shape_ = PointerShape::Arrow;
     PointerShape shape_when_idle_ = PointerShape::Arrow;
+    CanvasPoint frame_anchor_;  // the corner at which a frame was begun
+    CanvasPoint grabbed_place_;
+    std::optional<ChartScale> grabbed_scale_;  // of the chart when it was grabbed
     std::array<Carrier, 4> carriers_;
 };
 

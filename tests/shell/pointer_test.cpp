@@ -72,6 +72,27 @@ TEST(Pointer, UnderExactTheNextFrameFollowsTheZoomOutAndTheAspectTheWindow) {
     }
 }
 
+TEST(Pointer, AFrameMayBeDrawnInAnyDirection) {
+    const struct {
+        double x1, y1, x2, y2;
+    } frames[] = {
+        {500, 100, 1400, 390}, {1400, 390, 500, 100}, {1400, 100, 500, 390}, {500, 390, 1400, 100}};
+    for (const auto& f : frames) {
+        ScriptSession session;
+        const auto dumps =
+            session.Run(PointerAct("press", f.x1, f.y1) + PointerAct("move", f.x2, f.y2) +
+                        "dump\n" + PointerAct("release", f.x2, f.y2) +
+                        "pointer move 1000 200\npointer press 1000 200\ndump\n");
+        const Json& frame = dumps[0].at("ZoomShape");
+        EXPECT_EQ(frame["left"], 500);
+        EXPECT_EQ(frame["top"], 100);
+        EXPECT_EQ(frame["width"], 900);
+        EXPECT_EQ(frame["height"], 290);
+        EXPECT_EQ(dumps[1]["PanelZustand"], 77);
+        EXPECT_NEAR(dumps[1]["MassstabX"].get<double>(), 45 / 0.525, 1e-9);
+    }
+}
+
 TEST(Pointer, AFrameIsDroppedOutsideItAndOneWithoutWidthOrHeightDoesNotZoom) {
     ScriptSession session;
     const auto dumps = session.Run(
