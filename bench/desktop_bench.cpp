@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 #include <cmath>
 #include <filesystem>
 #include <memory>
@@ -117,6 +118,51 @@ void DragOfAMarkInThePlant(benchmark::State& state) {
     SendMouse(chart, QEvent::MouseButtonPress, start);
 }
 BENCHMARK(DragOfAMarkInThePlant)->Unit(benchmark::kMillisecond);
+
+// A notch of the wheel, forth and back: form, window and repaint, as long as the steps go on.
+void WheelStep(benchmark::State& state) {
+    Session& session = TheSession();
+    ChartWidget& chart = session.window->Chart();
+    const QPointF place = chart.ToWidget(session.form.overlay.PP2.state);
+    const PaintCounter counter(chart);
+    int step = 0;
+    for (auto _ : state) {
+        const int turn = step++ % 12 < 6 ? 120 : -120;
+        QWheelEvent event(place, chart.mapToGlobal(place), {}, QPoint(0, turn), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&chart, &event);
+        QApplication::processEvents();
+    }
+    state.counters["repaints"] =
+        benchmark::Counter(counter.paints, benchmark::Counter::kAvgIterations);
+    session.form.UserClick("ZOOMMIN");
+}
+BENCHMARK(WheelStep)->Unit(benchmark::kMillisecond);
+
+// A move of the hand that drags the chart.
+void PanStep(benchmark::State& state) {
+    Session& session = TheSession();
+    ChartWidget& chart = session.window->Chart();
+    const QPointF start(1200, 700);
+    const auto send = [&chart](QEvent::Type type, QPointF place) {
+        QMouseEvent event(type, place, chart.mapToGlobal(place), Qt::MiddleButton, Qt::MiddleButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(&chart, &event);
+    };
+    send(QEvent::MouseButtonPress, start);
+    const PaintCounter counter(chart);
+    double turn = 0;
+    for (auto _ : state) {
+        turn += 0.1;
+        send(QEvent::MouseMove, start + 200 * QPointF(std::cos(turn), std::sin(turn)));
+        QApplication::processEvents();
+    }
+    state.counters["repaints"] =
+        benchmark::Counter(counter.paints, benchmark::Counter::kAvgIterations);
+    send(QEvent::MouseButtonRelease, start);
+    session.form.UserClick("ZOOMMIN");
+}
+BENCHMARK(PanStep)->Unit(benchmark::kMillisecond);
 
 // A move with nothing carried: only the read-out follows.
 void PointerMove(benchmark::State& state) {

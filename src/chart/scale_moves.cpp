@@ -24,10 +24,13 @@ void MoveOrigin(ChartScale& scale, double factor, const Change& across, const Ch
         TellOrigin(scale);
         return;
     }
-    assign(scale.NullpunktX, across(scale.NullpunktX));
-    assign(scale.NullpunktY, along(scale.NullpunktY));
+    // Of the two parts of an origin one takes up what the rounding of the other leaves.
+    const double x = across(scale.NullpunktX + scale.VersatzX);
+    const double y = along(scale.NullpunktY + scale.VersatzT);
     assign(scale.VersatzX, scale.VersatzX * factor);
     assign(scale.VersatzT, scale.VersatzT * factor);
+    assign(scale.NullpunktX, x - scale.VersatzX);
+    assign(scale.NullpunktY, y - scale.VersatzT);
 }
 
 }  // namespace

@@ -1,13 +1,15 @@
 #include "desktop/chart_widget.h"
 
-#include <QKeyEvent>
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/accessible.h"
 #include "desktop/form_mirror.h"
 #include "desktop/look.h"
 #include "desktop/look_colours.h"
@@ -17,6 +19,8 @@ namespace zandrell {
 namespace {
 
 constexpr double kLogoOpacity = 0.55, kLogoTextOpacity = 0.75;
+constexpr int kRefineAfter = 70;  // ms without a step
+constexpr double kZoomOfANotch = 1.2;
 constexpr double kGrabRadiusShare = 1.6;  // of a mark's radius; a hand is not exact
 
 QRectF Centred(QPointF centre, QSizeF size) {
@@ -59,6 +63,9 @@ ChartWidget::ChartWidget(MainForm& form, Pictures& pictures, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(480, 320);
     setObjectName(QStringLiteral("chart"));
+    refine_.setSingleShot(true);
+    refine_.setInterval(kRefineAfter);
+    refine_.callOnTimeout(this, [this] { Sync(); });
 }
 
 // The view counts in pixels of the screen, so that the kept picture and what is painted over it lie
@@ -90,6 +97,7 @@ void ChartWidget::RenderPicture() {
     PaintLogo(painter);
     painter.end();
     picture_.setDevicePixelRatio(devicePixelRatioF());
+    picture_scale_ = form_.chart.scale;
     shown_revision_ = form_.chart.picture.Revision();
 }
 
@@ -132,7 +140,11 @@ void ChartWidget::PaintLogo(QPainter& painter) const {
 
 void ChartWidget::Sync() {
     const bool resized = picture_.size() != View().Target().size().toSize();
-    if (resized || shown_revision_ != form_.chart.picture.Revision()) {
+    if (refine_.isActive() && !resized) {
+        shown_overlay_ = WantedOverlay();
+        shown_frames_ = FramesOfForm();
+        update();
+    } else if (resized || shown_revision_ != form_.chart.picture.Revision()) {
         view_.reset();
         RenderPicture();
         shown_overlay_ = WantedOverlay();
@@ -143,6 +155,26 @@ void ChartWidget::Sync() {
         SyncFrames();
     }
     SyncPointer();
+    if (QAccessible::isActive()) TellReaders();
+}
+
+void ChartWidget::TellReaders() {
+    const QString state = StateUnderPointer();
+    if (state == told_state_) return;
+    told_state_ = state;
+    QAccessibleValueChangeEvent event(this, state);
+    QAccessible::updateAccessibility(&event);
+}
+
+QString ChartWidget::StateUnderPointer() const {
+    QStringList state;
+    for (const auto& row : form_.read_out.rows) {
+        const QString value = ShownText(row.figure->text);
+        if (value.isEmpty() || value == QLatin1String("-")) continue;
+        state << ShownText(row.word.tool_tip) + QLatin1Char(' ') + value + QLatin1Char(' ') +
+                     ShownText(std::string(row.unit));
+    }
+    return state.join(QStringLiteral(", "));
 }
 
 void ChartWidget::SyncOverlay() {
@@ -194,10 +226,12 @@ void ChartWidget::SyncFrames() {
 }
 
 void ChartWidget::SyncPointer() {
-    const PointerShape wanted = form_.Pointer().MousePointer();
+    Qt::CursorShape wanted = ShapeOf(form_.Pointer().MousePointer());
+    if (pointer_place_ && MarkUnder(*pointer_place_) != nullptr) wanted = Qt::OpenHandCursor;
+    if (panning_ || form_.Pointer().CarriesAny()) wanted = Qt::ClosedHandCursor;
     if (shown_pointer_ == wanted) return;
     shown_pointer_ = wanted;
-    setCursor(ShapeOf(wanted));
+    setCursor(wanted);
 }
 
 void ChartWidget::paintEvent(QPaintEvent* event) {
@@ -209,7 +243,17 @@ void ChartWidget::paintEvent(QPaintEvent* event) {
     }
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.drawImage(QPointF(0, 0), picture_);
+    if (refine_.isActive()) {
+        const QColor ground = ShadeFor(form_.chart.picture.Background(), StrokeRole::Ground,
+                                       form_.chart.picture.Background())
+                                  .colour;
+        painter.fillRect(rect(), ground);
+        painter.setTransform(FromPicture());
+        painter.drawImage(QPointF(0, 0), picture_);
+        painter.resetTransform();
+    } else {
+        painter.drawImage(QPointF(0, 0), picture_);
+    }
     const double density = devicePixelRatioF();
     painter.save();
     painter.scale(1 / density, 1 / density);
@@ -246,26 +290,36 @@ void ChartWidget::resizeEvent(QResizeEvent*) {
 
 // A mark is a ring of some pixels, while the form looks for the pointer in a box of canvas units,
 // which is narrow on most screens: a press on a ring counts as one on its centre.
-CanvasPoint ChartWidget::SnappedToMark(QPointF place) const {
+const Mark* ChartWidget::MarkUnder(QPointF place) const {
     const double reach = kGrabRadiusShare * MarkRadius(View()) / devicePixelRatioF();
     for (const Mark* mark : form_.Pointer().MarksToPickUp()) {
         const QPointF away = ToWidget(mark->state) - place;
-        if (std::hypot(away.x(), away.y()) <= reach) return mark->state;
+        if (std::hypot(away.x(), away.y()) <= reach) return mark;
     }
-    return ToCanvas(place);
+    return nullptr;
 }
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {
     if (IsDragging()) return;
+    if (event->button() == Qt::MiddleButton) {
+        panning_ = true;
+        perform([&] { form_.GrabChart(ToCanvas(event->position())); });
+        return;
+    }
     const bool right = event->button() == Qt::RightButton;
     if (!right && event->button() != Qt::LeftButton) return;
-    const CanvasPoint place =
-        right ? ToCanvas(event->position()) : SnappedToMark(event->position());
+    const Mark* mark = right ? nullptr : MarkUnder(event->position());
+    const CanvasPoint place = mark ? mark->state : ToCanvas(event->position());
     perform([&] { form_.PointerPress(right ? PointerButton::Right : PointerButton::Left, place); });
 }
 
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
     const CanvasPoint place = ToCanvas(event->position());
+    pointer_place_ = event->position();
+    if (panning_ && !IsDragging()) {
+        ShowMoved([&] { form_.DragChart(place); });
+        return;
+    }
     perform([&] {
         if (IsDragging()) {
             form_.Panels().Move(place);
@@ -280,9 +334,51 @@ void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
         if (event->button() == Qt::LeftButton) EndDrag();
         return;
     }
+    if (event->button() == Qt::MiddleButton) {
+        panning_ = false;
+        SyncPointer();
+        return;
+    }
     const bool right = event->button() == Qt::RightButton;
     if (!right && event->button() != Qt::LeftButton) return;
     perform([&] { form_.PointerRelease(right ? PointerButton::Right : PointerButton::Left); });
+}
+
+void ChartWidget::wheelEvent(QWheelEvent* event) {
+    event->accept();
+    const double notches = event->angleDelta().y() / 120.0;
+    if (notches == 0 || IsDragging()) return;
+    const CanvasPoint place = ToCanvas(event->position());
+    ShowMoved([&] { form_.ZoomAround(place, std::pow(kZoomOfANotch, notches)); });
+}
+
+void ChartWidget::leaveEvent(QEvent*) { pointer_place_.reset(); }
+
+// A chart that is moved or zoomed step by step shows its kept picture, moved likewise, until the
+// steps pause: painting anew takes longer than an eye follows.
+void ChartWidget::ShowMoved(const std::function<void()>& move) {
+    const int before = form_.chart.picture.Revision();
+    refine_.start();
+    perform(move);
+    if (form_.chart.picture.Revision() == before && shown_revision_ == before) refine_.stop();
+}
+
+// From the kept picture to where what it shows lies by now.
+QTransform ChartWidget::FromPicture() const {
+    const auto place = [this](const ChartScale& scale, double x, double t) {
+        return ToWidget(scale.PointOf(x, t));
+    };
+    const ChartScale& scale = form_.chart.scale;
+    const QPointF old_origin = place(picture_scale_, 0, 0), origin = place(scale, 0, 0);
+    const QPointF old_unit = place(picture_scale_, 1, 1) - old_origin;
+    const QPointF unit = place(scale, 1, 1) - origin;
+    const double across = unit.x() / old_unit.x(), along = unit.y() / old_unit.y();
+    return {across,
+            0,
+            0,
+            along,
+            origin.x() - across * old_origin.x(),
+            origin.y() - along * old_origin.y()};
 }
 
 // The second press of a quick pair is a press like any other.
@@ -290,12 +386,6 @@ void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(ev
 
 // The right button acts when it is let go; a menu of the toolkit must not come first.
 void ChartWidget::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
-
-void ChartWidget::keyPressEvent(QKeyEvent* event) {
-    const bool has_frame = form_.chart.controls.ZoomShape.visible;
-    if (event->key() != Qt::Key_Escape || !has_frame) return QWidget::keyPressEvent(event);
-    perform([&] { form_.DropFrame(); });
-}
 
 void ChartWidget::TakeDrag(QSize outline) {
     outline_size_ = outline;

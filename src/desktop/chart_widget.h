@@ -2,6 +2,8 @@
 
 #include <QImage>
 #include <QRegion>
+#include <QTimer>
+#include <QTransform>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -23,6 +25,9 @@ class ChartWidget : public QWidget {
     // Performs an act of the user; set by the window that mirrors the form.
     std::function<void(const std::function<void()>&)> perform;
 
+    // For who cannot see the read-out: quantities, values and units.
+    QString StateUnderPointer() const;
+
     // Brings what is shown in line with the form; repaints no more than what changed.
     void Sync();
 
@@ -43,8 +48,9 @@ class ChartWidget : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
   private:
     struct Frames {
@@ -60,20 +66,28 @@ class ChartWidget : public QWidget {
     void SyncOverlay();
     void SyncFrames();
     void SyncPointer();
+    void TellReaders();
     Frames FramesOfForm() const;
-    CanvasPoint SnappedToMark(QPointF place) const;
+    const Mark* MarkUnder(QPointF place) const;
+    void ShowMoved(const std::function<void()>& move);
+    QTransform FromPicture() const;
     void UpdateDevice(const std::vector<QRectF>& touched);
     void EndDrag();
 
     MainForm& form_;
     Pictures& pictures_;
     QImage picture_;
+    ChartScale picture_scale_;  // that of the kept picture
+    QTimer refine_;             // runs while a moved picture stands for the one to be painted
     mutable std::optional<ChartView> view_;  // in pixels of the screen
     std::optional<TextLayout> texts_;        // of the kept picture
     int shown_revision_ = -1;
     OverlayDrawing shown_overlay_;
     Frames shown_frames_;
-    PointerShape shown_pointer_ = PointerShape::Arrow;
+    Qt::CursorShape shown_pointer_ = Qt::ArrowCursor;
+    std::optional<QPointF> pointer_place_;  // empty: not over the chart
+    bool panning_ = false;
+    QString told_state_;
     std::optional<QSize> outline_size_;
 };
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "canvas/canvas.h"
+#include "desktop/accessible.h"
 #include "desktop/look.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_user.h"
@@ -18,6 +19,8 @@ namespace zandrell {
 namespace {
 
 constexpr double kShareOfScreen = 0.88;
+// What the frame of a window takes at most; it is known only when the window stands.
+constexpr QSize kFrameAllowance{16, 48};
 constexpr const char* kNoDisplay = "there is no usable display; zandrell-calc works without one";
 
 struct Arguments {
@@ -66,14 +69,16 @@ NamedFolder DataFolderOf(const Arguments& arguments) {
 QSize WindowSize(const Arguments& arguments) {
     if (arguments.width > 0) return {arguments.width, arguments.height};
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    return QSize(1280, 800).expandedTo(screen * kShareOfScreen).boundedTo(screen);
+    const QSize room = screen - kFrameAllowance;
+    return QSize(1280, 800).expandedTo(screen * kShareOfScreen).boundedTo(room);
 }
 
 int Run(const Arguments& arguments, QApplication& application) {
     const NamedFolder named = DataFolderOf(arguments);
     const std::filesystem::path folder = PrepareDataFolder(named, true);
     const QSize size = WindowSize(arguments);
-    ApplyLook(application, ScaleFor(size.width(), size.height()));
+    ApplyLook(application, {ScaleFor(size.width(), size.height())});
+    InstallAccessibles();
     DataFiles files(folder);
     QtUser user;
     MainForm form(user, files, named);
@@ -90,6 +95,7 @@ int Run(const Arguments& arguments, QApplication& application) {
     if (!arguments.script.empty() && !script.Start(arguments.script)) {
         return Fail(arguments.script + ": can not be read");
     }
+    if (arguments.script.empty()) window.ShowFirstRunHint();
     const int status = QApplication::exec();
     return script.Failed() ? EXIT_FAILURE : status;
 }

@@ -1,10 +1,11 @@
 #include "desktop/floating_panel.h"
 
-#include <QKeyEvent>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "desktop/look.h"
@@ -28,11 +29,11 @@ void PaintShadow(QPainter& painter, const QRectF& body) {
 
 }  // namespace
 
-void PaintPanelGround(QPainter& painter, const QRectF& body, double radius, const Panel& panel,
-                      Pictures& pictures, const QColor& ground) {
+void PaintPanelGround(QPainter& painter, const QRectF& body, double radius,
+                      std::string_view picture_name, Pictures& pictures, const QColor& ground) {
     QPainterPath path;
     path.addRoundedRect(body, radius, radius);
-    const QPixmap picture = pictures.Opaque(panel.picture);
+    const QPixmap picture = pictures.Opaque(picture_name);
     if (picture.isNull()) {
         painter.fillPath(path, ground);
         return;
@@ -58,21 +59,34 @@ FloatingPanel::FloatingPanel(MainForm& form, Panel& panel, FormMirror& mirror, C
     hide();
 }
 
+void FloatingPanel::SetContent(QWidget* content) {
+    scroll_ = new ContentScroll(content, this);
+    layout()->addWidget(scroll_);
+}
+
 void FloatingPanel::Place() {
     if (isHidden()) return;
-    if (layout()) {
-        layout()->activate();
-        const QSize wanted = sizeHint().expandedTo(minimumSizeHint());
-        if (size() != wanted) resize(wanted);
-    }
-    const QPoint corner = chart_.ToWidget({panel_.left, panel_.top}).toPoint();
     const QRect room = chart_.rect().adjusted(-kShadow / 2, -kShadow / 2, kShadow / 2, kShadow / 2);
+    if (arrange) arrange(room.size());
+    if (scroll_) scroll_->FollowContent();
+    layout()->activate();
+    QSize wanted = sizeHint();
+    if (wanted.height() > room.height() && scroll_) wanted.rwidth() += scroll_->BarWidth();
+    if (size() != wanted.boundedTo(room.size())) resize(wanted.boundedTo(room.size()));
+    const QPoint corner = chart_.ToWidget({panel_.left, panel_.top}).toPoint();
     const auto held = [](int place, int least, int most) {
         return std::max(least, std::min(place, most));
     };
     const QPoint place(held(corner.x() - kShadow, room.left(), room.right() + 1 - width()),
                        held(corner.y() - kShadow, room.top(), room.bottom() + 1 - height()));
     if (pos() != place) move(place);
+}
+
+// What a panel holds has changed its wish.
+bool FloatingPanel::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest) Place();
+    return handled;
 }
 
 QRegion FloatingPanel::Opaque() const {
@@ -88,7 +102,7 @@ void FloatingPanel::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body(Body());
     PaintShadow(painter, body);
-    PaintPanelGround(painter, body, kRadius, panel_, mirror_.PictureStore(),
+    PaintPanelGround(painter, body, kRadius, panel_.picture, mirror_.PictureStore(),
                      ColourOf(LookColour::Panel));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ColourOf(LookColour::Border), 1));
@@ -115,36 +129,36 @@ void FloatingPanel::mousePressEvent(QMouseEvent* event) {
 void FloatingPanel::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
 void FloatingPanel::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
 
-void FloatingPanel::MoveBy(QPointF pixels) {
+// Else it would turn the chart under the panel.
+void FloatingPanel::wheelEvent(QWheelEvent* event) { event->accept(); }
+
+void FloatingPanel::MoveBy(QPoint direction) {
     const QPointF grip = QPointF(pos()) + QPointF(kShadow, kShadow);
     mirror_.Perform([&] {
         form_.Panels().Press(panel_, AsSeenByForm(grip));
-        form_.Panels().Move(chart_.ToCanvas(grip + pixels));
+        form_.Panels().Move(chart_.ToCanvas(grip + kStep * QPointF(direction)));
         form_.Panels().Release();
     });
 }
 
-void FloatingPanel::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) {
-        mirror_.Click(closing_control_);
-        chart_.setFocus();
+void FloatingPanel::Close() { mirror_.Click(closing_control_); }
+
+void FloatingPanel::TakeFocus() {
+    for (QWidget* next = nextInFocusChain(); next != nullptr && next != this;
+         next = next->nextInFocusChain()) {
+        const bool is_field = qobject_cast<QLineEdit*>(next) != nullptr && isAncestorOf(next);
+        if (!is_field || !next->isVisibleTo(this) || !next->isEnabled()) continue;
+        next->setFocus(Qt::TabFocusReason);
         return;
     }
-    const bool moves = event->modifiers() & Qt::ControlModifier;
-    QPointF step;
-    if (event->key() == Qt::Key_Left) step = {-kStep, 0};
-    if (event->key() == Qt::Key_Right) step = {kStep, 0};
-    if (event->key() == Qt::Key_Up) step = {0, -kStep};
-    if (event->key() == Qt::Key_Down) step = {0, kStep};
-    if (!moves || step.isNull()) return QWidget::keyPressEvent(event);
-    MoveBy(step);
+    setFocus();
 }
 
 void InnerPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    PaintPanelGround(painter, body, 6, panel_, pictures_, Qt::white);
+    PaintPanelGround(painter, body, 6, panel_.picture, pictures_, ColourOf(LookColour::Field));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ColourOf(LookColour::Hairline), 1));
     painter.drawRoundedRect(body, 6, 6);

@@ -8,7 +8,10 @@
 #include <algorithm>
 #include <optional>
 
+#include "canvas/palette.h"
+#include "desktop/accessible.h"
 #include "desktop/look.h"
+#include "desktop/look_colours.h"
 
 namespace zandrell {
 namespace {
@@ -30,7 +33,11 @@ void ApplyColours(QWidget* widget, const Control& control) {
     const ColourRoles roles = RolesOf(widget);
     QPalette palette;
     if (control.foreground) palette.setColor(roles.text, TextColour(*control.foreground));
-    if (control.background) palette.setColor(roles.ground, GroundColour(*control.background));
+    // White stands for the ground as designed, whatever the scheme makes of it.
+    if (control.background && *control.background != kWhite) {
+        palette.setColor(roles.ground, GroundColour(*control.background));
+        palette.setColor(roles.text, ColourOf(LookColour::Ink));
+    }
     widget->setPalette(palette);
 }
 
@@ -277,8 +284,6 @@ void FormMirror::Bind(QAction* action, const MenuEntry& control) {
     const std::string_view name = control.name;
     QObject::connect(action, &QAction::triggered, action, [this, name] { Click(name); });
     writers_.push_back([action, &control] {
-        const QString text = Utf8(control.text);
-        if (action->text() != text) action->setText(text);
         if (action->isEnabled() != control.enabled) action->setEnabled(control.enabled);
         if (action->isVisible() != control.visible) action->setVisible(control.visible);
     });
@@ -286,8 +291,6 @@ void FormMirror::Bind(QAction* action, const MenuEntry& control) {
 
 void FormMirror::Bind(QMenu* menu, const MenuEntry& control) {
     writers_.push_back([menu, &control] {
-        const QString text = Utf8(control.text);
-        if (menu->title() != text) menu->setTitle(text);
         if (menu->isEnabled() != control.enabled) menu->setEnabled(control.enabled);
     });
 }
@@ -302,7 +305,7 @@ void FormMirror::Bind(QPushButton* button, const Button& picture, const Control*
     QObject::connect(button, &QPushButton::clicked, button,
                      [this, name = picture.name] { Click(name); });
     const QPixmap icon =
-        on_skin ? pictures_.Opaque(picture.picture) : pictures_.OnGround(picture.picture);
+        on_skin ? pictures_.Opaque(picture.picture) : pictures_.OnButton(picture.picture);
     if (!icon.isNull()) button->setIcon(QIcon(icon));
     const Control& text_control = caption ? *caption : picture;
     const bool shows_text = !button->property("picture_only").toBool();
@@ -318,9 +321,17 @@ void FormMirror::Bind(QPushButton* button, const Button& picture, const Control*
 void FormMirror::BindPanel(QWidget* panel, const Control& control) { AddCommon(panel, control); }
 
 void FormMirror::Describe(QWidget* widget, const Control& caption, const QString& addition) {
-    writers_.push_back([widget, &caption, addition] {
-        const QString name = (ShownText(caption.text) + QLatin1Char(' ') + addition).trimmed();
+    // A label with a symbol has the word for it in its tool tip.
+    const bool symbol = caption.kind == ControlKind::Label;
+    writers_.push_back([widget, &caption, addition, symbol] {
+        CaptionParts parts = PartsOf(ShownText(caption.text) + QLatin1Char(' ') + addition);
+        if (symbol && !caption.tool_tip.empty()) parts.quantity = ShownText(caption.tool_tip);
+        // What is typed has no value of its own that the unit could stand behind.
+        const bool typed = qobject_cast<QLineEdit*>(widget) != nullptr;
+        const QString name =
+            (typed ? parts.quantity + QLatin1Char(' ') + parts.unit : parts.quantity).trimmed();
         if (widget->accessibleName() != name) widget->setAccessibleName(name);
+        if (widget->property("unit") != parts.unit) widget->setProperty("unit", parts.unit);
     });
 }
 
@@ -333,6 +344,13 @@ void FormMirror::Perform(const std::function<void()>& act) {
 void FormMirror::Click(std::string_view control) {
     Perform([&] { window_.UserClick(control); });
 }
+
+QString FormMirror::SkinTexts() const {
+    if (!skinned) return {};
+    return window_.bold_labels ? QStringLiteral("dark texts") : QStringLiteral("light texts");
+}
+
+void FormMirror::AddWriter(std::function<void()> writer) { writers_.push_back(std::move(writer)); }
 
 void FormMirror::Mirror() {
     for (Writer& write : writers_) write();

@@ -50,6 +50,7 @@ class FormMirror {
     void Bind(QCheckBox* box, const CheckBox& control);
     void Bind(QComboBox* box, const ComboBox& control);
     void Bind(QListWidget* list, const ListBox& control, ListChoice choice = ListChoice::Row);
+    // Not their texts: the texts of one menu depend on each other.
     void Bind(QAction* action, const MenuEntry& control);
     void Bind(QMenu* menu, const MenuEntry& control);
     // A picture button with its caption, if any; a click does what a click on either does.
@@ -63,8 +64,11 @@ class FormMirror {
 
     // Whether a skin puts pictures behind the controls: pictures then stand on plates of their own.
     bool skinned = false;
+    // What the style sheet asks for: which texts the skin wants, empty without a skin.
+    QString SkinTexts() const;
 
-    // The accessible name of a widget is the text of its caption, with `addition` behind it.
+    // The accessible name of a widget is what its caption says, with `addition` behind it, and its
+    // property "unit" the unit that one of the two has in brackets.
     void Describe(QWidget* widget, const Control& caption, const QString& addition = {});
 
     // Performs an act of a user and mirrors what came of it.
@@ -72,6 +76,11 @@ class FormMirror {
     void Click(std::string_view control);
     // Writes what differs.
     void Mirror();
+    // Runs whenever the form is compared, for what is shown of it otherwise than control by
+    // control.
+    void AddWriter(std::function<void()> writer);
+    // Before the widgets are made anew.
+    void Forget() { writers_.clear(); }
 
   private:
     using Writer = std::function<void()>;

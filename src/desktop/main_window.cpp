@@ -1,14 +1,16 @@
 #include "desktop/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
-#include <algorithm>
-#include <map>
 
+#include "desktop/first_run_hint.h"
+#include "desktop/menus.h"
 #include "desktop/plant_panel_view.h"
 #include "desktop/point_panel_view.h"
 #include "desktop/tool_column.h"
@@ -16,24 +18,8 @@
 namespace zandrell {
 namespace {
 
-bool OpensMenu(std::string_view entry) {
-    return std::any_of(kMenuTree.begin(), kMenuTree.end(),
-                       [entry](const MenuBranch& branch) { return branch.parent == entry; });
-}
-
-using Keys = QList<QKeySequence>;
-
-const std::map<std::string_view, Keys>& StandardKeys() {
-    static const std::map<std::string_view, Keys> keys = {
-        {"Undo", {QKeySequence::Undo}},
-        {"Redo", {QKeySequence(QStringLiteral("Ctrl+Y")), QKeySequence::Redo}},
-        {"NeuPro", {QKeySequence::New}},
-        {"ProLad", {QKeySequence::Open}},
-        {"ProSpeich", {QKeySequence::Save}},
-        {"ProSpeichU", {QKeySequence(QStringLiteral("Ctrl+Shift+S"))}},
-    };
-    return keys;
-}
+constexpr int kRoomyWidth = 1280;    // pixels of the window from which bars are long
+constexpr int kCompactHeight = 760;  // and up to which the tools are drawn together
 
 // The first project among what is dragged; empty: none.
 QString ProjectIn(const QMimeData& dragged) {
@@ -47,7 +33,11 @@ QString ProjectIn(const QMimeData& dragged) {
 }  // namespace
 
 MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
-    : form_(form), pictures_(files), printing_(user, form.captions), mirror_(form, pictures_) {
+    : form_(form),
+      pictures_(files),
+      printing_(user, form.captions),
+      mirror_(form, pictures_),
+      keys_(*this) {
     form.printing.SetDevice(&printing_);
     form.help.viewer = &viewer_;
     mirror_.skinned = !form.controls.FunktButtPn.picture.empty();
@@ -57,14 +47,16 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
     layout->setSpacing(0);
     chart_ = new ChartWidget(form, pictures_, centre);
     chart_->perform = [this](const auto& act) { mirror_.Perform(act); };
+    chart_->covered = [this] {
+        return point_view_ && plant_view_ ? point_view_->Opaque() + plant_view_->Opaque()
+                                          : QRegion();
+    };
     layout->addWidget(chart_, 1);
-    MakePanels();
-    layout->addWidget(new ToolColumn(form, mirror_, centre));
     setCentralWidget(centre);
-    MakeMenus();
+    keys_.on_escape = [this] { return Escape(); };
+    keys_.on_control_arrow = [this](QPoint direction) { return MovePanel(direction); };
     mirror_.after_act = [this] { Refresh(); };
     setAcceptDrops(true);
-    for (QLineEdit* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
     user.Attach({this, &form, &pictures_, [this] {
                      mirror_.Mirror();
                      Refresh();
@@ -72,38 +64,81 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
                  }});
 }
 
-void MainWindow::MakePanels() {
-    point_view_ = MakePointPanelView(form_, mirror_, *chart_);
-    plant_view_ = MakePlantPanelView(form_, mirror_, *chart_);
-    chart_->covered = [this] { return point_view_->Opaque() + plant_view_->Opaque(); };
+// --- The layout and what it depends on.
+
+MainWindow::Terms MainWindow::WantedTerms() const {
+    Terms terms;
+    terms.look.scale = ScaleFor(width(), height());
+    const bool dark = form_.chart.settings.Helligkeit == kBlackGround;
+    terms.look.scheme = dark ? LookScheme::Dark : LookScheme::Light;
+    terms.roomy = width() >= kRoomyWidth;
+    terms.compact = height() <= kCompactHeight;
+    return terms;
 }
 
-void MainWindow::MakeMenus() {
-    std::map<std::string_view, QMenu*> menus;
-    for (const MenuBranch& branch : kMenuTree) {
-        const auto* entry = static_cast<const MenuEntry*>(form_.form.Find(branch.entry));
-        const auto parent = menus.find(branch.parent);
-        QWidget* place = parent == menus.end() ? static_cast<QWidget*>(menuBar()) : parent->second;
-        if (OpensMenu(branch.entry)) {
-            auto* menu = new QMenu(place);
-            place->addAction(menu->menuAction());
-            menus[branch.entry] = menu;
-            mirror_.Bind(menu, *entry);
-        } else {
-            auto* action = new QAction(place);
-            place->addAction(action);
-            mirror_.Bind(action, *entry);
-            const auto key = StandardKeys().find(branch.entry);
-            if (key != StandardKeys().end()) action->setShortcuts(key->second);
-            if (branch.entry == form_.controls.HelpHere.name) action->setShortcut(Qt::Key_F1);
-        }
+void MainWindow::FollowTerms() {
+    if (terms_ && *terms_ != WantedTerms()) QTimer::singleShot(0, this, [this] { LayOut(); });
+}
+
+void MainWindow::LayOut() {
+    const Terms wanted = WantedTerms();
+    if (terms_ && (*terms_ == wanted || QApplication::activeModalWidget() != nullptr ||
+                   QApplication::activePopupWidget() != nullptr || chart_->IsDragging()))
+        return;
+    const QString focused = focusWidget() ? focusWidget()->objectName() : QString();
+    if (!terms_ || terms_->look != wanted.look) ApplyLook(*qApp, wanted.look);
+    terms_ = wanted;
+    Build();
+    if (auto* widget = focused.isEmpty() ? nullptr : findChild<QWidget*>(focused)) {
+        widget->setFocus();
     }
 }
+
+void MainWindow::Build() {
+    mirror_.Forget();
+    delete tools_;
+    delete point_view_;
+    delete plant_view_;
+    BuildPanels();
+    BuildTools();
+    auto* bar = new QMenuBar(this);
+    FillMenus(form_, mirror_, *bar);
+    mirror_.Describe(chart_, form_.controls.Label7);
+    setMenuBar(bar);
+    for (QLineEdit* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
+    mirror_.Mirror();
+    Refresh();
+}
+
+void MainWindow::BuildTools() {
+    auto* column = new ToolColumn(form_, mirror_, terms_->compact, centralWidget());
+    tools_ = new ContentScroll(column, centralWidget());
+    centralWidget()->layout()->addWidget(tools_);
+    tools_->FillHeight();
+}
+
+void MainWindow::BuildPanels() {
+    point_view_ = MakePointPanelView(form_, mirror_, *chart_);
+    plant_view_ = MakePlantPanelView(form_, mirror_, *chart_);
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    if (!terms_) LayOut();
+    QMainWindow::showEvent(event);
+}
+
+void MainWindow::ShowFirstRunHint() {
+    if (OpenPanel() != nullptr || !FirstRunHint::IsWanted()) return;
+    new FirstRunHint(ShownText(form_.captions[Caption::FirstRunHint]), chart_);
+}
+
+// --- Form and window.
 
 void MainWindow::Start() {
     started_ = true;
     TellSize();
     mirror_.Perform([this] { form_.Activate(); });
+    LayOut();
 }
 
 void MainWindow::TellSize() { form_.Resize(centralWidget()->width(), centralWidget()->height()); }
@@ -116,8 +151,10 @@ void MainWindow::Refresh() {
     if (windowTitle() != title) setWindowTitle(title);
     if (isWindowModified() != form_.modified) setWindowModified(form_.modified);
     chart_->Sync();
-    point_view_->Place();
-    plant_view_->Place();
+    if (point_view_) point_view_->Place();
+    if (plant_view_) plant_view_->Place();
+    FollowPanels();
+    FollowTerms();
     if (form_.ended) close();
 }
 
@@ -159,6 +196,50 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         if (ours) return true;  // not accepted: it goes on to the menu's shortcuts
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// --- The floating panels and the keys.
+
+FloatingPanel* MainWindow::OpenPanel() const {
+    if (point_view_ && form_.processes.point.Anlage1PN.visible) return point_view_;
+    return plant_view_ && form_.processes.plant.Frame1.visible ? plant_view_ : nullptr;
+}
+
+// A panel that opens takes the focus, and one that closes leaves it to the chart: nobody has to
+// look for it with the tab key.
+void MainWindow::FollowPanels() {
+    // While a panel is dragged its outline stands for it.
+    if (form_.controls.Shape3.visible) return;
+    FloatingPanel* open = OpenPanel();
+    const Panel* panel = open ? &open->Shown() : nullptr;
+    if (panel == followed_panel_) return;
+    followed_panel_ = panel;
+    if (open) {
+        open->TakeFocus();
+    } else {
+        chart_->setFocus();
+    }
+}
+
+bool MainWindow::Escape() {
+    if (form_.controls.Shape3.visible) return false;
+    if (form_.chart.controls.ZoomShape.visible) {
+        mirror_.Perform([this] { form_.DropFrame(); });
+        return true;
+    }
+    FloatingPanel* open = OpenPanel();
+    if (open) open->Close();
+    return open != nullptr;
+}
+
+bool MainWindow::MovePanel(QPoint direction) {
+    FloatingPanel* open = OpenPanel();
+    const QWidget* focused = focusWidget();
+    if (open == nullptr || focused == nullptr) return false;
+    // The fields beside the chart hold texts, in which these keys go from word to word.
+    if (focused != chart_ && !chart_->isAncestorOf(focused)) return false;
+    open->MoveBy(direction);
+    return true;
 }
 
 }  // namespace zandrell

@@ -1,14 +1,18 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include "desktop/chart_widget.h"
+#include "desktop/content_scroll.h"
 #include "desktop/floating_panel.h"
 #include "desktop/form_mirror.h"
+#include "desktop/look.h"
 #include "desktop/pictures.h"
 #include "desktop/qt_printing.h"
 #include "desktop/qt_user.h"
 #include "desktop/qt_viewer.h"
+#include "desktop/window_keys.h"
 #include "shell/main_form.h"
 
 namespace zandrell {
@@ -29,8 +33,15 @@ class MainWindow : public QMainWindow {
     ChartWidget& Chart() { return *chart_; }
     // Writes all that differs between form and window.
     void Refresh();
+    // Makes everything but the chart anew where the window's size or the chart's ground asks for
+    // another scale, other colours or less room. It happens by itself, but not inside an act: the
+    // widget that started it must outlive it.
+    void LayOut();
+    // On an empty chart, for an account that has not seen it yet.
+    void ShowFirstRunHint();
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     // A project file that is dropped on the window is opened.
@@ -40,8 +51,23 @@ class MainWindow : public QMainWindow {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void MakeMenus();
-    void MakePanels();
+    // What the layout was made for.
+    struct Terms {
+        Look look;
+        bool roomy = false;    // bars can be long
+        bool compact = false;  // the tools have little height
+        bool operator==(const Terms&) const = default;
+    };
+
+    Terms WantedTerms() const;
+    void FollowTerms();
+    void Build();
+    void BuildTools();
+    void BuildPanels();
+    void FollowPanels();
+    FloatingPanel* OpenPanel() const;
+    bool Escape();
+    bool MovePanel(QPoint direction);
     void TellSize();
 
     MainForm& form_;
@@ -49,9 +75,12 @@ class MainWindow : public QMainWindow {
     QtPrinting printing_;
     QtViewer viewer_;
     FormMirror mirror_;
+    WindowKeys keys_;
     ChartWidget* chart_ = nullptr;
-    FloatingPanel* point_view_ = nullptr;
-    FloatingPanel* plant_view_ = nullptr;
+    QPointer<ContentScroll> tools_;
+    QPointer<FloatingPanel> point_view_, plant_view_;
+    std::optional<Terms> terms_;  // empty: nothing is built yet
+    const Panel* followed_panel_ = nullptr;
     bool started_ = false;
 };
 

@@ -3,13 +3,19 @@
 #include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPushButton>
+
+#include "desktop/floating_panel.h"
+#include "desktop/look_colours.h"
 
 namespace zandrell {
 
 ModalWindow::ModalWindow(ModalForm& form, Pictures& pictures, QWidget* parent)
     : QDialog(parent), form_(form), mirror_(form, pictures) {
     mirror_.after_act = [this] { Refresh(); };
+    mirror_.skinned = !form.ground_picture.empty();
+    setProperty("skinned", mirror_.SkinTexts());
 }
 
 void ModalWindow::Refresh() {
@@ -58,6 +64,12 @@ void ModalWindow::keyPressEvent(QKeyEvent* event) {
 void ModalWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!form_.closed) mirror_.Click(form_.cancel_control);
+}
+
+void ModalWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    PaintPanelGround(painter, QRectF(rect()), 0, form_.ground_picture, mirror_.PictureStore(),
+                     ColourOf(LookColour::Window));
 }
 
 }  // namespace zandrell

@@ -25,6 +25,7 @@ class ModalWindow : public QDialog {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     // Behind each comparison with the form.
     virtual void Refreshed() {}
 

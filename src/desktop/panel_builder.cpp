@@ -2,12 +2,17 @@
 
 #include <QFontMetrics>
 #include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/accessible.h"
 
 namespace zandrell {
 namespace {
 
 constexpr double kPanelFontShare = 0.94;
-constexpr int kLeastBarWidth = 64, kIconSize = 20, kQuietSize = 28;  // pixels at scale 1
+constexpr int kRoomyWindow = 1280;  // pixels
+constexpr int kLeastBarWidth = 64, kLongBarWidth = 162, kIconSize = 20,
+              kQuietSize = 28;  // pixels at scale 1
 
 int WidthOfDigits(const QWidget& widget, int digits) {
     return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits + Scaled(widget, 18);
@@ -49,11 +54,27 @@ FigureLabel* PanelBuilder::Figure(const Label& control, const Control& caption,
     return figure;
 }
 
-QSlider* PanelBuilder::Bar(const ScrollBar& control, const Control& caption,
-                           const QString& addition) {
-    auto* bar = new QSlider(parent_);
-    bar->setMinimumWidth(Scaled(*bar, kLeastBarWidth));
-    bar->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+QSlider* PanelBuilder::BarOf(const ScrollBar& control, const Control& caption,
+                             const QString& addition) {
+    auto* bar = new Bar(parent_);
+    // Bars of flows count in hundredths of the flow that was typed last, the others in tenths.
+    const auto counts_tenths = [bar] {
+        const QString unit = bar->property("unit").toString();
+        return unit == QString::fromUtf8("°C") || unit == QLatin1String("%");
+    };
+    bar->units_per_value = [counts_tenths] {
+        return counts_tenths() ? static_cast<int>(kBarUnitsPerField) : 1;
+    };
+    bar->value_text = [bar, &control, counts_tenths] {
+        const bool tenths = counts_tenths();
+        const QString unit = tenths ? bar->property("unit").toString() : QStringLiteral("%");
+        const std::string value = tenths ? control.TenthsText() : control.PositionText();
+        return ShownText(value) + QLatin1Char(' ') + unit;
+    };
+    const bool roomy = parent_->window()->width() >= kRoomyWindow;
+    const int least = Scaled(*bar, roomy ? kLongBarWidth : kLeastBarWidth);
+    bar->setMinimumWidth(roomy ? std::max(least, kLongBarWidth) : least);
+    bar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     mirror_.Bind(bar, control);
     mirror_.Describe(bar, caption, addition);
     return bar;
@@ -84,13 +105,14 @@ QPushButton* PanelBuilder::QuietButton(const Button& picture) {
     return button;
 }
 
-QVBoxLayout* PanelBuilder::TitledLayout(const Label& title, const Button& close, int shadow) {
+QVBoxLayout* PanelBuilder::TitledLayout(const Label& title, const Button& close,
+                                        const Button& cancel, int shadow) {
     auto* row = new QHBoxLayout;
     row->addWidget(Caption(title, true), 1);
     auto* cross = QuietButton(close);
     cross->setText(QStringLiteral("×"));
-    cross->setFocusPolicy(Qt::NoFocus);  // Escape does the same
     mirror_.Follow(cross, title);
+    mirror_.Describe(cross, cancel);
     row->addWidget(cross);
     auto* layout = new QVBoxLayout(parent_);
     layout->setContentsMargins(shadow + 12, shadow + 6, shadow + 12, shadow + 10);

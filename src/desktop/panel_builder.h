@@ -17,6 +17,9 @@ class PanelBuilder {
     // Both outlive the builder.
     PanelBuilder(FormMirror& mirror, QWidget* parent) : mirror_(mirror), parent_(parent) {}
 
+    // What is made from now on stands in another widget.
+    void SetParent(QWidget* parent) { parent_ = parent; }
+
     QLabel* Caption(const Control& control, bool heading = false);
     // Fixed signs, coloured like a caption.
     QLabel* Words(const QString& text, const Control& like);
@@ -25,14 +28,15 @@ class PanelBuilder {
                      int digits = 8);
     FigureLabel* Figure(const Label& control, const Control& caption, const QString& addition = {},
                         int digits = 8);
-    QSlider* Bar(const ScrollBar& control, const Control& caption, const QString& addition = {});
+    QSlider* BarOf(const ScrollBar& control, const Control& caption, const QString& addition = {});
     QRadioButton* Option(const OptionButton& control);
     QPushButton* PictureButton(const Button& picture, const Control* caption = nullptr);
     // A small button of only a picture.
     QPushButton* QuietButton(const Button& picture);
-    // The layout of the whole panel, begun with its title and its closing cross; `shadow` pixels
-    // all round are left free.
-    QVBoxLayout* TitledLayout(const Label& title, const Button& close, int shadow);
+    // The layout of the whole panel, begun with its title and its closing cross, which does what
+    // the button `cancel` does; `shadow` pixels all round are left free.
+    QVBoxLayout* TitledLayout(const Label& title, const Button& close, const Button& cancel,
+                              int shadow);
 
   private:
     FormMirror& mirror_;

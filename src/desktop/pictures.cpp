@@ -5,6 +5,8 @@
 #include <QString>
 #include <algorithm>
 
+#include "desktop/look_colours.h"
+
 namespace zandrell {
 namespace {
 
@@ -26,11 +28,20 @@ QRgb WithoutWhite(QRgb pixel) {
     return qRgba(ink(qRed(pixel)), ink(qGreen(pixel)), ink(qBlue(pixel)), alpha);
 }
 
-QImage WithoutWhiteGround(QImage image) {
+// The hue stays.
+QRgb WithLightnessTurned(QRgb pixel) {
+    const QColor colour = QColor::fromRgba(pixel);
+    return QColor::fromHsl(colour.hslHue(), colour.hslSaturation(), 255 - colour.lightness(),
+                           colour.alpha())
+        .rgba();
+}
+
+template <class Change>
+QImage Changed(QImage image, const Change& change) {
     image = image.convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::transform(line, line + image.width(), line, WithoutWhite);
+        std::transform(line, line + image.width(), line, change);
     }
     return image;
 }
@@ -50,8 +61,18 @@ QPixmap Pictures::OnGround(std::string_view file_name) {
     const auto found = on_ground_.find(file_name);
     if (found != on_ground_.end()) return found->second;
     const QImage image = ReadPicture(files_, file_name);
-    const QPixmap picture = QPixmap::fromImage(image.isNull() ? image : WithoutWhiteGround(image));
+    const QPixmap picture =
+        QPixmap::fromImage(image.isNull() ? image : Changed(image, WithoutWhite));
     return on_ground_.emplace(file_name, picture).first->second;
+}
+
+QPixmap Pictures::OnButton(std::string_view file_name) {
+    if (SchemeInForce() == LookScheme::Light || file_name.empty()) return OnGround(file_name);
+    const auto found = on_dark_.find(file_name);
+    if (found != on_dark_.end()) return found->second;
+    QImage image = OnGround(file_name).toImage();
+    if (!image.isNull()) image = Changed(image, WithLightnessTurned);
+    return on_dark_.emplace(file_name, QPixmap::fromImage(image)).first->second;
 }
 
 }  // namespace zandrell

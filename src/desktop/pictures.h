@@ -21,10 +21,12 @@ class Pictures {
     QPixmap Opaque(std::string_view file_name);
     // With its white ground turned transparent: drawings on white, put on a coloured button.
     QPixmap OnGround(std::string_view file_name);
+    // The same with light and dark exchanged where the windows are dark.
+    QPixmap OnButton(std::string_view file_name);
 
   private:
     const DataFiles& files_;
-    std::map<std::string, QPixmap, std::less<>> opaque_, on_ground_;
+    std::map<std::string, QPixmap, std::less<>> opaque_, on_ground_, on_dark_;
 };
 
 }  // namespace zandrell

@@ -9,6 +9,8 @@
 namespace zandrell {
 namespace {
 
+constexpr int kWideWindow = 1150;  // pixels from which results stand beside the inputs
+
 // One kind of air: its name, temperature and humidity with their bars.
 struct AirRow {
     const Label& name;
@@ -21,17 +23,18 @@ struct AirRow {
 };
 
 void AddAirRow(PanelBuilder& build, QGridLayout& grid, int row, const AirRow& air) {
-    const QString temperature = QStringLiteral("t"), humidity = QStringLiteral("φ");
+    // In brackets, where a caption has its unit.
+    const QString temperature = QStringLiteral("t [°C]"), humidity = QStringLiteral("φ [%]");
     grid.addWidget(build.Caption(air.name, true), row, 0);
     grid.addWidget(build.Caption(air.temperature_caption), row, 1);
     grid.addWidget(build.Field(air.temperature, air.name, temperature, 5), row, 2);
     if (air.temperature_bar) {
-        grid.addWidget(build.Bar(*air.temperature_bar, air.name, temperature), row, 3);
+        grid.addWidget(build.BarOf(*air.temperature_bar, air.name, temperature), row, 3);
     }
     grid.addWidget(build.Caption(air.humidity_caption), row, 4);
     grid.addWidget(build.Field(air.humidity, air.name, humidity, 5), row, 5);
     if (air.humidity_bar) {
-        grid.addWidget(build.Bar(*air.humidity_bar, air.name, humidity), row, 6);
+        grid.addWidget(build.BarOf(*air.humidity_bar, air.name, humidity), row, 6);
     }
 }
 
@@ -108,6 +111,7 @@ QHBoxLayout* MakeHumidifierRow(PlantPanel& panel, PanelBuilder& build, QWidget* 
 QWidget* MakeResultPanel(PlantPanel& panel, FormMirror& mirror, QWidget* parent) {
     auto* inner = new InnerPanel(panel.Panel3D10, mirror.PictureStore(), parent);
     mirror.BindPanel(inner, panel.Panel3D10);
+    mirror.Describe(inner, panel.room_label);
     PanelBuilder build(mirror, inner);
     auto* grid = new QGridLayout(inner);
     grid->setContentsMargins(10, 8, 10, 8);
@@ -150,19 +154,34 @@ FloatingPanel* MakePlantPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* view = new FloatingPanel(form, panel.Frame1, mirror, chart, panel.AnlageAbButt.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);
-    auto* layout = build.TitledLayout(panel.Label16, panel.Picture12, FloatingPanel::kShadow);
-    auto* body = new QHBoxLayout;
+    build.TitledLayout(panel.Label16, panel.Picture12, panel.AnlageAbButt, FloatingPanel::kShadow);
+    auto* content = new QWidget(view);
+    build.SetParent(content);
+    auto* body = new QHBoxLayout(content);
+    body->setContentsMargins(0, 0, 0, 0);
     body->setSpacing(10);
     auto* inputs = new QVBoxLayout;
-    inputs->addWidget(MakeAirPanel(panel, mirror, view));
+    inputs->addWidget(MakeAirPanel(panel, mirror, content));
     inputs->addLayout(MakeFlowGrid(panel, build));
-    inputs->addLayout(MakeHumidifierRow(panel, build, view));
+    inputs->addLayout(MakeHumidifierRow(panel, build, content));
     auto* results = new QVBoxLayout;
-    results->addWidget(MakeResultPanel(panel, mirror, view), 1);
+    results->addWidget(MakeResultPanel(panel, mirror, content), 1);
     results->addLayout(MakeFooter(panel, form.controls, build, mirror));
     body->addLayout(inputs, 1);
     body->addLayout(results);
-    layout->addLayout(body);
+    view->SetContent(content);
+    mirror.Describe(view, panel.Label16);
+    view->arrange = [view, body, fitted = QSize()](QSize room) mutable {
+        if (fitted == room) return;
+        fitted = room;
+        // The results stand beside the inputs where the window has the width for both.
+        body->setDirection(QBoxLayout::LeftToRight);
+        const int beside = body->sizeHint().width() + view->layout()->contentsMargins().left() +
+                           view->layout()->contentsMargins().right();
+        if (view->window()->width() < kWideWindow || beside > room.width()) {
+            body->setDirection(QBoxLayout::TopToBottom);
+        }
+    };
     return view;
 }
 

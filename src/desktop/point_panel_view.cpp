@@ -8,7 +8,8 @@
 namespace zandrell {
 namespace {
 
-const QString kFirst = QStringLiteral("1"), kSecond = QStringLiteral("2");
+const QString kFirst = QStringLiteral("1"), kSecond = QStringLiteral("2"),
+              kMixture = QStringLiteral("1 + 2");
 
 enum Column { kCaptionColumn, kFirstColumn, kSecondColumn, kMixtureColumn };
 
@@ -28,9 +29,9 @@ void AddTypedRow(PanelBuilder& build, QGridLayout& grid, int row, const Label& c
     grid.addWidget(build.Caption(caption), row, kCaptionColumn);
     grid.addWidget(build.Field(field1, caption, kFirst), row, kFirstColumn);
     grid.addWidget(build.Field(field2, caption, kSecond), row, kSecondColumn);
-    if (mixture) grid.addWidget(build.Figure(*mixture, caption), row, kMixtureColumn);
-    grid.addWidget(build.Bar(bar1, caption, kFirst), row + 1, kFirstColumn);
-    grid.addWidget(build.Bar(bar2, caption, kSecond), row + 1, kSecondColumn);
+    if (mixture) grid.addWidget(build.Figure(*mixture, caption, kMixture), row, kMixtureColumn);
+    grid.addWidget(build.BarOf(bar1, caption, kFirst), row + 1, kFirstColumn);
+    grid.addWidget(build.BarOf(bar2, caption, kSecond), row + 1, kSecondColumn);
 }
 
 void AddFigureRow(PanelBuilder& build, QGridLayout& grid, int row, const Label& caption,
@@ -38,7 +39,7 @@ void AddFigureRow(PanelBuilder& build, QGridLayout& grid, int row, const Label& 
     grid.addWidget(build.Caption(caption), row, kCaptionColumn);
     grid.addWidget(build.Figure(figure1, caption, kFirst), row, kFirstColumn);
     grid.addWidget(build.Figure(figure2, caption, kSecond), row, kSecondColumn);
-    if (mixture) grid.addWidget(build.Figure(*mixture, caption), row, kMixtureColumn);
+    if (mixture) grid.addWidget(build.Figure(*mixture, caption, kMixture), row, kMixtureColumn);
 }
 
 QGridLayout* MakeStateGrid(PointPanel& panel, PanelBuilder& build) {
@@ -61,6 +62,7 @@ QGridLayout* MakeStateGrid(PointPanel& panel, PanelBuilder& build) {
 QWidget* MakeCapacityPanel(PointPanel& panel, FormMirror& mirror, QWidget* parent) {
     auto* inner = new InnerPanel(panel.Panel3D9, mirror.PictureStore(), parent);
     mirror.BindPanel(inner, panel.Panel3D9);
+    mirror.Describe(inner, panel.capacity_label);
     PanelBuilder build(mirror, inner);
     auto* grid = new QGridLayout(inner);
     grid->setContentsMargins(10, 8, 10, 8);
@@ -97,10 +99,18 @@ FloatingPanel* MakePointPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* view = new FloatingPanel(form, panel.Anlage1PN, mirror, chart, panel.abbcom.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);
-    auto* layout = build.TitledLayout(panel.Label15, panel.Picture3, FloatingPanel::kShadow);
-    layout->addLayout(MakeStateGrid(panel, build));
-    layout->addWidget(MakeCapacityPanel(panel, mirror, view));
-    layout->addLayout(MakeFooter(panel, build, form.controls.wrgEinst));
+    auto* layout =
+        build.TitledLayout(panel.Label15, panel.Picture3, panel.abbcom, FloatingPanel::kShadow);
+    auto* content = new QWidget(view);
+    build.SetParent(content);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(layout->spacing());
+    column->addLayout(MakeStateGrid(panel, build));
+    column->addWidget(MakeCapacityPanel(panel, mirror, content));
+    column->addLayout(MakeFooter(panel, build, form.controls.wrgEinst));
+    view->SetContent(content);
+    mirror.Describe(view, panel.Label15);
     return view;
 }
 

@@ -31,7 +31,8 @@ void PaintDialog(QPixmap& picture, QWidget& dialog, QWidget& window) {
                      size);
     const QRect bar(body.left(), body.top() - kTitleHeight, body.width(), kTitleHeight);
     painter.fillRect(bar.united(body).adjusted(-1, -1, 1, 1), ColourOf(LookColour::Border));
-    painter.fillRect(bar, Qt::white);
+    painter.fillRect(bar, ColourOf(LookColour::Field));
+    painter.setPen(ColourOf(LookColour::Ink));
     painter.drawText(bar.adjusted(12, 0, -12, 0), Qt::AlignVCenter, dialog.windowTitle());
     painter.drawPixmap(body.topLeft(), content);
 }
@@ -121,6 +122,7 @@ void ScriptRunner::RefreshWindows() {
 bool ScriptRunner::TakeShot(const std::string& path, std::string& error) {
     shot_taken_ = true;
     RefreshWindows();
+    window_.LayOut();
     QPixmap picture = window_.grab();
     QWidget* top = QApplication::activeModalWidget();
     auto* below = top ? dynamic_cast<ModalWindow*>(top->parentWidget()) : nullptr;

@@ -6,39 +6,36 @@
 #include <QPainter>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/floating_panel.h"
 #include "desktop/look.h"
 #include "desktop/look_colours.h"
 #include "desktop/panel_builder.h"
+#include "desktop/tool_keys.h"
 
 namespace zandrell {
 namespace {
 
-constexpr int kLeastWidth = 173;            // pixels at scale 1
-constexpr int kToolIcon = 28;               // pixels at scale 1
-constexpr int kLongestProjectText = 32767;  // what an edit would cut off would be lost
-constexpr int kFirstToolKey = Qt::Key_F2;
+constexpr int kLeastWidth = 173;                      // pixels at scale 1
+constexpr int kToolIcon = 28, kCompactToolIcon = 20;  // pixels at scale 1
+constexpr int kLongestProjectText = 32767;            // what an edit would cut off would be lost
 
-// A function key for each tool; its name stands behind the tool tip.
-void AddShortcut(QPushButton* button, const Button& picture, int key, FormMirror& mirror) {
-    const QKeySequence sequence{key};
+// The name of a tool's key stands behind its tool tip.
+void AddShortcut(QPushButton* button, const Button& picture, FormMirror& mirror) {
+    const auto* row = std::ranges::find(kToolKeys, picture.name, &ToolKey::button);
+    if (row == kToolKeys.end()) return;
+    const QKeySequence sequence{row->key};
     auto* shortcut = new QShortcut(sequence, button);
     QObject::connect(shortcut, &QShortcut::activated, button,
                      [&mirror, name = picture.name] { mirror.Click(name); });
     button->setProperty("key", sequence.toString(QKeySequence::NativeText));
 }
 
-// What the style sheet asks for: which texts the skin wants, empty without a skin.
-QString SkinTexts(const MainForm& form, const FormMirror& mirror) {
-    if (!mirror.skinned) return {};
-    return form.bold_labels ? QStringLiteral("dark texts") : QStringLiteral("light texts");
-}
-
 }  // namespace
 
-ToolColumn::ToolColumn(MainForm& form, FormMirror& mirror, QWidget* parent)
-    : QWidget(parent), form_(form), mirror_(mirror) {
+ToolColumn::ToolColumn(MainForm& form, FormMirror& mirror, bool compact, QWidget* parent)
+    : QWidget(parent), form_(form), mirror_(mirror), compact_(compact) {
     setMinimumWidth(Scaled(*this, kLeastWidth));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     mirror.BindPanel(this, form.controls.FunktButtPn);
@@ -61,19 +58,19 @@ QWidget* ToolColumn::MakeToolButtons() {
     const auto add = [&](const Button& picture, const Button* caption) {
         auto* button = new QPushButton(group);
         button->setProperty("tool", true);
-        button->setProperty("skinned", SkinTexts(form_, mirror_));
-        button->setIconSize(QSize(1, 1) * Scaled(*button, kToolIcon));
+        button->setProperty("skinned", mirror_.SkinTexts());
+        button->setIconSize(QSize(1, 1) * Scaled(*button, compact_ ? kCompactToolIcon : kToolIcon));
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         mirror_.Bind(button, picture, caption);
         layout->addWidget(button);
         return button;
     };
-    int key = kFirstToolKey;
     for (ToolButton* tool : form_.controls.ToolButtons()) {
-        AddShortcut(add(tool->picture, &tool->caption), tool->picture, key++, mirror_);
+        AddShortcut(add(tool->picture, &tool->caption), tool->picture, mirror_);
     }
     // Its place is kept while it is hidden, so that nothing jumps when the chart is zoomed.
     auto* zoom = add(form_.controls.ZOOMMIN, nullptr);
+    AddShortcut(zoom, form_.controls.ZOOMMIN, mirror_);
     QSizePolicy policy = zoom->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     zoom->setSizePolicy(policy);
@@ -85,6 +82,7 @@ QWidget* ToolColumn::MakeReadOut() {
     auto& words = form_.controls;
     auto* panel = new InnerPanel(read_out.Pn1, mirror_.PictureStore(), this);
     mirror_.BindPanel(panel, read_out.Pn1);
+    panel->setAccessibleName(ShownText(form_.captions[Caption::StateUnderPointer]));
     QSizePolicy policy = panel->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     panel->setSizePolicy(policy);
@@ -145,8 +143,8 @@ QWidget* ToolColumn::MakeEndButtons() {
 void ToolColumn::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintPanelGround(painter, QRectF(rect()), 0, form_.controls.FunktButtPn, mirror_.PictureStore(),
-                     palette().color(QPalette::Window));
+    PaintPanelGround(painter, QRectF(rect()), 0, form_.controls.FunktButtPn.picture,
+                     mirror_.PictureStore(), palette().color(QPalette::Window));
     painter.fillRect(QRect(0, 0, 1, height()), ColourOf(LookColour::Hairline));
 }
 

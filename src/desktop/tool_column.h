@@ -11,8 +11,8 @@ namespace zandrell {
 // project's two texts and the buttons that end the program.
 class ToolColumn : public QWidget {
   public:
-    // Both outlive the column.
-    ToolColumn(MainForm& form, FormMirror& mirror, QWidget* parent);
+    // Both outlive the column. It can be made for windows of little height.
+    ToolColumn(MainForm& form, FormMirror& mirror, bool compact, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -25,6 +25,7 @@ class ToolColumn : public QWidget {
 
     MainForm& form_;
     FormMirror& mirror_;
+    bool compact_;
 };
 
 }  // namespace zandrell

@@ -23,17 +23,23 @@ TEST(Look, TextsAndBordersStandOutFromTheirGround) {
         double least;
     } cases[] = {
         {Ink,
-         {White, Window, Panel, Cell, Selected, Pressed, Hovered, SoftRed},
+         {Field, Window, Panel, Cell, Selected, Pressed, Hovered, SoftRed},
          kLeastTextContrast},
-        {MutedInk, {White, Window, Panel, Cell}, kLeastTextContrast},
-        {White, {Ink, Accent}, kLeastTextContrast},
-        {Border, {White, Window, Panel, Cell}, kLeastLineContrast},
-        {Accent, {White, Window, Panel, Cell, Hovered, Pressed, SoftRed}, kLeastLineContrast},
+        {MutedInk, {Field, Window, Panel, Cell}, kLeastTextContrast},
+        {Field, {Ink}, kLeastTextContrast},
+        {White, {Band}, kLeastTextContrast},
+        {OnAccent, {Accent}, kLeastTextContrast},
+        {Border, {Field, Window, Panel, Cell}, kLeastLineContrast},
+        {Accent, {Field, Window, Panel, Cell, Hovered, Pressed, SoftRed}, kLeastLineContrast},
     };
     for (const auto& c : cases) {
         for (const LookColour ground : c.grounds) {
-            EXPECT_GE(Contrast(Rgb(ColourOf(c.drawn)), Rgb(ColourOf(ground))), c.least)
-                << static_cast<int>(c.drawn) << " on " << static_cast<int>(ground);
+            for (const LookScheme scheme : {LookScheme::Light, LookScheme::Dark}) {
+                const QColor drawn = ColourOf(c.drawn, scheme), under = ColourOf(ground, scheme);
+                EXPECT_GE(Contrast(Rgb(drawn), Rgb(under)), c.least)
+                    << static_cast<int>(c.drawn) << " on " << static_cast<int>(ground)
+                    << (scheme == LookScheme::Dark ? ", dark" : "");
+            }
         }
     }
     for (std::size_t i = 0; i < LookTable().size(); ++i) {
@@ -49,7 +55,7 @@ TEST(Look, TheStyleSheetTakesItsColoursFromTheTable) {
     while (colours.hasNext()) {
         const QColor colour(colours.next().captured());
         EXPECT_TRUE(std::ranges::any_of(LookTable(), [&](const LookRow& row) {
-            return row.rgb == Rgb(colour);
+            return row.light == Rgb(colour);
         })) << colour.name().toStdString();
     }
     EXPECT_EQ(WithColours("a @disabled-edge b @disabled;"),

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/accessible.h"
 #include "desktop/look.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_user.h"
@@ -26,22 +27,43 @@ inline QApplication& TheApplication() {
         auto* made =
             new QApplication(count, arguments);  // never destroyed: it outlives all statics
         ApplyLook(*made);
+        InstallAccessibles();
         return made;
     }();
     return *application;
 }
 
+// What stands in kparam.dat.
+struct WindowSetup {
+    std::string language = "ENG";
+    int skin = 0;
+};
+
 // The windows on a data folder of their own, with simulated input.
 class WindowSession : public testing::Test {
   protected:
-    WindowSession() {
+    explicit WindowSession(const WindowSetup& setup = {}) {
         folder_.CopyWholeSet();
+        WriteParameters(setup);
         form_.Load();
         window_ = std::make_unique<MainWindow>(form_, files_, user_);
         window_->resize(1280, 800);
         window_->show();
         window_->Start();
-        QApplication::processEvents();
+        // The layout follows in a turn of its own, and its children in theirs.
+        for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
+    }
+
+    void WriteParameters(const WindowSetup& setup) {
+        std::string parameters = folder_.Read("kparam.dat");
+        const auto put = [&parameters](const std::string& old, const std::string& text) {
+            const auto at = parameters.find(old);
+            ASSERT_NE(at, std::string::npos) << old;
+            parameters.replace(at, old.size(), text);
+        };
+        put("\"ENG\"", "\"" + setup.language + "\"");
+        put("\n0,\"\",\"1\"", "\n" + std::to_string(setup.skin) + ",\"\",\"1\"");
+        folder_.Write("kparam.dat", parameters);
     }
 
     template <class Widget>
