@@ -54,12 +54,12 @@ TEST(PrintSetup, DateListFollowsTheCode) {
         {"3", {"11/21/2026", "11-21-2026", "11/21/2026", "11/21/2026", "21/11/2026"}},
         {"4", {"11/21/2026", "11-21-2026", "11/21/2026", "11/21/2026", "21/11/2026"}},
     };
-    for (const auto& [code, texts] : cases) {
+    for (const auto& offered : cases) {
         SetupSession setup;
-        setup.shared.DateFormatCode = code;
+        setup.shared.DateFormatCode = offered.first;
         setup.Show([&] {
-            EXPECT_EQ(setup.form.Date_Combo.items, texts) << code;
-            EXPECT_EQ(setup.form.Date_Combo.text, texts[0]) << code;
+            EXPECT_EQ(setup.form.Date_Combo.items, offered.second) << offered.first;
+            EXPECT_EQ(setup.form.Date_Combo.text, offered.second[0]) << offered.first;
         });
     }
 }
