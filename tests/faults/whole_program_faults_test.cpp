@@ -57,7 +57,8 @@ TEST(WholeProgramFaults, OptionsAndAProject) {
     if (std::getenv("ZANDRELL_ALL_FAULTS") == nullptr) GTEST_SKIP() << "./dev faults runs it";
     const TestFolder folder;
     folder.CopyWholeSet();
-    Started(folder.Path());  // the curves of the first paint are in their file
+    // The curves of the first paint are in their file then.
+    { const Started first(folder.Path()); }
     const faults::FaultyAct act{
         "whole program",
         faults::ContentOf(folder.Path()),

@@ -155,6 +155,7 @@ TEST(Projects, AScriptSavesLoadsAndDeletesAProject) {
 
 std::vector<std::string> Texts(const std::vector<Json>& dumps, const char* name) {
     std::vector<std::string> texts;
+    texts.reserve(dumps.size());
     for (const Json& dump : dumps) texts.push_back(TextOf(dump, name));
     return texts;
 }

@@ -51,10 +51,11 @@ class RandomUser {
             const bool typed =
                 control->kind == ControlKind::TextField || control->kind == ControlKind::ComboBox;
             if (typed && Below(3) == 0) {
-                acts += "set " + name + " " + AnyText() + "\nreturn " + name + "\n";
+                acts.append("set ").append(name).append(" ").append(AnyText());
+                acts.append("\nreturn ").append(name).append("\n");
             }
             if (control->kind == ControlKind::OptionButton && Below(4) == 0) {
-                acts += "choose " + name + "\n";
+                acts.append("choose ").append(name).append("\n");
             }
         }
         if (Below(2) == 0) acts += "click " + prefix + std::string(window.default_control) + "\n";

@@ -17,7 +17,7 @@ using Words = std::map<std::string, std::string>;  // control and what of it sho
 
 // The cell at the front of a line of the table, which it takes off.
 std::string TakeCell(std::string& line) {
-    const std::string cell = line.substr(0, line.find('\t'));
+    std::string cell = line.substr(0, line.find('\t'));
     line.erase(0, std::min(line.size(), cell.size() + 1));
     return cell;
 }
@@ -29,10 +29,11 @@ Words ExpectedWords(const std::string& tag) {
     EXPECT_EQ(line, "control\tshows\tENG\tDEU");
     Words words;
     while (std::getline(table, line)) {
-        const std::string control = TakeCell(line), shows = TakeCell(line);
+        std::string place = TakeCell(line);
+        place.append(" ").append(TakeCell(line));
         const std::string english = TakeCell(line);
-        EXPECT_TRUE(words.emplace(control + " " + shows, tag == "ENG" ? english : line).second)
-            << control << ' ' << shows << " stands twice";
+        EXPECT_TRUE(words.emplace(place, tag == "ENG" ? english : line).second)
+            << place << " stands twice";
     }
     return words;
 }
