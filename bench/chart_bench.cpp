@@ -84,7 +84,7 @@ void DragOfAThousandMovesInThePlant(benchmark::State& state) {
     form.UserClick("AnlageButt");
     const Mark& mark = form.overlay.PP2;
     form.PointerPress(PointerButton::Left, {mark.left + 6, mark.top + 6});
-    if (!form.Pointer().IsCarried(form.overlay.PP2))
+    if (!form.Pointer().Marks().IsCarried(form.overlay.PP2))
         state.SkipWithError("the mark was not picked up");
     for (auto _ : state) {
         for (int i = 0; i < 1000; ++i) form.PointerMove({450 + 0.2 * i, 90 + 0.05 * i});

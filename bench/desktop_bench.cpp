@@ -102,7 +102,7 @@ void DragOfAMarkInThePlant(benchmark::State& state) {
     ChartWidget& chart = session.window->Chart();
     const QPointF start = chart.ToWidget(session.form.overlay.PP2.state);
     SendMouse(chart, QEvent::MouseButtonPress, start);
-    if (!session.form.Pointer().IsCarried(session.form.overlay.PP2))
+    if (!session.form.Pointer().Marks().IsCarried(session.form.overlay.PP2))
         state.SkipWithError("the mark was not picked up");
     const PaintCounter counter(chart);
     double turn = 0;

@@ -48,7 +48,7 @@ bool ScriptedChart::RunScript(std::string& error) {
 }
 
 bool ScriptedChart::Zoom(const ZoomFrame& zoom, std::string& error) {
-    if (form_.ZoomInto({zoom.left, zoom.top}, zoom.width, zoom.height)) return true;
+    if (form_.Pointer().ZoomInto({zoom.left, zoom.top}, zoom.width, zoom.height)) return true;
     error = "no zoom while the script leaves a mark hanging on the pointer";
     return false;
 }

@@ -18,7 +18,6 @@
 namespace zandrell {
 namespace {
 
-constexpr double kLogoOpacity = 0.55, kLogoTextOpacity = 0.75;
 constexpr int kRefineAfter = 70;  // ms without a step
 constexpr double kZoomOfANotch = 1.2;
 constexpr double kGrabRadiusShare = 1.6;  // of a mark's radius; a hand is not exact
@@ -41,15 +40,6 @@ Qt::CursorShape ShapeOf(PointerShape shape) {
     return Qt::ArrowCursor;
 }
 
-// The logo is drawn for white paper; on a dark ground only its shape is kept.
-QPixmap InOneColour(QPixmap picture, const QColor& ink) {
-    if (picture.isNull()) return picture;
-    QPainter painter(&picture);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(picture.rect(), ink);
-    return picture;
-}
-
 void AddGrown(QRegion& region, const QRectF& rect) {
     region += rect.adjusted(-2, -2, 2, 2).toAlignedRect();
 }
@@ -57,7 +47,7 @@ void AddGrown(QRegion& region, const QRectF& rect) {
 }  // namespace
 
 ChartWidget::ChartWidget(MainForm& form, Pictures& pictures, QWidget* parent)
-    : QWidget(parent), form_(form), pictures_(pictures) {
+    : QWidget(parent), form_(form), picture_(form, pictures) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -87,66 +77,19 @@ CanvasPoint ChartWidget::ToCanvas(QPointF point) const {
     return View().ToCanvas(point * devicePixelRatioF());
 }
 
-void ChartWidget::RenderPicture() {
-    const QSize size = View().Target().size().toSize();
-    // A picture of the right size is painted over: fresh memory costs more than the painting.
-    if (picture_.size() != size) picture_ = QImage(size, QImage::Format_RGB32);
-    picture_.setDevicePixelRatio(1);
-    QPainter painter(&picture_);
-    texts_ = PaintPicture(painter, form_.chart.picture, View());
-    PaintLogo(painter);
-    painter.end();
-    picture_.setDevicePixelRatio(devicePixelRatioF());
-    picture_scale_ = form_.chart.scale;
-    shown_revision_ = form_.chart.picture.Revision();
-}
-
 OverlayDrawing ChartWidget::WantedOverlay() const {
-    return VisibleItems(form_.overlay, View(), *texts_);
-}
-
-void ChartWidget::PaintLogo(QPainter& painter) const {
-    const auto& controls = form_.chart.controls;
-    const auto& logo = controls.Picture1;
-    painter.setOpacity(kLogoOpacity);
-    const int ground = form_.chart.picture.Background();
-    const QColor ink = ShadeFor(form_.chart.picture.Foreground(), StrokeRole::Text, ground).colour;
-    QPixmap picture = pictures_.OnGround(logo.picture);
-    if (IsDarkGround(ground)) picture = InOneColour(picture, ink);
-    if (logo.visible && !picture.isNull()) {
-        const QPointF corner = View().ToDevice({logo.left, logo.top});
-        const QPointF end = View().ToDevice({logo.left + logo.width, logo.top + logo.height});
-        const QSizeF room(end.x() - corner.x(), end.y() - corner.y());
-        const QSizeF size = QSizeF(picture.size()).scaled(room, Qt::KeepAspectRatio);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        const QPointF place = corner + QPointF(0, room.height() - size.height());
-        painter.drawPixmap(QRectF(place, size), picture, QRectF(picture.rect()));
-    }
-    const auto& line = controls.Label27;
-    if (line.visible) {
-        QFont font = View().Font();
-        font.setPixelSize(std::max(8, font.pixelSize() * 5 / 6));
-        painter.setFont(font);
-        painter.setPen(ink);
-        painter.setOpacity(kLogoTextOpacity);
-        const QString text = ShownText(line.text);
-        const double width = QFontMetricsF(font).horizontalAdvance(text);
-        QPointF place = View().ToDevice({line.left, line.top}) + QPointF(0, font.pixelSize());
-        place.setX(std::min(place.x(), View().Target().right() - width - font.pixelSize()));
-        painter.drawText(place, text);
-    }
-    painter.setOpacity(1);
+    return VisibleItems(form_.overlay, View(), picture_.Texts());
 }
 
 void ChartWidget::Sync() {
-    const bool resized = picture_.size() != View().Target().size().toSize();
+    const bool resized = !picture_.HasSizeOf(View());
     if (refine_.isActive() && !resized) {
         shown_overlay_ = WantedOverlay();
         shown_frames_ = FramesOfForm();
         update();
-    } else if (resized || shown_revision_ != form_.chart.picture.Revision()) {
+    } else if (resized || picture_.Revision() != form_.chart.picture.Revision()) {
         view_.reset();
-        RenderPicture();
+        picture_.Render(View(), devicePixelRatioF());
         shown_overlay_ = WantedOverlay();
         shown_frames_ = FramesOfForm();
         update();
@@ -228,7 +171,7 @@ void ChartWidget::SyncFrames() {
 void ChartWidget::SyncPointer() {
     Qt::CursorShape wanted = ShapeOf(form_.Pointer().MousePointer());
     if (pointer_place_ && MarkUnder(*pointer_place_) != nullptr) wanted = Qt::OpenHandCursor;
-    if (panning_ || form_.Pointer().CarriesAny()) wanted = Qt::ClosedHandCursor;
+    if (panning_ || form_.Pointer().Marks().CarriesAny()) wanted = Qt::ClosedHandCursor;
     if (shown_pointer_ == wanted) return;
     shown_pointer_ = wanted;
     setCursor(wanted);
@@ -236,25 +179,22 @@ void ChartWidget::SyncPointer() {
 
 void ChartWidget::paintEvent(QPaintEvent* event) {
     // The window has come to a screen of another density.
-    if (picture_.devicePixelRatio() != devicePixelRatioF()) {
+    if (!picture_.IsOfDensity(devicePixelRatioF())) {
         view_.reset();
-        RenderPicture();
+        picture_.Render(View(), devicePixelRatioF());
         shown_overlay_ = WantedOverlay();
     }
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    if (refine_.isActive()) {
-        const QColor ground = ShadeFor(form_.chart.picture.Background(), StrokeRole::Ground,
-                                       form_.chart.picture.Background())
-                                  .colour;
-        painter.fillRect(rect(), ground);
-        painter.setTransform(FromPicture());
-        painter.drawImage(QPointF(0, 0), picture_);
-        painter.resetTransform();
-    } else {
-        painter.drawImage(QPointF(0, 0), picture_);
-    }
     const double density = devicePixelRatioF();
+    if (refine_.isActive()) {
+        painter.save();
+        painter.scale(1 / density, 1 / density);
+        picture_.DrawMoved(painter, View());
+        painter.restore();
+    } else {
+        picture_.Draw(painter);
+    }
     painter.save();
     painter.scale(1 / density, 1 / density);
     PaintOverlay(painter, shown_overlay_, View(), form_.chart.picture.Background());
@@ -303,7 +243,7 @@ void ChartWidget::mousePressEvent(QMouseEvent* event) {
     if (IsDragging()) return;
     if (event->button() == Qt::MiddleButton) {
         panning_ = true;
-        perform([&] { form_.GrabChart(ToCanvas(event->position())); });
+        perform([&] { form_.Pointer().GrabChart(ToCanvas(event->position())); });
         return;
     }
     const bool right = event->button() == Qt::RightButton;
@@ -317,7 +257,7 @@ void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
     const CanvasPoint place = ToCanvas(event->position());
     pointer_place_ = event->position();
     if (panning_ && !IsDragging()) {
-        ShowMoved([&] { form_.DragChart(place); });
+        ShowMoved([&] { form_.Pointer().DragChart(place); });
         return;
     }
     perform([&] {
@@ -349,7 +289,7 @@ void ChartWidget::wheelEvent(QWheelEvent* event) {
     const double notches = event->angleDelta().y() / 120.0;
     if (notches == 0 || IsDragging()) return;
     const CanvasPoint place = ToCanvas(event->position());
-    ShowMoved([&] { form_.ZoomAround(place, std::pow(kZoomOfANotch, notches)); });
+    ShowMoved([&] { form_.Pointer().ZoomAround(place, std::pow(kZoomOfANotch, notches)); });
 }
 
 void ChartWidget::leaveEvent(QEvent*) { pointer_place_.reset(); }
@@ -360,25 +300,7 @@ void ChartWidget::ShowMoved(const std::function<void()>& move) {
     const int before = form_.chart.picture.Revision();
     refine_.start();
     perform(move);
-    if (form_.chart.picture.Revision() == before && shown_revision_ == before) refine_.stop();
-}
-
-// From the kept picture to where what it shows lies by now.
-QTransform ChartWidget::FromPicture() const {
-    const auto place = [this](const ChartScale& scale, double x, double t) {
-        return ToWidget(scale.PointOf(x, t));
-    };
-    const ChartScale& scale = form_.chart.scale;
-    const QPointF old_origin = place(picture_scale_, 0, 0), origin = place(scale, 0, 0);
-    const QPointF old_unit = place(picture_scale_, 1, 1) - old_origin;
-    const QPointF unit = place(scale, 1, 1) - origin;
-    const double across = unit.x() / old_unit.x(), along = unit.y() / old_unit.y();
-    return {across,
-            0,
-            0,
-            along,
-            origin.x() - across * old_origin.x(),
-            origin.y() - along * old_origin.y()};
+    if (form_.chart.picture.Revision() == before && picture_.Revision() == before) refine_.stop();
 }
 
 // The second press of a quick pair is a press like any other.

@@ -1,17 +1,12 @@
 #pragma once
 
-#include <QImage>
 #include <QRegion>
 #include <QTimer>
-#include <QTransform>
 #include <QWidget>
 #include <functional>
 #include <optional>
 
-#include "desktop/pictures.h"
-#include "painter/chart_drawing.h"
-#include "painter/chart_view.h"
-#include "shell/main_form.h"
+#include "desktop/kept_picture.h"
 
 namespace zandrell {
 
@@ -60,8 +55,6 @@ class ChartWidget : public QWidget {
 
     const ChartView& View() const;
     OverlayDrawing WantedOverlay() const;
-    void RenderPicture();
-    void PaintLogo(QPainter& painter) const;
     void PaintFrames(QPainter& painter) const;
     void SyncOverlay();
     void SyncFrames();
@@ -70,18 +63,13 @@ class ChartWidget : public QWidget {
     Frames FramesOfForm() const;
     const Mark* MarkUnder(QPointF place) const;
     void ShowMoved(const std::function<void()>& move);
-    QTransform FromPicture() const;
     void UpdateDevice(const std::vector<QRectF>& touched);
     void EndDrag();
 
     MainForm& form_;
-    Pictures& pictures_;
-    QImage picture_;
-    ChartScale picture_scale_;  // that of the kept picture
-    QTimer refine_;             // runs while a moved picture stands for the one to be painted
+    KeptPicture picture_;
+    QTimer refine_;  // runs while a moved picture stands for the one to be painted
     mutable std::optional<ChartView> view_;  // in pixels of the screen
-    std::optional<TextLayout> texts_;        // of the kept picture
-    int shown_revision_ = -1;
     OverlayDrawing shown_overlay_;
     Frames shown_frames_;
     Qt::CursorShape shown_pointer_ = Qt::ArrowCursor;

@@ -224,7 +224,7 @@ void MainWindow::FollowPanels() {
 bool MainWindow::Escape() {
     if (form_.controls.Shape3.visible) return false;
     if (form_.chart.controls.ZoomShape.visible) {
-        mirror_.Perform([this] { form_.DropFrame(); });
+        mirror_.Perform([this] { form_.Pointer().DropFrame(); });
         return true;
     }
     FloatingPanel* open = OpenPanel();

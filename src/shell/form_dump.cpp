@@ -21,7 +21,7 @@ Json Number(Enumeration value) {
 }
 
 Json Carried(const MainForm& main, const Mark& mark) {
-    return main.Pointer().IsCarried(mark) ? 1 : 0;
+    return main.Pointer().Marks().IsCarried(mark) ? 1 : 0;
 }
 
 // Of the process: a window that browses folders moves it.

@@ -1,6 +1,6 @@
-#include <filesystem>
-#include <string>
-#include <vector>
+#include "shell/main_acts.h"
+
+#include <utility>
 
 #include "shell/help_in_hand.h"
 #include "shell/main_form.h"
@@ -8,155 +8,131 @@
 namespace zandrell {
 namespace {
 
-// An access key is marked by "&", so that one in a name stands twice.
-std::string MenuText(const std::string& text) {
-    std::string marked;
-    for (const char c : text) marked += c == '&' ? std::string("&&") : std::string(1, c);
-    return marked;
-}
-
-void ShowRecentProjects(MainControls& controls, const std::vector<std::filesystem::path>& paths) {
-    for (std::size_t i = 0; i < controls.recent_entries.size(); ++i) {
-        MenuEntry& entry = controls.recent_entries[i];
-        entry.visible = entry.enabled = i < paths.size();
-        entry.text.clear();
-        if (!entry.visible) continue;
-        entry.text = "&" + std::to_string(i + 1) + " " + MenuText(paths[i].filename().string()) +
-                     "  (" + MenuText(paths[i].parent_path().string()) + ")";
-    }
-    controls.Recent.enabled = !paths.empty();
-}
-
-}  // namespace
-
-void MainForm::BindActs() {
-    processes.BindActs(acts);
-    BindToolActs();
-    BindMenuActs();
-    BindPanelActs();
-    BindProjectActs();
-    BindPrintingActs();
-    BindHelpActs();
-}
-
-void MainForm::BindToolActs() {
-    const auto on_tool = [this](const ToolButton& button, const ActTable::Handler& handler) {
-        acts.Add(button.picture.name, ActKind::Click, handler);
-        acts.Add(button.caption.name, ActKind::Click, handler);
+void BindToolActs(MainForm& main) {
+    MainControls& controls = main.controls;
+    const auto on_tool = [&main](const ToolButton& button, const ActTable::Handler& handler) {
+        main.acts.Add(button.picture.name, ActKind::Click, handler);
+        main.acts.Add(button.caption.name, ActKind::Click, handler);
     };
-    const auto open_and_calculate = [this](Calculation mode) {
-        if (pointer_.PanelZustand() == PointerOwner::PointPanel) return;
-        panels_.OpenPointPanel(mode, true);
+    const auto open_and_calculate = [&main](Calculation mode) {
+        if (main.Pointer().PanelZustand() == PointerOwner::PointPanel) return;
+        main.Panels().OpenPointPanel(mode, true);
     };
-    on_tool(controls.optButt, [this] { OpenOptions(); });
+    on_tool(controls.optButt, [&main] { main.OpenOptions(); });
     on_tool(controls.ZAButt, [=] { open_and_calculate(Calculation::StateChange); });
     on_tool(controls.MischButt, [=] { open_and_calculate(Calculation::Mixing); });
-    on_tool(controls.BearButt, [this] { panels_.OpenTool(Calculation::Capacity); });
-    on_tool(controls.AnlageButt, [this] { panels_.AnlageOeffnen(); });
+    on_tool(controls.BearButt, [&main] { main.Panels().OpenTool(Calculation::Capacity); });
+    on_tool(controls.AnlageButt, [&main] { main.Panels().AnlageOeffnen(); });
     // A click is a press and a release on the button, or a key: one save for either.
-    on_tool(controls.PSButt, [this] { projects_.QuickSave(); });
-    on_tool(controls.PLbutt, [this] { projects_.QuickLoad(); });
-    acts.Add(controls.ZOOMMIN.name, ActKind::Click, [this] { pointer_.ZoomOut(); });
-    acts.Add(controls.Command3D7.name, ActKind::Release, [this] { ende_qv(); });
-    acts.Add(controls.Command3D2.name, ActKind::Release, [this] { ExitWithoutSaving(); });
+    on_tool(controls.PSButt, [&main] { main.Projects().QuickSave(); });
+    on_tool(controls.PLbutt, [&main] { main.Projects().QuickLoad(); });
+    main.acts.Add(controls.ZOOMMIN.name, ActKind::Click, [&main] { main.Pointer().ZoomOut(); });
+    main.acts.Add(controls.Command3D7.name, ActKind::Release, [&main] { main.ende_qv(); });
+    main.acts.Add(controls.Command3D2.name, ActKind::Release,
+                  [&main] { main.ExitWithoutSaving(); });
 }
 
-void MainForm::BindMenuActs() {
-    const auto on_menu = [this](const MenuEntry& entry, const ActTable::Handler& handler) {
-        acts.Add(entry.name, ActKind::Click, handler);
+void BindMenuActs(MainForm& main) {
+    MainControls& controls = main.controls;
+    const auto on_menu = [&main](const MenuEntry& entry, const ActTable::Handler& handler) {
+        main.acts.Add(entry.name, ActKind::Click, handler);
     };
-    const auto opens = [this](Calculation mode) {
-        return [this, mode] { panels_.OpenPointPanel(mode, false); };
+    const auto opens = [&main](Calculation mode) {
+        return [&main, mode] { main.Panels().OpenPointPanel(mode, false); };
     };
-    const auto opens_tool = [this](Calculation mode) {
-        return [this, mode] { panels_.OpenTool(mode); };
+    const auto opens_tool = [&main](Calculation mode) {
+        return [&main, mode] { main.Panels().OpenTool(mode); };
     };
-    on_menu(controls.Ende, [this] { ende_qv(); });
-    on_menu(controls.qveinst, [this] { OpenOptions(); });
-    on_menu(controls.wrgEinst, [this] { AuswahlOeffnen(); });
+    on_menu(controls.Ende, [&main] { main.ende_qv(); });
+    on_menu(controls.qveinst, [&main] { main.OpenOptions(); });
+    on_menu(controls.wrgEinst, [&main] { main.AuswahlOeffnen(); });
     on_menu(controls.ZustAe, opens(Calculation::StateChange));
     on_menu(controls.Misch, opens(Calculation::Mixing));
     on_menu(controls.Kleis, opens(Calculation::Capacity));
-    on_menu(controls.AnlageS, [this] { panels_.AnlageOeffnen(); });
+    on_menu(controls.AnlageS, [&main] { main.Panels().AnlageOeffnen(); });
     on_menu(controls.Kuehl_start, opens_tool(Calculation::Cooler));
     on_menu(controls.Heiz_start, opens_tool(Calculation::Heater));
     on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
     on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
-    on_menu(controls.kopieren, [this] { user_.CopyChart(); });
-    on_menu(controls.Hsich, [this] { projects_.QuickSave(); });
-    on_menu(controls.Hlad, [this] { projects_.QuickLoad(); });
+    on_menu(controls.kopieren, [&main] { main.User().CopyChart(); });
+    on_menu(controls.Hsich, [&main] { main.Projects().QuickSave(); });
+    on_menu(controls.Hlad, [&main] { main.Projects().QuickLoad(); });
 }
 
-void MainForm::BindProjectActs() {
-    const auto on = [this](const Control& control, ActKind kind, const ActTable::Handler& handler) {
-        acts.Add(control.name, kind, handler);
+void BindProjectActs(MainForm& main) {
+    MainControls& controls = main.controls;
+    const auto on = [&main](const Control& control, ActKind kind,
+                            const ActTable::Handler& handler) {
+        main.acts.Add(control.name, kind, handler);
     };
-    on(controls.NeuPro, ActKind::Click, [this] { projects_.NewProject(); });
-    on(controls.ProLad, ActKind::Click, [this] { projects_.LoadProject(); });
-    on(controls.ProSpeich, ActKind::Click, [this] { projects_.SaveProject(); });
-    on(controls.ProSpeichU, ActKind::Click, [this] { projects_.SaveProjectUnder(); });
-    on(controls.PrevState, ActKind::Click, [this] { projects_.RestorePrevious(); });
+    on(controls.NeuPro, ActKind::Click, [&main] { main.Projects().NewProject(); });
+    on(controls.ProLad, ActKind::Click, [&main] { main.Projects().LoadProject(); });
+    on(controls.ProSpeich, ActKind::Click, [&main] { main.Projects().SaveProject(); });
+    on(controls.ProSpeichU, ActKind::Click, [&main] { main.Projects().SaveProjectUnder(); });
+    on(controls.PrevState, ActKind::Click, [&main] { main.Projects().RestorePrevious(); });
     for (std::size_t i = 0; i < controls.recent_entries.size(); ++i) {
-        on(controls.recent_entries[i], ActKind::Click, [this, i] { projects_.OpenRecent(i); });
+        on(controls.recent_entries[i], ActKind::Click,
+           [&main, i] { main.Projects().OpenRecent(i); });
     }
     for (const TextField* field : {&controls.Proj_T, &controls.Schr_T}) {
-        on(*field, ActKind::Change, [this] { inputs_.TakeProjectTexts(); });
+        on(*field, ActKind::Change, [&main] { main.Inputs().TakeProjectTexts(); });
     }
-    on(controls.Undo, ActKind::Click, [this] { undo_.Undo(); });
-    on(controls.Redo, ActKind::Click, [this] { undo_.Redo(); });
+    on(controls.Undo, ActKind::Click, [&main] { main.Undo().Undo(); });
+    on(controls.Redo, ActKind::Click, [&main] { main.Undo().Redo(); });
 }
 
-void MainForm::OpenProject(const std::filesystem::path& path) {
-    projects_.OpenProject(path);
-    FollowAct({}, ActKind::Click);
-}
-
-void MainForm::FollowAct(std::string_view control, ActKind kind) {
-    undo_.Note(control, kind);
-    controls.Undo.enabled = undo_.CanUndo();
-    controls.Redo.enabled = undo_.CanRedo();
-    controls.PrevState.enabled = projects_.keeper.HasPrevious();
-    modified = projects_.store.IsModified();
-    ShowRecentProjects(controls, projects_.store.recent.Paths());
-}
-
-void MainForm::BindPanelActs() {
-    auto& point = processes.point;
-    auto& plant = processes.plant;
-    acts.Add(point.wrgButt.name, ActKind::Click, [this] { AuswahlOeffnen(); });
+void BindPanelActs(MainForm& main) {
+    auto& point = main.processes.point;
+    auto& plant = main.processes.plant;
+    main.acts.Add(point.wrgButt.name, ActKind::Click, [&main] { main.AuswahlOeffnen(); });
     for (const Button* button : {&point.Command3D4, &point.abbcom, &point.Picture3}) {
-        acts.Add(button->name, ActKind::Click,
-                 [this] { panels_.Close(processes.point.Anlage1PN); });
+        main.acts.Add(button->name, ActKind::Click,
+                      [&main] { main.Panels().Close(main.processes.point.Anlage1PN); });
     }
     for (const Button* button : {&plant.AnlageAbButt, &plant.AnlageAbButt_l, &plant.Command3D6,
                                  &plant.Command3D6_l, &plant.Picture12}) {
-        acts.Add(button->name, ActKind::Click, [this] { panels_.Close(processes.plant.Frame1); });
+        main.acts.Add(button->name, ActKind::Click,
+                      [&main] { main.Panels().Close(main.processes.plant.Frame1); });
     }
 }
 
-void MainForm::BindPrintingActs() {
+void BindPrintingActs(MainForm& main) {
+    MainControls& controls = main.controls;
     for (const Button* button :
          {&controls.druckbutt.picture, &controls.druckbutt.caption, &controls.mPributt_2}) {
-        acts.Add(button->name, ActKind::Click, [this] { Print(); });
+        main.acts.Add(button->name, ActKind::Click, [&main] { main.Print(); });
     }
-    acts.Add(controls.mPributt.name, ActKind::Release, [this] { Print(); });
-    acts.Add(controls.PrinterSetup.name, ActKind::Click, [this] { printing.OpenPrinterDialog(); });
-    acts.Add(controls.PrintPreview.name, ActKind::Click, [this] {
-        printing.ShowPreview();
-        SetTitle();
-    });
+    main.acts.Add(controls.mPributt.name, ActKind::Release, [&main] { main.Print(); });
+    main.acts.Add(controls.PrinterSetup.name, ActKind::Click,
+                  [&main] { main.printing.OpenPrinterDialog(); });
+    main.acts.Add(controls.PrintPreview.name, ActKind::Click, [&main] { main.ShowPreview(); });
 }
 
-void MainForm::BindHelpActs() {
-    acts.Add(controls.HelpHere.name, ActKind::Click, [this] { OpenHelp(TopicInHand(*this, {})); });
+void BindHelpActs(MainForm& main) {
+    MainControls& controls = main.controls;
+    main.acts.Add(controls.HelpHere.name, ActKind::Click,
+                  [&main] { main.OpenHelp(TopicInHand(main, {})); });
     for (const auto& [entry, topic] : {std::pair{&controls.HelpSoftware, HelpTopic::Software},
                                        {&controls.HelpChart, HelpTopic::ChartAndReadOut},
                                        {&controls.HelpAirTreatment, HelpTopic::AirTreatment},
                                        {&controls.HelpProject, HelpTopic::ProjectData},
                                        {&controls.HelpValues, HelpTopic::SetOfValues},
                                        {&controls.HelpSettings, HelpTopic::Settings}}) {
-        acts.Add(entry->name, ActKind::Click, [this, topic = topic] { OpenHelp(topic); });
+        main.acts.Add(entry->name, ActKind::Click,
+                      [&main, topic = topic] { main.OpenHelp(topic); });
     }
+}
+
+}  // namespace
+
+void BindActs(MainForm& main) {
+    main.processes.BindActs(main.acts);
+    BindToolActs(main);
+    BindMenuActs(main);
+    BindPanelActs(main);
+    BindProjectActs(main);
+    BindPrintingActs(main);
+    BindHelpActs(main);
 }
 
 }  // namespace zandrell

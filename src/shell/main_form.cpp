@@ -4,6 +4,7 @@
 #include "projects/project_kind.h"
 #include "projects/temperature_lines.h"
 #include "shell/form_dump.h"
+#include "shell/main_acts.h"
 #include "shell/main_captions.h"
 
 namespace zandrell {
@@ -11,6 +12,25 @@ namespace {
 
 constexpr int kClosingPause =
     50;  // ms; the suite's modules leave each other time to let go of files
+
+// An access key is marked by "&", so that one in a name stands twice.
+std::string MenuText(const std::string& text) {
+    std::string marked;
+    for (const char c : text) marked += c == '&' ? std::string("&&") : std::string(1, c);
+    return marked;
+}
+
+void ShowRecentProjects(MainControls& controls, const std::vector<std::filesystem::path>& paths) {
+    for (std::size_t i = 0; i < controls.recent_entries.size(); ++i) {
+        MenuEntry& entry = controls.recent_entries[i];
+        entry.visible = entry.enabled = i < paths.size();
+        entry.text.clear();
+        if (!entry.visible) continue;
+        entry.text = "&" + std::to_string(i + 1) + " " + MenuText(paths[i].filename().string()) +
+                     "  (" + MenuText(paths[i].parent_path().string()) + ")";
+    }
+    controls.Recent.enabled = !paths.empty();
+}
 
 }  // namespace
 
@@ -40,21 +60,17 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
              [this] { Activate(); }}) {
     printing.after_printing = [this] { PaintAgain(); };
     printing.setup.choose_logo = [this] { projects_.OpenDialog(shared.DialogMode); };
-    ListControls();
-    BindActs();
-    chart.additions = [this](Canvas& canvas) {
-        if (!KindOf(shared.ProjektArt).temperature_lines) return;
-        DrawTemperatureLines(projects_.keeper.Lines(), chart.scale, solver, canvas);
-    };
-    after_act = [this](std::string_view control, ActKind kind) { FollowAct(control, kind); };
-}
-
-void MainForm::ListControls() {
     controls.ListControls(form);
     read_out.ListControls(form);
     chart.controls.ListControls(form);
     processes.ListControls(form);
     overlay.ListControls(form);
+    BindActs(*this);
+    chart.additions = [this](Canvas& canvas) {
+        if (!KindOf(shared.ProjektArt).temperature_lines) return;
+        DrawTemperatureLines(projects_.keeper.Lines(), chart.scale, solver, canvas);
+    };
+    after_act = [this](std::string_view control, ActKind kind) { FollowAct(control, kind); };
 }
 
 void MainForm::Load() {
@@ -162,6 +178,11 @@ void MainForm::PaintAgain() {
     SetTitle();
 }
 
+void MainForm::ShowPreview() {
+    printing.ShowPreview();
+    SetTitle();
+}
+
 void MainForm::OpenHelp(HelpTopic topic) {
     shared.DateText = TopicText(topic, shared, captions);
     help.ShowHelp();
@@ -179,6 +200,20 @@ void MainForm::AuswahlOeffnen() {
             ParsedNumber(heater.substr(0, heater.size() < 2 ? 0 : heater.size() - 2));
         shared.AuswahlLuftstrom = ParsedNumber(processes.plant.vhAnlage.text);
     }
+}
+
+void MainForm::OpenProject(const std::filesystem::path& path) {
+    projects_.OpenProject(path);
+    FollowAct({}, ActKind::Click);
+}
+
+void MainForm::FollowAct(std::string_view control, ActKind kind) {
+    undo_.Note(control, kind);
+    controls.Undo.enabled = undo_.CanUndo();
+    controls.Redo.enabled = undo_.CanRedo();
+    controls.PrevState.enabled = projects_.keeper.HasPrevious();
+    modified = projects_.store.IsModified();
+    ShowRecentProjects(controls, projects_.store.recent.Paths());
 }
 
 void MainForm::SetTitle() {

@@ -53,21 +53,22 @@ class MainForm : public WindowForm {
     void PointerPress(PointerButton button, CanvasPoint place);
     void PointerMove(CanvasPoint place);
     void PointerRelease(PointerButton button);
-    // Escape on the chart.
-    void DropFrame() { pointer_.DropFrame(); }
-    bool ZoomInto(CanvasPoint corner, double width, double height) {
-        return pointer_.ZoomInto(corner, width, height);
-    }
-    bool ZoomAround(CanvasPoint place, double factor) { return pointer_.ZoomAround(place, factor); }
-    void GrabChart(CanvasPoint place) { pointer_.GrabChart(place); }
-    void DragChart(CanvasPoint place) { pointer_.DragChart(place); }
-    const PointerMachine& Pointer() const { return pointer_; }
 
+    const PointerMachine& Pointer() const { return pointer_; }
+    PointerMachine& Pointer() { return pointer_; }
     PanelKeeper& Panels() { return panels_; }
     ProjectDesk& Projects() { return projects_; }
+    InputKeeper& Inputs() { return inputs_; }
+    UndoKeeper& Undo() { return undo_; }
     // A project that a file manager names.
     void OpenProject(const std::filesystem::path& path);
 
+    void OpenOptions();
+    // The print setup, and the print-out when it is confirmed.
+    void Print();
+    void ShowPreview();
+    // Notes duty and air flow of the process for the selection of a component.
+    void AuswahlOeffnen();
     // Shows a topic of the help over whatever window is open.
     void OpenHelp(HelpTopic topic);
 
@@ -79,22 +80,12 @@ class MainForm : public WindowForm {
     void ExitWithoutSaving();
 
     const DataFiles& Files() const { return files_; }
+    UserInterface& User() { return user_; }
 
   private:
-    void ListControls();
-    void BindActs();
-    void BindToolActs();
-    void BindMenuActs();
-    void BindPanelActs();
-    void BindProjectActs();
     void FollowAct(std::string_view control, ActKind kind);
-    void BindPrintingActs();
-    void BindHelpActs();
     void SetTitle();
-    void OpenOptions();
-    void Print();
     void PaintAgain();
-    void AuswahlOeffnen();
     void CloseWindow();
 
     UserInterface& user_;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <array>
 #include <optional>
 #include <vector>
 
 #include "chart/chart_engine.h"
 #include "processes/process_panels.h"
+#include "shell/mark_carrier.h"
 
 namespace zandrell {
 
@@ -37,8 +37,7 @@ class PointerMachine {
 
     PointerOwner PanelZustand() const { return owner_; }
     PointerShape MousePointer() const { return shape_; }
-    bool IsCarried(const Mark& mark) const;
-    bool CarriesAny() const;
+    const MarkCarrier& Marks() const { return marks_; }
     // The marks that a press can pick up now.
     std::vector<const Mark*> MarksToPickUp() const;
 
@@ -70,33 +69,8 @@ class PointerMachine {
     void SetBusy(bool busy);
 
   private:
-    // A mark that can be carried, and the state that it stands for: in the plant, and for the first
-    // two on the point panel.
-    struct Carrier {
-        Mark& mark;
-        TextField &plant_temperature, &plant_humidity;
-        ScrollBar *plant_temperature_bar, *plant_humidity_bar;
-        TextField *temperature = nullptr, *humidity = nullptr;
-        double* x = nullptr;  // g/kg
-        MarkPlacing placing = MarkPlacing::FromFields;
-        bool carried = false;
-        // As they were when the mark was picked up.
-        std::string former_temperature{}, former_humidity{};
-        double former_x = 0;
-    };
-
     bool IsPanelOpen() const;
     void ReadOut(CanvasPoint place);
-    // The humidity ratio of the state that follows the mark.
-    double& HumidityOf(Carrier& carrier);
-    void LetGo(Carrier& carrier);
-    // Marks that were carried and not dropped go back to where they came from.
-    void PutBack(bool draw);
-    void PickUpMarks(CanvasPoint place);
-    bool DropFirstCarriedMark(CanvasPoint place);
-    void TakeDroppedState(const Carrier& carrier);
-    bool TakeReadOut(TextField& temperature, TextField& humidity);
-    void MoveCarriedMarks(CanvasPoint place);
     void StartFrame(CanvasPoint place);
     void FollowFrame(CanvasPoint place);
     void Show(const ChartScale& scale);
@@ -104,7 +78,6 @@ class PointerMachine {
 
     ChartEngine& chart_;
     StateSolver& solver_;
-    Overlay& overlay_;
     ReadOutPanel& read_out_;
     ProcessPanels& processes_;
     Button& zoom_out_;
@@ -114,7 +87,7 @@ class PointerMachine {
     CanvasPoint frame_anchor_;  // the corner at which a frame was begun
     CanvasPoint grabbed_place_;
     std::optional<ChartScale> grabbed_scale_;  // of the chart when it was grabbed
-    std::array<Carrier, 4> carriers_;
+    MarkCarrier marks_;
 };
 
 }  // namespace zandrell

@@ -83,8 +83,9 @@ void UndoKeeper::Note(std::string_view control, ActKind kind) {
 
 bool UndoKeeper::CarriesMark() const {
     const auto marks = window_.overlay.Marks();
-    return std::any_of(marks.begin(), marks.end(),
-                       [this](const Mark* mark) { return window_.pointer.IsCarried(*mark); });
+    return std::any_of(marks.begin(), marks.end(), [this](const Mark* mark) {
+        return window_.pointer.Marks().IsCarried(*mark);
+    });
 }
 
 void UndoKeeper::Undo() {

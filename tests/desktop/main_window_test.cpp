@@ -90,10 +90,10 @@ TEST_F(MainWindowTest, MarkIsCarriedFromTheRimOfItsRing) {
     const QPointF centre = chart.ToWidget(form_.overlay.PP2.state);
     // Five pixels aside is outside the box of canvas units that the form looks into.
     Mouse(chart, QEvent::MouseButtonPress, centre + QPointF(5, 0));
-    ASSERT_TRUE(form_.Pointer().IsCarried(form_.overlay.PP2));
+    ASSERT_TRUE(form_.Pointer().Marks().IsCarried(form_.overlay.PP2));
     Mouse(chart, QEvent::MouseMove, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
     Mouse(chart, QEvent::MouseButtonPress, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));
-    EXPECT_FALSE(form_.Pointer().IsCarried(form_.overlay.PP2));
+    EXPECT_FALSE(form_.Pointer().Marks().IsCarried(form_.overlay.PP2));
     EXPECT_NEAR(Find<QLineEdit>("Taus")->text().toDouble(), 30, 0.11);
 }
 
@@ -115,7 +115,7 @@ TEST_F(MainWindowTest, ACarriedMarkIsRepaintedWhereItWasAndWhereItComesTo) {
     ChartWidget& chart = window_->Chart();
     const QPointF start = chart.ToWidget(form_.overlay.PP2.state);
     Mouse(chart, QEvent::MouseButtonPress, start);
-    ASSERT_TRUE(form_.Pointer().IsCarried(form_.overlay.PP2));
+    ASSERT_TRUE(form_.Pointer().Marks().IsCarried(form_.overlay.PP2));
     QApplication::processEvents();
     RepaintWatch watch(chart);
     Mouse(chart, QEvent::MouseMove, chart.ToWidget(form_.chart.scale.PointOf(10, 30)));

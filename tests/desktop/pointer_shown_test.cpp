@@ -109,7 +109,7 @@ TEST_F(PointerShown, AMarkIsCarriedOnAChartZoomedByTheWheel) {
     EXPECT_EQ(form_.Pointer().PanelZustand(), PointerOwner::PointPanel);
     EXPECT_LT((chart_.ToWidget(form_.overlay.PP1.state) - place).manhattanLength(), 4);
     Mouse(chart_, QEvent::MouseButtonPress, chart_.ToWidget(form_.overlay.PP1.state));
-    ASSERT_TRUE(form_.Pointer().IsCarried(form_.overlay.PP1));
+    ASSERT_TRUE(form_.Pointer().Marks().IsCarried(form_.overlay.PP1));
     const double scale = form_.chart.scale.MassstabX;
     Wheel(place, 1);
     EXPECT_EQ(form_.chart.scale.MassstabX, scale) << "not while a mark is carried";

@@ -1,0 +1,106 @@
+#include "desktop/kept_picture.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "desktop/form_mirror.h"
+#include "desktop/look.h"
+#include "painter/shades.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kLogoOpacity = 0.55, kLogoTextOpacity = 0.75;
+
+// The logo is drawn for white paper; on a dark ground only its shape is kept.
+QPixmap InOneColour(QPixmap picture, const QColor& ink) {
+    if (picture.isNull()) return picture;
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), ink);
+    return picture;
+}
+
+}  // namespace
+
+void KeptPicture::Render(const ChartView& view, double density) {
+    const QSize size = view.Target().size().toSize();
+    // A picture of the right size is painted over: fresh memory costs more than the painting.
+    if (image_.size() != size) image_ = QImage(size, QImage::Format_RGB32);
+    image_.setDevicePixelRatio(1);
+    QPainter painter(&image_);
+    texts_ = PaintPicture(painter, form_.chart.picture, view);
+    PaintLogo(painter, view);
+    painter.end();
+    image_.setDevicePixelRatio(density);
+    scale_ = form_.chart.scale;
+    revision_ = form_.chart.picture.Revision();
+}
+
+bool KeptPicture::HasSizeOf(const ChartView& view) const {
+    return image_.size() == view.Target().size().toSize();
+}
+
+void KeptPicture::PaintLogo(QPainter& painter, const ChartView& view) const {
+    const auto& controls = form_.chart.controls;
+    const auto& logo = controls.Picture1;
+    painter.setOpacity(kLogoOpacity);
+    const int ground = form_.chart.picture.Background();
+    const QColor ink = ShadeFor(form_.chart.picture.Foreground(), StrokeRole::Text, ground).colour;
+    QPixmap picture = pictures_.OnGround(logo.picture);
+    if (IsDarkGround(ground)) picture = InOneColour(picture, ink);
+    if (logo.visible && !picture.isNull()) {
+        const QPointF corner = view.ToDevice({logo.left, logo.top});
+        const QPointF end = view.ToDevice({logo.left + logo.width, logo.top + logo.height});
+        const QSizeF room(end.x() - corner.x(), end.y() - corner.y());
+        const QSizeF size = QSizeF(picture.size()).scaled(room, Qt::KeepAspectRatio);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        const QPointF place = corner + QPointF(0, room.height() - size.height());
+        painter.drawPixmap(QRectF(place, size), picture, QRectF(picture.rect()));
+    }
+    PaintVersion(painter, view, ink);
+    painter.setOpacity(1);
+}
+
+void KeptPicture::PaintVersion(QPainter& painter, const ChartView& view, const QColor& ink) const {
+    const auto& line = form_.chart.controls.Label27;
+    if (!line.visible) return;
+    QFont font = view.Font();
+    font.setPixelSize(std::max(8, font.pixelSize() * 5 / 6));
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.setOpacity(kLogoTextOpacity);
+    const QString text = ShownText(line.text);
+    const double width = QFontMetricsF(font).horizontalAdvance(text);
+    QPointF place = view.ToDevice({line.left, line.top}) + QPointF(0, font.pixelSize());
+    place.setX(std::min(place.x(), view.Target().right() - width - font.pixelSize()));
+    painter.drawText(place, text);
+}
+
+void KeptPicture::DrawMoved(QPainter& painter, const ChartView& view) const {
+    const int ground = form_.chart.picture.Background();
+    painter.fillRect(view.Target(), ShadeFor(ground, StrokeRole::Ground, ground).colour);
+    const QTransform before = painter.transform();
+    painter.setTransform(ToNow(view), true);
+    painter.drawImage(QRectF(view.Target()), image_);
+    painter.setTransform(before);
+}
+
+QTransform KeptPicture::ToNow(const ChartView& view) const {
+    const auto place = [&view](const ChartScale& scale, double x, double t) {
+        return view.ToDevice(scale.PointOf(x, t));
+    };
+    const ChartScale& scale = form_.chart.scale;
+    const QPointF old_origin = place(scale_, 0, 0), origin = place(scale, 0, 0);
+    const QPointF old_unit = place(scale_, 1, 1) - old_origin;
+    const QPointF unit = place(scale, 1, 1) - origin;
+    const double across = unit.x() / old_unit.x(), along = unit.y() / old_unit.y();
+    return {across,
+            0,
+            0,
+            along,
+            origin.x() - across * old_origin.x(),
+            origin.y() - along * old_origin.y()};
+}
+
+}  // namespace zandrell
