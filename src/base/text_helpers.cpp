@@ -1,5 +1,6 @@
 #include "base/text_helpers.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -18,6 +19,10 @@ std::string MakeFileNameSafe(int mode, std::string& text) {
         if (place != std::string::npos) text.erase(place, 1);
     }
     return text;
+}
+
+bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> words) {
+    return std::find(words.begin(), words.end(), text) != words.end();
 }
 
 int OemCharToAnsi(int code) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,9 @@ namespace zandrell {
 // becomes two apostrophes. Any other mode: the first occurrence of each of . , : - & = ! and the
 // blank goes. Only the first one goes, as the suite's other modules derive their names.
 std::string MakeFileNameSafe(int mode, std::string& text);
+
+// Whether `text` is one of a few words, such as the tags of languages that share a wording.
+bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> words);
 
 // A character code of the old DOS code page, as the suite's catalogue files store their names, in
 // the Windows code page. Umlauts, sharp s and the degree sign move, a double quote gives -1, all

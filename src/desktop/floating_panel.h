@@ -65,6 +65,7 @@ class FloatingPanel : public QWidget {
 // A small panel inside another, with its picture in a skin.
 class InnerPanel : public QWidget {
   public:
+    // `panel` and `pictures` outlive the widget.
     InnerPanel(const Panel& panel, Pictures& pictures, QWidget* parent)
         : QWidget(parent), panel_(panel), pictures_(pictures) {}
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/accessible.h"
+#include "desktop/floating_panel.h"
 
 namespace zandrell {
 namespace {
@@ -27,6 +28,17 @@ QLabel* PanelBuilder::Caption(const Control& control, bool heading) {
     if (heading) MakeBold(label);
     mirror_.Bind(label, control);
     return label;
+}
+
+QGridLayout* PanelBuilder::InnerGrid(const Panel& panel, const Control& name, int spacing) {
+    auto* inner = new InnerPanel(panel, mirror_.PictureStore(), parent_);
+    mirror_.BindPanel(inner, panel);
+    mirror_.Describe(inner, name);
+    SetParent(inner);
+    auto* grid = new QGridLayout(inner);
+    grid->setContentsMargins(10, 8, 10, 8);
+    grid->setVerticalSpacing(spacing);
+    return grid;
 }
 
 QLabel* PanelBuilder::Words(const QString& text, const Control& like) {

@@ -21,6 +21,9 @@ class PanelBuilder {
     void SetParent(QWidget* parent) { parent_ = parent; }
 
     QLabel* Caption(const Control& control, bool heading = false);
+    // A part of a panel with a ground of its own, known to readers by `name`; what is made from
+    // now on stands in it.
+    QGridLayout* InnerGrid(const Panel& panel, const Control& name, int spacing);
     // Fixed signs, coloured like a caption.
     QLabel* Words(const QString& text, const Control& like);
     // `caption` names the field for who can not see the layout.

@@ -109,13 +109,8 @@ QHBoxLayout* MakeHumidifierRow(PlantPanel& panel, PanelBuilder& build, QWidget* 
 }
 
 QWidget* MakeResultPanel(PlantPanel& panel, FormMirror& mirror, QWidget* parent) {
-    auto* inner = new InnerPanel(panel.Panel3D10, mirror.PictureStore(), parent);
-    mirror.BindPanel(inner, panel.Panel3D10);
-    mirror.Describe(inner, panel.room_label);
-    PanelBuilder build(mirror, inner);
-    auto* grid = new QGridLayout(inner);
-    grid->setContentsMargins(10, 8, 10, 8);
-    grid->setVerticalSpacing(4);
+    PanelBuilder build(mirror, parent);
+    auto* grid = build.InnerGrid(panel.Panel3D10, panel.room_label, 4);
     grid->addWidget(build.Caption(panel.room_label, true), 0, 0, 1, 2);
     int row = 1;
     for (const auto& [caption, figure] : {std::pair{&panel.room_total_label, &panel.RaumLeist},
@@ -132,7 +127,7 @@ QWidget* MakeResultPanel(PlantPanel& panel, FormMirror& mirror, QWidget* parent)
     }
     grid->setRowStretch(row, 1);
     grid->setColumnStretch(0, 1);
-    return inner;
+    return grid->parentWidget();
 }
 
 QHBoxLayout* MakeFooter(PlantPanel& panel, const MainControls& controls, PanelBuilder& build,

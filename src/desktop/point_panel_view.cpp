@@ -60,13 +60,8 @@ QGridLayout* MakeStateGrid(PointPanel& panel, PanelBuilder& build) {
 }
 
 QWidget* MakeCapacityPanel(PointPanel& panel, FormMirror& mirror, QWidget* parent) {
-    auto* inner = new InnerPanel(panel.Panel3D9, mirror.PictureStore(), parent);
-    mirror.BindPanel(inner, panel.Panel3D9);
-    mirror.Describe(inner, panel.capacity_label);
-    PanelBuilder build(mirror, inner);
-    auto* grid = new QGridLayout(inner);
-    grid->setContentsMargins(10, 8, 10, 8);
-    grid->setVerticalSpacing(3);
+    PanelBuilder build(mirror, parent);
+    auto* grid = build.InnerGrid(panel.Panel3D9, panel.capacity_label, 3);
     grid->addWidget(build.Caption(panel.capacity_label), 0, 0);
     grid->addWidget(build.Field(panel.Kleist, panel.capacity_label), 0, 1);
     auto* volume = build.PictureButton(panel.VolBer, &panel.VolBer_l);
@@ -80,7 +75,7 @@ QWidget* MakeCapacityPanel(PointPanel& panel, FormMirror& mirror, QWidget* paren
         ++row;
     }
     grid->setColumnStretch(0, 1);
-    return inner;
+    return grid->parentWidget();
 }
 
 QHBoxLayout* MakeFooter(PointPanel& panel, PanelBuilder& build, const MenuEntry& heat_recovery) {

@@ -6,11 +6,11 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QString>
 #include <QSvgGenerator>
 
 #include "painter/chart_drawing.h"
+#include "painter/output_file.h"
 
 namespace zandrell {
 namespace {
@@ -99,16 +99,11 @@ bool WriteChartFile(const RecordingCanvas& picture, const Overlay& overlay, cons
         return false;
     }
     const QByteArray bytes = encode(picture, overlay, width, height);
-    QSaveFile file(name);
     if (bytes.isEmpty()) {
         error = path + ": the picture could not be made, it may be too large";
         return false;
     }
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        error = path + ": " + file.errorString().toStdString();
-        return false;
-    }
-    return true;
+    return WriteOutput(bytes, path, error);
 }
 
 }  // namespace zandrell

@@ -4,9 +4,9 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QString>
 
+#include "painter/output_file.h"
 #include "painter/sheet_painter.h"
 
 namespace zandrell {
@@ -47,16 +47,11 @@ QByteArray SheetPdf(const Sheet& sheet) {
 
 bool WriteSheetPdf(const Sheet& sheet, const std::string& path, std::string& error) {
     const QByteArray bytes = SheetPdf(sheet);
-    QSaveFile file(QString::fromStdString(path));
     if (bytes.isEmpty()) {
         error = path + ": the page could not be made";
         return false;
     }
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        error = path + ": " + file.errorString().toStdString();
-        return false;
-    }
-    return true;
+    return WriteOutput(bytes, path, error);
 }
 
 }  // namespace zandrell

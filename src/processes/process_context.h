@@ -25,8 +25,8 @@ struct ProcessFigures {
     double MischX = 0;                                           // g/kg
 };
 
-// What the calculations work on. All of it outlives them.
-struct ProcessContext {
+// What surrounds the calculations. All of it outlives them.
+struct ProcessSurroundings {
     SharedValues& shared;
     const Captions& captions;
     StateSolver& solver;
@@ -34,6 +34,10 @@ struct ProcessContext {
     const ChartScale& scale;
     Overlay& overlay;
     ReadOutPanel& read_out;
+};
+
+// What the calculations work on.
+struct ProcessContext : ProcessSurroundings {
     ProcessFigures& figures;
     const Calculation& Rechenmodus;  // bars and some fields act only in their own modes
 };

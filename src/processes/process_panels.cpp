@@ -1,20 +1,10 @@
 #include "processes/process_panels.h"
 
 namespace zandrell {
-namespace {
 
-ProcessContext ContextOf(const ProcessPanels::Surroundings& around, ProcessFigures& figures,
-                         const Calculation& mode) {
-    return {around.shared,   around.captions, around.solver,
-            around.settings, around.scale,    around.overlay,
-            around.read_out, figures,         mode};
-}
-
-}  // namespace
-
-ProcessPanels::ProcessPanels(const Surroundings& around)
-    : point(ContextOf(around, figures, Rechenmodus)),
-      plant(ContextOf(around, figures, Rechenmodus)),
+ProcessPanels::ProcessPanels(const ProcessSurroundings& around)
+    : point({around, figures, Rechenmodus}),
+      plant({around, figures, Rechenmodus}),
       overlay_(around.overlay) {
     point.Anlage1PN.visible = false;
     plant.Frame1.visible = false;

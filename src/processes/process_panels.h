@@ -11,17 +11,7 @@ namespace zandrell {
 // leaves. One of them, or neither, is in force at a time.
 class ProcessPanels {
   public:
-    // What the calculations work on; all of it outlives the panels.
-    struct Surroundings {
-        SharedValues& shared;
-        const Captions& captions;
-        StateSolver& solver;
-        const ChartSettings& settings;
-        const ChartScale& scale;
-        Overlay& overlay;
-        ReadOutPanel& read_out;
-    };
-    explicit ProcessPanels(const Surroundings& around);
+    explicit ProcessPanels(const ProcessSurroundings& around);
     ProcessPanels(const ProcessPanels&) = delete;
     ProcessPanels& operator=(const ProcessPanels&) = delete;
 

@@ -1,16 +1,9 @@
 #include "projects/project_words.h"
 
-#include <initializer_list>
+#include "base/text_helpers.h"
 
 namespace zandrell {
 namespace {
-
-bool IsOneOf(const std::string& tag, std::initializer_list<const char*> tags) {
-    for (const char* candidate : tags) {
-        if (tag == candidate) return true;
-    }
-    return false;
-}
 
 std::string MessageText(const ProjectContext& context, Caption word, std::string_view english,
                         std::initializer_list<std::string_view> values) {

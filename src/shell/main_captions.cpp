@@ -3,19 +3,13 @@
 #include <string>
 
 #include "base/number_text.h"
+#include "base/text_helpers.h"
 #include "base/unit_texts.h"
 #include "canvas/palette.h"
 #include "shell/main_form.h"
 
 namespace zandrell {
 namespace {
-
-bool IsOneOf(const std::string& tag, std::initializer_list<const char*> tags) {
-    for (const char* candidate : tags) {
-        if (tag == candidate) return true;
-    }
-    return false;
-}
 
 // The entry that loads a project, in the word order of the language.
 std::string LoadProjectEntry(const Captions& words, const std::string& tag) {
