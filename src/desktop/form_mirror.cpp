@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QStringList>
+#include <QStyle>
 #include <QTextDocument>
 #include <algorithm>
 #include <optional>
@@ -29,16 +30,40 @@ ColourRoles RolesOf(const QWidget* widget) {
     return {QPalette::WindowText, QPalette::Base};
 }
 
-void ApplyColours(QWidget* widget, const Control& control) {
+// What a widget shows of its control in colours.
+struct ShownColours {
+    std::optional<int> text, ground;
+    bool stale = false;
+    bool operator==(const ShownColours&) const = default;
+};
+
+bool IsRefused(const Control& control) {
+    return !control.hint.empty() && !control.stale && !control.pending;
+}
+
+ShownColours ColoursOf(const Control& control) {
+    if (IsRefused(control)) return {control.foreground, kLightRed};
+    return {control.foreground, control.background, control.stale};
+}
+
+void ApplyColours(QWidget* widget, const ShownColours& colours) {
     const ColourRoles roles = RolesOf(widget);
     QPalette palette;
-    if (control.foreground) palette.setColor(roles.text, TextColour(*control.foreground));
+    if (colours.text) palette.setColor(roles.text, TextColour(*colours.text));
     // White stands for the ground as designed, whatever the scheme makes of it.
-    if (control.background && *control.background != kWhite) {
-        palette.setColor(roles.ground, GroundColour(*control.background));
+    if (colours.ground && *colours.ground != kWhite) {
+        palette.setColor(roles.ground, GroundColour(*colours.ground));
         palette.setColor(roles.text, ColourOf(LookColour::Ink));
     }
+    // A skin has captions of its own colour, for which there is no paler one.
+    if (colours.stale && !colours.text) {
+        palette.setColor(roles.text, ColourOf(LookColour::MutedInk));
+    }
     widget->setPalette(palette);
+    QFont font = widget->font();
+    if (font.italic() == colours.stale) return;
+    font.setItalic(colours.stale);
+    widget->setFont(font);
 }
 
 QString Utf8(const std::string& text) { return QString::fromStdString(text); }
@@ -58,7 +83,7 @@ QStringList ItemsOf(const QComboBox& box) {
 constexpr int kLongestTip = 300;  // characters
 
 QString TipOf(const QWidget* widget, const Control& control) {
-    QString tip = Utf8(control.tool_tip);
+    QString tip = Utf8(control.hint.empty() ? control.tool_tip : control.hint);
     if (tip.size() > kLongestTip) tip = tip.left(kLongestTip - 1) + QChar(0x2026);
     // A user's text that looks like markup is no markup.
     if (Qt::mightBeRichText(tip)) tip = tip.toHtmlEscaped();
@@ -73,29 +98,31 @@ QString TipOf(const QWidget* widget, const Control& control) {
 QString ShownText(const std::string& text) { return Utf8(text).trimmed(); }
 
 void FormMirror::AddColours(QWidget* widget, const Control& control) {
-    struct Colours {
-        std::optional<int> text, ground;
-        bool operator==(const Colours&) const = default;
-    };
-    writers_.push_back([widget, &control, shown = Colours{}]() mutable {
-        const Colours wanted{control.foreground, control.background};
+    writers_.push_back([widget, &control, shown = ShownColours{}]() mutable {
+        const ShownColours wanted = ColoursOf(control);
         if (wanted == shown) return;
         shown = wanted;
-        ApplyColours(widget, control);
+        ApplyColours(widget, wanted);
     });
 }
 
 void FormMirror::AddCommon(QWidget* widget, const Control& control) {
     widget->setObjectName(
         QString::fromUtf8(control.name.data(), static_cast<qsizetype>(control.name.size())));
-    writers_.push_back([widget, &control] {
+    writers_.push_back([widget, &control, hinted = false]() mutable {
+        hinted = hinted || !control.hint.empty();
         if (widget->isHidden() == control.visible) widget->setVisible(control.visible);
         if (widget->isEnabledTo(widget->parentWidget()) != control.enabled) {
             widget->setEnabled(control.enabled);
         }
         const QString tip = TipOf(widget, control);
-        const bool own = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+        // A tip that the window gave a widget stays as long as the control has none.
+        const bool own = qobject_cast<const QAbstractItemView*>(widget) != nullptr || hinted;
         if ((own || !tip.isEmpty()) && widget->toolTip() != tip) widget->setToolTip(tip);
+        const QString hint = Utf8(control.hint);
+        if (hinted && widget->accessibleDescription() != hint) {
+            widget->setAccessibleDescription(hint);
+        }
     });
 }
 
@@ -138,6 +165,11 @@ void FormMirror::Bind(QLineEdit* field, const TextField& control) {
     });
     QObject::connect(field, &QLineEdit::returnPressed, field,
                      [this, name] { Perform([&] { window_.UserReturn(name); }); });
+    writers_.push_back([field, &control] {
+        if (field->property("pending").toBool() == control.pending) return;
+        field->setProperty("pending", control.pending);
+        field->style()->polish(field);
+    });
     // Writing an equal text would move the cursor.
     writers_.push_back([field, &control] {
         const QString text = Utf8(control.text);

@@ -62,6 +62,7 @@ QLineEdit { border: 1px solid @border; border-radius: 0.267em; padding: 0.133em 
 QLineEdit:disabled { border-color: @disabled-edge; }
 QLineEdit:hover { border-color: @accent; }
 QLineEdit:focus { border: 0.133em solid @accent; padding: 1px 0.333em; }
+QLineEdit[pending="true"] { border-left: 0.333em solid @accent; padding-left: 0.133em; }
 
 QPushButton { border: 1px solid @border; border-radius: 0.4em; padding: 0.333em 0.8em;
               background: @field; }

@@ -38,6 +38,11 @@ struct Control {
     std::string tool_tip;
     bool visible = true;
     bool enabled = true;
+    // What a user has to know of the text: alone why a field's value is not used, with one of the
+    // flags what that flag means.
+    std::string hint;
+    bool stale = false;             // a figure of inputs that have changed since
+    bool pending = false;           // typed and not yet confirmed
     std::optional<int> foreground;  // palette numbers, where the program sets them
     std::optional<int> background;
 };

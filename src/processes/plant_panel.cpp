@@ -13,7 +13,6 @@ namespace {
 constexpr double kMarkSize = 14;  // canvas units
 constexpr std::string_view kPowerUnit = " kW", kWaterUnit = " kg/h";
 static_assert(kPowerUnit.substr(1) == UnitKW);
-constexpr std::string_view kInTheFog = "> 100";  // what the pointer read-out leaves in a field
 
 double ReadHumidity(const TextField& field) {
     return field.text == kInTheFog ? 100 : ParsedNumber(field.text);
@@ -71,19 +70,22 @@ bool PlantPanel::TakeFlowFromShares() {
 }
 
 void PlantPanel::AnlageBerechnen() {
+    replaced_ = nullptr;
+    figures_of_.Forget();
+    if (Compute()) figures_of_.Take(Basis());
+    taken_.Take();
+}
+
+bool PlantPanel::Compute() {
     for (Mark* mark : context_.overlay.Marks()) mark->width = mark->height = kMarkSize;
     PlantRun run;
-    if (!ReadInputs(run.inputs)) return;
-    if (!CorrectHumidities(run)) return;
+    if (!ReadInputs(run.inputs)) return false;
+    if (!CorrectHumidities(run)) return false;
     MoveHumidityBars(run.inputs);
-    if (!MixExhaustAndOutside(run)) return;
-    if (!SupplyTheRoom(run)) return;
-    if (!ChooseTheWay(run)) return;
-    if (run.OhneKuehler) {
-        HeatOnly(run);
-    } else {
-        CoolAndHeat(run);
-    }
+    if (!MixExhaustAndOutside(run)) return false;
+    if (!SupplyTheRoom(run)) return false;
+    if (!ChooseTheWay(run)) return false;
+    return run.OhneKuehler ? HeatOnly(run) : CoolAndHeat(run);
 }
 
 // False when the run is to stop without a word: a negative ratio, a humidity that is not positive.
@@ -193,23 +195,26 @@ void PlantPanel::StartWay(bool without_cooler) {
     AnlageZweig = way;
 }
 
-void PlantPanel::CoolAndHeat(const PlantRun& run) {
+bool PlantPanel::CoolAndHeat(const PlantRun& run) {
     const auto way = CoolerWayOf(context_.solver, run.inputs.steam, run.coil, run.fan_inlet.air);
-    if (!way) return;
+    if (!way) return false;
     StartWay(false);
     Drawing().DrawCoolerWay(run, way->heated);
     Heiz2.text = "0";
     ShowCoolerFigures(run, *way);
+    return true;
 }
 
-void PlantPanel::HeatOnly(const PlantRun& run) {
+bool PlantPanel::HeatOnly(const PlantRun& run) {
     const auto heated = HeaterWayOf(context_.solver, run.inputs.steam, run.mixing.mixed,
                                     run.fan_inlet.air, run.coil.air.h);
-    if (!heated) return;
+    if (!heated) return false;
     StartWay(true);
     Drawing().DrawHeaterWay(run, *heated);
     Heiz2.text = "0";
     ShowHeaterFigures(run, *heated);
+    humidifier_shown_ = true;
+    return true;
 }
 
 // Without need of a humidifier its text keeps what it showed last, and the condensate of the point
@@ -220,6 +225,7 @@ void PlantPanel::ShowCoolerFigures(const PlantRun& run, const CoolerWay& way) {
     const double cooler_kw = Cut(CapacityKw(mL, way.hKaus, coil.x, mixed.h, mixed.x), factor);
     ShowTrimmedNumber(Kuehl, cooler_kw, kPowerUnit);
     if (std::isfinite(cooler_kw)) context_.figures.KuehlLeistText = NumberText(cooler_kw);
+    humidifier_shown_ = way.BefeuchterNoetig;
     if (!way.BefeuchterNoetig) {
         // Counted with the saturation humidity in front of the fan, not with that of the supply:
         // the suite's way of counting per kg of moist air.

@@ -6,16 +6,22 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
+#include "processes/field_notes.h"
 #include "processes/plant.h"
 #include "processes/plant_drawing.h"
 #include "processes/process_context.h"
 
 namespace zandrell {
 
+// What the pointer read-out leaves in a humidity field that a mark was dropped into; counts as 100.
+inline constexpr std::string_view kInTheFog = "> 100";
+
 // The floating panel of the air-handling plant with a room.
 class PlantPanel {
   public:
     explicit PlantPanel(const ProcessContext& context) : context_(context) {}
+    PlantPanel(const PlantPanel&) = delete;  // its records know its fields
+    PlantPanel& operator=(const PlantPanel&) = delete;
 
     Panel Frame1{"Frame1"}, Panel3D10{"Panel3D10"}, Panel3D2{"Panel3D2"};
     Label Label16{"Label16"};  // title line of the panel
@@ -64,6 +70,9 @@ class PlantPanel {
     // and writes the figures. Runs that it starts itself by moving a bar end before it goes on.
     void AnlageBerechnen();
 
+    // Marks the fields that are not used or not confirmed, and the figures of other inputs.
+    void NoteFields();
+
   private:
     // A field, the bar that writes it, and what Return in the field does before the plant is
     // computed; false where that leaves nothing to compute.
@@ -76,6 +85,7 @@ class PlantPanel {
     void BindOption(ActTable& acts, OptionButton& chosen, OptionButton& other);
     bool IsInForce() const { return context_.Rechenmodus == Calculation::Plant; }
 
+    bool Compute();
     bool ReadInputs(PlantInputs& inputs);
     double ReadFanRise(TextField& field);
     bool CorrectHumidities(PlantRun& run);
@@ -85,15 +95,27 @@ class PlantPanel {
     bool SupplyTheRoom(PlantRun& run);
     void ShowRoomLoads(const RoomLoads& loads, double factor);
     bool ChooseTheWay(PlantRun& run);
-    void CoolAndHeat(const PlantRun& run);
-    void HeatOnly(const PlantRun& run);
+    bool CoolAndHeat(const PlantRun& run);
+    bool HeatOnly(const PlantRun& run);
     void StartWay(bool without_cooler);
     void ShowCoolerFigures(const PlantRun& run, const CoolerWay& way);
     void ShowHeaterFigures(const PlantRun& run, const AirPoint& heated);
     void ShowHeaterBehindCooler(double capacity_kw, double factor);
     PlantDrawing Drawing() const;
+    std::string Basis() const;
+    void NoteReplaced(const TextField& field, const std::string& typed);
+    std::optional<Refusal> RefusalOf(const TextField& field) const;
 
     ProcessContext context_;
+    // What the last run took, and what the shown figures rest on.
+    TakenTexts taken_{&vhAnlage,  &aussenAnt, &vhinnen,   &vhaussen, &tabLuft,
+                      &PHIAbluft, &Taus,      &PhiAussen, &TZuluft,  &PHIZuluft,
+                      &tKA,       &phiKanal,  &dtVent1,   &dtVent2};
+    TakenTexts figures_of_ = taken_;
+    bool humidifier_shown_ = false;  // its figure is of the last run
+    // A field whose typed value the last run replaced, and why.
+    const TextField* replaced_ = nullptr;
+    Refusal replaced_by_{};
 };
 
 }  // namespace zandrell

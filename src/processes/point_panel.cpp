@@ -68,6 +68,7 @@ void PointPanel::ShowForMode(Calculation mode) {
     relF2.background
         .reset();  // the red of an impossible humidity belongs to the tool that was left
     TakeBarRanges();
+    taken_.Take();
     Anlage1PN.visible = true;
 }
 
@@ -104,6 +105,14 @@ bool PointPanel::WithinChart(const Inputs& inputs) const {
 
 void PointPanel::ZustandRechnen(Calculation mode, MarkPlacing marke) {
     context_.shared.ZurueckVomDialog = DialogEcho::Expected;
+    capacity_refused_ = false;
+    states_of_.Forget();
+    outcome_of_.Forget();
+    Compute(mode, marke);
+    taken_.Take();
+}
+
+void PointPanel::Compute(Calculation mode, MarkPlacing marke) {
     Inputs inputs = ReadInputs();
     bool states_known = IsTool(mode) ? EvaluateGivenState(mode, inputs) : EvaluateStates(inputs);
     if (IsTool(mode)) {
@@ -115,6 +124,7 @@ void PointPanel::ZustandRechnen(Calculation mode, MarkPlacing marke) {
     MarkenSetzen(mode, marke);
     ShowBothMarks();
     if (!states_known) return;
+    states_of_.Take(Basis(mode));
     if (mode == Calculation::Mixing) ShowMixture(mode, inputs);
     if (HasCapacity(mode)) ShowCapacity(mode, inputs);
 }
@@ -219,6 +229,7 @@ void PointPanel::ShowMixture(Calculation mode, const Inputs& inputs) {
     ShowNumber(relFM, Cut(mixture.rel_percent, 100));
     ShowNumber(absFM, Cut(mixture.MischX, 100));
     MarkenSetzen(mode, MarkPlacing::WithMixture);
+    outcome_of_.Take(Basis(mode));
 }
 
 void PointPanel::ShowCapacity(Calculation mode, const Inputs& inputs) {
@@ -248,6 +259,7 @@ void PointPanel::ShowCapacity(Calculation mode, const Inputs& inputs) {
     // has its own.
     AssignFinite(figures.KondensatWasser, Cut(water_kg_per_h, decimals.capacity));
     figures.KuehlLeistText = Kleist.text;
+    outcome_of_.Take(Basis(mode));
 }
 
 void PointPanel::ShowBothMarks() {
@@ -343,10 +355,12 @@ void PointPanel::VolumeFromCapacity(Calculation mode) {
     const double wanted_kw = ParsedNumber(Kleist.text);
     const bool possible = VolStrm_rech(mode);
     ZustandRechnen(mode, MarkPlacing::FromFields);
+    capacity_refused_ = !possible;
     if (!possible) return;  // the figures are those of the flow that stays
     double scale = 0;
     AssignFinite(scale, ParsedNumber(Kleist.text) / wanted_kw);
     Kleist.text = TrimmedNumberText(wanted_kw);
+    taken_.Take();
     ShowNumber(KLatent, std::floor(100 * ParsedNumber(KLatent.text) / scale) / 100);
     ShowNumber(Ksensibel, std::floor(100 * ParsedNumber(Ksensibel.text) / scale) / 100);
 }

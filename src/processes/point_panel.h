@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
 #include "processes/air_point.h"
+#include "processes/field_notes.h"
 #include "processes/process_context.h"
 
 namespace zandrell {
@@ -15,6 +16,8 @@ namespace zandrell {
 class PointPanel {
   public:
     explicit PointPanel(const ProcessContext& context) : context_(context) {}
+    PointPanel(const PointPanel&) = delete;  // its records know its fields
+    PointPanel& operator=(const PointPanel&) = delete;
 
     Panel Anlage1PN{"Anlage1PN"}, Panel3D9{"Panel3D9"};
     Label Label33{"Label33"}, Label35{"Label35"}, Label36{"Label36"}, label37{"label37"},
@@ -65,6 +68,9 @@ class PointPanel {
     // The same with the rounding of the flow taken out of the three capacities again.
     void VolumeFromCapacity(Calculation mode);
 
+    // Marks the fields that are not used or not confirmed, and the figures of other inputs.
+    void NoteFields();
+
   private:
     // A volume flow, its bar and the flow per unit of the bar.
     struct FlowInput {
@@ -81,6 +87,8 @@ class PointPanel {
     void BindState(ActTable& acts, TextField& field, ScrollBar& bar);
     void BindFlow(ActTable& acts, const FlowInput& flow);
     void FollowBar(TextField& field, double value, bool echoes);
+
+    void Compute(Calculation mode, MarkPlacing marke);
 
     struct Inputs {
         double t1 = 0, t2 = 0;          // degC
@@ -107,8 +115,16 @@ class PointPanel {
     void ShowBothMarks();
     void PlaceMixture();
     void ShowSecondFlow(bool shown);
+    std::string Basis(Calculation mode) const;
+    std::optional<Refusal> RefusalOf(const TextField& field) const;
+    bool HasState(const TextField& humidity, const TextField& temperature) const;
 
     ProcessContext context_;
+    // What the last run took, and what the shown states and the shown outcome rest on.
+    TakenTexts taken_{&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2, &Kleist};
+    TakenTexts states_of_{&Temp1, &relF1, &Temp2, &relF2};
+    TakenTexts outcome_of_{&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2};
+    bool capacity_refused_ = false;  // no flow gives what was asked for
     // Of the two states; kept while the inputs are outside the limits, and so are the figures.
     double enthalpy1_ = 0, enthalpy2_ = 0;  // kJ/kg
     double density1_ = 0;                   // kg/m3

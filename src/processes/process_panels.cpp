@@ -15,6 +15,11 @@ void ProcessPanels::ListControls(Form& form) {
     plant.ListControls(form);
 }
 
+void ProcessPanels::NoteFields() {
+    if (point.Anlage1PN.visible) point.NoteFields();
+    if (plant.Frame1.visible) plant.NoteFields();
+}
+
 void ProcessPanels::BindActs(ActTable& acts) {
     point.BindActs(acts);
     plant.BindActs(acts);

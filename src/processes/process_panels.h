@@ -23,6 +23,9 @@ class ProcessPanels {
     void ListControls(Form& form);
     void BindActs(ActTable& acts);
 
+    // Marks fields and figures of the open panel; after whatever may have changed them.
+    void NoteFields();
+
     // Draws the process in force again, after the scale of the chart has changed.
     void Repeat();
 

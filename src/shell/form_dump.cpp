@@ -243,6 +243,9 @@ Json DumpControl(const Control& control) {
     if (control.foreground) json["foreground"] = *control.foreground;
     if (control.background) json["background"] = *control.background;
     if (!control.tool_tip.empty()) json["tool_tip"] = control.tool_tip;
+    if (!control.hint.empty()) json["hint"] = control.hint;
+    if (control.stale) json["stale"] = true;
+    if (control.pending) json["pending"] = true;
     return json;
 }
 

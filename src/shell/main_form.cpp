@@ -137,7 +137,10 @@ void MainForm::PointerPress(PointerButton button, CanvasPoint place) {
     FollowAct({}, ActKind::Press);
 }
 
-void MainForm::PointerMove(CanvasPoint place) { pointer_.Move(place); }
+void MainForm::PointerMove(CanvasPoint place) {
+    pointer_.Move(place);
+    if (pointer_.Marks().CarriesAny()) processes.NoteFields();
+}
 
 void MainForm::PointerRelease(PointerButton button) {
     if (button == PointerButton::Right) {
@@ -209,6 +212,7 @@ void MainForm::OpenProject(const std::filesystem::path& path) {
 
 void MainForm::FollowAct(std::string_view control, ActKind kind) {
     undo_.Note(control, kind);
+    processes.NoteFields();
     controls.Undo.enabled = undo_.CanUndo();
     controls.Redo.enabled = undo_.CanRedo();
     controls.PrevState.enabled = projects_.keeper.HasPrevious();

@@ -1,0 +1,71 @@
+#include <algorithm>
+#include <array>
+
+#include "base/number_text.h"
+#include "base/unit_texts.h"
+#include "processes/plant_panel.h"
+
+namespace zandrell {
+namespace {
+
+template <std::size_t Count>
+bool IsOneOf(const TextField& field, const std::array<const TextField*, Count>& fields) {
+    return std::find(fields.begin(), fields.end(), &field) != fields.end();
+}
+
+}  // namespace
+
+// What the figures rest on besides the fields.
+std::string PlantPanel::Basis() const {
+    return (Option3D3.on ? "steam " : "water ") + NumberText(context_.solver.ChartDruckBar);
+}
+
+// Bars and corrections write into fields: what was typed there is gone, and its writer has to know.
+void PlantPanel::NoteReplaced(const TextField& field, const std::string& typed) {
+    if (ParsedNumber(typed) == ParsedNumber(field.text)) return;
+    if (&field == &dtVent1 || &field == &dtVent2) {
+        replaced_by_ = {Caption::OutsideLimits, "0",
+                        TrimmedNumberText(kHighestFanRise).append(" ").append(UnitK)};
+    } else if (IsOneOf(field, std::array<const TextField*, 3>{&tabLuft, &Taus, &TZuluft})) {
+        const auto outside = AgainstTemperature(typed, context_.settings);
+        replaced_by_ = outside.value_or(Refusal{Caption::BelowCoilAndFanRise});
+    } else {
+        return;
+    }
+    replaced_ = &field;
+}
+
+void PlantPanel::NoteFields() {
+    const FieldNotes notes(context_.captions);
+    const bool stale = !figures_of_.Hold(Basis());
+    notes.MarkFigures({&RaumLeist, &RaumSensLeist, &RaumLatLeist, &RaumWasserLeist, &Kuehl, &Heiz2},
+                      stale);
+    notes.MarkFigures({&Bef}, stale || !humidifier_shown_);
+    for (TextField* field :
+         {&vhAnlage, &aussenAnt, &vhinnen, &vhaussen, &tabLuft, &PHIAbluft, &Taus, &PhiAussen,
+          &TZuluft, &PHIZuluft, &tKA, &phiKanal, &dtVent1, &dtVent2}) {
+        if (!taken_.Holds(*field)) {
+            notes.MarkPending(*field);
+        } else if (const auto refusal = RefusalOf(*field)) {
+            notes.MarkRefused(*field, *refusal);
+        } else {
+            notes.MarkUsed(*field);
+        }
+    }
+}
+
+std::optional<Refusal> PlantPanel::RefusalOf(const TextField& field) const {
+    if (replaced_ == &field) return replaced_by_;
+    if (IsOneOf(field,
+                std::array<const TextField*, 4>{&PHIAbluft, &PhiAussen, &PHIZuluft, &phiKanal})) {
+        return field.text == kInTheFog ? std::nullopt : AgainstHumidity(field.text);
+    }
+    if (IsOneOf(field, std::array<const TextField*, 3>{&vhAnlage, &vhinnen, &vhaussen})) {
+        return AgainstFlow(field.text);
+    }
+    if (auto refusal = AgainstNumber(field.text)) return refusal;
+    if (&field != &aussenAnt || ParsedNumber(field.text) >= 0) return std::nullopt;
+    return Refusal{Caption::AboveZero};
+}
+
+}  // namespace zandrell
