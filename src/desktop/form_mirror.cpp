@@ -33,9 +33,16 @@ ColourRoles RolesOf(const QWidget* widget) {
 // What a widget shows of its control in colours.
 struct ShownColours {
     std::optional<int> text, ground;
-    bool stale = false;
+    bool stale = false, pending = false;
     bool operator==(const ShownColours&) const = default;
 };
+
+// The edge of a text that is not yet confirmed. The style sheet takes the palette along.
+void ShowPending(QWidget* widget, bool pending) {
+    if (widget->property("pending").toBool() == pending) return;
+    widget->setProperty("pending", pending);
+    widget->style()->polish(widget);
+}
 
 bool IsRefused(const Control& control) {
     return !control.hint.empty() && !control.stale && !control.pending;
@@ -43,10 +50,11 @@ bool IsRefused(const Control& control) {
 
 ShownColours ColoursOf(const Control& control) {
     if (IsRefused(control)) return {control.foreground, kLightRed};
-    return {control.foreground, control.background, control.stale};
+    return {control.foreground, control.background, control.stale, control.pending};
 }
 
 void ApplyColours(QWidget* widget, const ShownColours& colours) {
+    ShowPending(widget, colours.pending);
     const ColourRoles roles = RolesOf(widget);
     QPalette palette;
     if (colours.text) palette.setColor(roles.text, TextColour(*colours.text));
@@ -165,11 +173,6 @@ void FormMirror::Bind(QLineEdit* field, const TextField& control) {
     });
     QObject::connect(field, &QLineEdit::returnPressed, field,
                      [this, name] { Perform([&] { window_.UserReturn(name); }); });
-    writers_.push_back([field, &control] {
-        if (field->property("pending").toBool() == control.pending) return;
-        field->setProperty("pending", control.pending);
-        field->style()->polish(field);
-    });
     // Writing an equal text would move the cursor.
     writers_.push_back([field, &control] {
         const QString text = Utf8(control.text);
@@ -318,6 +321,11 @@ void FormMirror::Bind(QAction* action, const MenuEntry& control) {
     writers_.push_back([action, &control] {
         if (action->isEnabled() != control.enabled) action->setEnabled(control.enabled);
         if (action->isVisible() != control.visible) action->setVisible(control.visible);
+        // Only what runs has a tick, so that no entry shows an empty box.
+        if (action->isCheckable() != control.checked) action->setCheckable(control.checked);
+        if (action->isChecked() != control.checked) action->setChecked(control.checked);
+        const QString tip = Utf8(control.hint);
+        if (action->toolTip() != tip) action->setToolTip(tip);
     });
 }
 
@@ -341,11 +349,14 @@ void FormMirror::Bind(QPushButton* button, const Button& picture, const Control*
     if (!icon.isNull()) button->setIcon(QIcon(icon));
     const Control& text_control = caption ? *caption : picture;
     const bool shows_text = !button->property("picture_only").toBool();
+    // A click alone checks nothing: the form tells what runs.
+    button->setCheckable(button->property("tool").toBool());
     writers_.push_back([button, shows_text, &text_control] {
         const QString text = ShownText(text_control.text);
         if (shows_text && button->text() != text) button->setText(text);
         const QString name = QString(text).remove(QLatin1Char('&'));
         if (!name.isEmpty() && button->accessibleName() != name) button->setAccessibleName(name);
+        if (button->isChecked() != text_control.checked) button->setChecked(text_control.checked);
         if (!shows_text && button->toolTip().isEmpty()) button->setToolTip(text);
     });
 }

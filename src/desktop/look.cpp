@@ -71,6 +71,7 @@ QPushButton:focus { border: 0.133em solid @accent; padding: 0.267em 0.733em; }
 QPushButton:pressed { background: @pressed; border-color: @accent; }
 QPushButton:disabled { background: @window; border-color: @disabled-edge; }
 QPushButton[tool="true"] { text-align: left; padding: 0.267em 0.533em; }
+QPushButton[tool="true"]:checked { background: @selected; border-color: @accent; }
 QPushButton[tool="true"]:focus { padding: 0.2em 0.467em; }
 QPushButton[skinned="dark texts"] { background: rgba(255, 255, 255, 34); border-color: black; }
 QPushButton[skinned="dark texts"]:hover { background: rgba(255, 255, 255, 70); }
@@ -103,6 +104,8 @@ QCheckBox::indicator:unchecked { width: 0.8em; height: 0.8em; border: 1px solid 
                                  border-radius: 0.2em; background: @field; }
 
 QLabel[role="band"] { background: @band; border-radius: 0.267em; padding: 0.2em 0.533em; }
+QLabel[role="status"] { background: @panel; color: @ink; border: 1px solid @border;
+                        border-radius: 0.4em; padding: 0.2em 0.8em; }
 QLabel[role="hint"] { background: @panel; color: @ink; border: 1px solid @accent;
                       border-radius: 0.533em; padding: 0.8em 1.067em; }
 QGroupBox { border: 1px solid @hairline; border-radius: 0.4em; margin-top: 1.467em; padding: 0.267em;

@@ -51,6 +51,8 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
         return point_view_ && plant_view_ ? point_view_->Opaque() + plant_view_->Opaque()
                                           : QRegion();
     };
+    status_ = new StatusView(form.status, chart_,
+                             [this] { mirror_.Perform([this] { form_.status.Fade(); }); });
     layout->addWidget(chart_, 1);
     setCentralWidget(centre);
     keys_.on_escape = [this] { return Escape(); };
@@ -107,6 +109,10 @@ void MainWindow::Build() {
     setMenuBar(bar);
     for (QLineEdit* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
     mirror_.Mirror();
+    // Laid out now and not in a later turn of the loop: the panels are placed beside the tools.
+    bar->show();
+    tools_->show();
+    centralWidget()->layout()->activate();
     Refresh();
 }
 
@@ -151,6 +157,7 @@ void MainWindow::Refresh() {
     if (windowTitle() != title) setWindowTitle(title);
     if (isWindowModified() != form_.modified) setWindowModified(form_.modified);
     chart_->Sync();
+    status_->Sync();
     if (point_view_) point_view_->Place();
     if (plant_view_) plant_view_->Place();
     FollowPanels();

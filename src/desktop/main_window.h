@@ -12,6 +12,7 @@
 #include "desktop/qt_printing.h"
 #include "desktop/qt_user.h"
 #include "desktop/qt_viewer.h"
+#include "desktop/status_view.h"
 #include "desktop/window_keys.h"
 #include "shell/main_form.h"
 
@@ -76,6 +77,7 @@ class MainWindow : public QMainWindow {
     QtViewer viewer_;
     FormMirror mirror_;
     WindowKeys keys_;
+    StatusView* status_ = nullptr;
     ChartWidget* chart_ = nullptr;
     QPointer<ContentScroll> tools_;
     QPointer<FloatingPanel> point_view_, plant_view_;

@@ -117,7 +117,7 @@ QPushButton* PanelBuilder::QuietButton(const Button& picture) {
     return button;
 }
 
-QVBoxLayout* PanelBuilder::TitledLayout(const Label& title, const Button& close,
+QVBoxLayout* PanelBuilder::TitledLayout(const Label& title, const Label& tool, const Button& close,
                                         const Button& cancel, int shadow) {
     auto* row = new QHBoxLayout;
     row->addWidget(Caption(title, true), 1);
@@ -130,6 +130,7 @@ QVBoxLayout* PanelBuilder::TitledLayout(const Label& title, const Button& close,
     layout->setContentsMargins(shadow + 12, shadow + 6, shadow + 12, shadow + 10);
     layout->setSpacing(6);
     layout->addLayout(row);
+    layout->addWidget(Caption(tool, true));
     return layout;
 }
 

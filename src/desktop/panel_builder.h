@@ -36,10 +36,10 @@ class PanelBuilder {
     QPushButton* PictureButton(const Button& picture, const Control* caption = nullptr);
     // A small button of only a picture.
     QPushButton* QuietButton(const Button& picture);
-    // The layout of the whole panel, begun with its title and its closing cross, which does what
-    // the button `cancel` does; `shadow` pixels all round are left free.
-    QVBoxLayout* TitledLayout(const Label& title, const Button& close, const Button& cancel,
-                              int shadow);
+    // The layout of the whole panel, begun with its title, the running tool and its closing cross,
+    // which does what the button `cancel` does; `shadow` pixels all round are left free.
+    QVBoxLayout* TitledLayout(const Label& title, const Label& tool, const Button& close,
+                              const Button& cancel, int shadow);
 
   private:
     FormMirror& mirror_;

@@ -149,7 +149,8 @@ FloatingPanel* MakePlantPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* view = new FloatingPanel(form, panel.Frame1, mirror, chart, panel.AnlageAbButt.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);
-    build.TitledLayout(panel.Label16, panel.Picture12, panel.AnlageAbButt, FloatingPanel::kShadow);
+    build.TitledLayout(panel.Label16, panel.tool_name, panel.Picture12, panel.AnlageAbButt,
+                       FloatingPanel::kShadow);
     auto* content = new QWidget(view);
     build.SetParent(content);
     auto* body = new QHBoxLayout(content);

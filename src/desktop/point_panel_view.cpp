@@ -94,8 +94,8 @@ FloatingPanel* MakePointPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* view = new FloatingPanel(form, panel.Anlage1PN, mirror, chart, panel.abbcom.name);
     UsePanelFont(view);
     PanelBuilder build(mirror, view);
-    auto* layout =
-        build.TitledLayout(panel.Label15, panel.Picture3, panel.abbcom, FloatingPanel::kShadow);
+    auto* layout = build.TitledLayout(panel.Label15, panel.tool_name, panel.Picture3, panel.abbcom,
+                                      FloatingPanel::kShadow);
     auto* content = new QWidget(view);
     build.SetParent(content);
     auto* column = new QVBoxLayout(content);

@@ -38,6 +38,7 @@ struct Control {
     std::string tool_tip;
     bool visible = true;
     bool enabled = true;
+    bool checked = false;  // a button or entry whose tool is running
     // What a user has to know of the text: alone why a field's value is not used, with one of the
     // flags what that flag means.
     std::string hint;

@@ -21,7 +21,7 @@ double ReadHumidity(const TextField& field) {
 }  // namespace
 
 void PlantPanel::ListControls(Form& form) {
-    form.Add({&Frame1, &Panel3D10, &Panel3D2, &Label16});
+    form.Add({&Frame1, &Panel3D10, &Panel3D2, &Label16, &tool_name});
     form.Add({&vhAnlage, &aussenAnt, &vhinnen, &vhaussen});
     form.Add({&tabLuft, &PHIAbluft, &Taus, &PhiAussen, &TZuluft, &PHIZuluft, &tKA, &phiKanal});
     form.Add({&dtVent1, &dtVent2, &Option3D3, &Option3D4});
@@ -70,7 +70,7 @@ bool PlantPanel::TakeFlowFromShares() {
 }
 
 void PlantPanel::AnlageBerechnen() {
-    replaced_ = nullptr;
+    refused_rise_ = nullptr;
     figures_of_.Forget();
     if (Compute()) figures_of_.Take(Basis());
     taken_.Take();
@@ -80,8 +80,11 @@ bool PlantPanel::Compute() {
     for (Mark* mark : context_.overlay.Marks()) mark->width = mark->height = kMarkSize;
     PlantRun run;
     if (!ReadInputs(run.inputs)) return false;
+    const std::string given = PHIAbluft.text;
+    const double given_phiAb = run.inputs.phiAb;
     if (!CorrectHumidities(run)) return false;
     MoveHumidityBars(run.inputs);
+    if (run.inputs.phiAb > given_phiAb && PHIAbluft.text != given) exhaust_raised = true;
     if (!MixExhaustAndOutside(run)) return false;
     if (!SupplyTheRoom(run)) return false;
     if (!ChooseTheWay(run)) return false;
@@ -113,6 +116,7 @@ double PlantPanel::ReadFanRise(TextField& field) {
     const double rise = ParsedNumber(field.text);
     if (!(rise > kHighestFanRise)) return rise;
     field.text = TrimmedNumberText(kFallbackFanRise);
+    refused_rise_ = &field;
     return kFallbackFanRise;
 }
 

@@ -24,7 +24,8 @@ class PlantPanel {
     PlantPanel& operator=(const PlantPanel&) = delete;
 
     Panel Frame1{"Frame1"}, Panel3D10{"Panel3D10"}, Panel3D2{"Panel3D2"};
-    Label Label16{"Label16"};  // title line of the panel
+    Label Label16{"Label16"};          // title line of the panel
+    Label tool_name{"PlantToolName"};  // below it: what the panel calculates
     TextField vhAnlage{"vhAnlage"}, aussenAnt{"aussenAnt"}, vhinnen{"vhinnen"},
         vhaussen{"vhaussen"};
     TextField tabLuft{"tabLuft"}, PHIAbluft{"PHIAbluft"}, Taus{"Taus"}, PhiAussen{"PhiAussen"},
@@ -51,6 +52,8 @@ class PlantPanel {
     Button AnlageAbButt{"AnlageAbButt", "abcap.bmp"}, AnlageAbButt_l{"AnlageAbButt_l"},
         Command3D6{"Command3D6", "OKcap.bmp"}, Command3D6_l{"Command3D6_l"}, Picture12{"Picture12"};
 
+    // A run has raised the exhaust humidity; whoever tells the user of it takes it back.
+    bool exhaust_raised = false;
     int AnlageZweig = 0;  // 1: the run before went the way without cooler
 
     void ListControls(Form& form);
@@ -103,7 +106,6 @@ class PlantPanel {
     void ShowHeaterBehindCooler(double capacity_kw, double factor);
     PlantDrawing Drawing() const;
     std::string Basis() const;
-    void NoteReplaced(const TextField& field, const std::string& typed);
     std::optional<Refusal> RefusalOf(const TextField& field) const;
 
     ProcessContext context_;
@@ -113,9 +115,7 @@ class PlantPanel {
                       &tKA,       &phiKanal,  &dtVent1,   &dtVent2};
     TakenTexts figures_of_ = taken_;
     bool humidifier_shown_ = false;  // its figure is of the last run
-    // A field whose typed value the last run replaced, and why.
-    const TextField* replaced_ = nullptr;
-    Refusal replaced_by_{};
+    const TextField* refused_rise_ = nullptr;  // a typed fan rise that the last run replaced
 };
 
 }  // namespace zandrell

@@ -41,10 +41,8 @@ void PlantPanel::BindActs(ActTable& acts) {
 
 void PlantPanel::Bind(ActTable& acts, const Input& input) {
     acts.Add(input.field->name, ActKind::Return, [this, input] {
-        const std::string typed = input.field->text;
         if (input.before()) AnlageBerechnen();
         taken_.Take();
-        NoteReplaced(*input.field, typed);
     });
     if (input.bar == nullptr) return;
     input.bar->on_change = [this, field = input.field, bar = input.bar] {

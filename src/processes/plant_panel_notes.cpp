@@ -20,21 +20,6 @@ std::string PlantPanel::Basis() const {
     return (Option3D3.on ? "steam " : "water ") + NumberText(context_.solver.ChartDruckBar);
 }
 
-// Bars and corrections write into fields: what was typed there is gone, and its writer has to know.
-void PlantPanel::NoteReplaced(const TextField& field, const std::string& typed) {
-    if (ParsedNumber(typed) == ParsedNumber(field.text)) return;
-    if (&field == &dtVent1 || &field == &dtVent2) {
-        replaced_by_ = {Caption::OutsideLimits, "0",
-                        TrimmedNumberText(kHighestFanRise).append(" ").append(UnitK)};
-    } else if (IsOneOf(field, std::array<const TextField*, 3>{&tabLuft, &Taus, &TZuluft})) {
-        const auto outside = AgainstTemperature(typed, context_.settings);
-        replaced_by_ = outside.value_or(Refusal{Caption::BelowCoilAndFanRise});
-    } else {
-        return;
-    }
-    replaced_ = &field;
-}
-
 void PlantPanel::NoteFields() {
     const FieldNotes notes(context_.captions);
     const bool stale = !figures_of_.Hold(Basis());
@@ -55,7 +40,10 @@ void PlantPanel::NoteFields() {
 }
 
 std::optional<Refusal> PlantPanel::RefusalOf(const TextField& field) const {
-    if (replaced_ == &field) return replaced_by_;
+    if (refused_rise_ == &field) {
+        return Refusal{Caption::OutsideLimits, "0",
+                       TrimmedNumberText(kHighestFanRise).append(" ").append(UnitK)};
+    }
     if (IsOneOf(field,
                 std::array<const TextField*, 4>{&PHIAbluft, &PhiAussen, &PHIZuluft, &phiKanal})) {
         return field.text == kInTheFog ? std::nullopt : AgainstHumidity(field.text);
@@ -64,6 +52,10 @@ std::optional<Refusal> PlantPanel::RefusalOf(const TextField& field) const {
         return AgainstFlow(field.text);
     }
     if (auto refusal = AgainstNumber(field.text)) return refusal;
+    // The bar does not go there; the cooler cannot cool below its own coil.
+    if (&field == &TZuluft && kBarUnitsPerField * ParsedNumber(TZuluft.text) < tzuScroll.LowEnd()) {
+        return Refusal{Caption::BelowCoilAndFanRise};
+    }
     if (&field != &aussenAnt || ParsedNumber(field.text) >= 0) return std::nullopt;
     return Refusal{Caption::AboveZero};
 }

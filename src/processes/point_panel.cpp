@@ -42,7 +42,7 @@ void ShowStateTexts(const AirState& state, Label& absolute, Label& enthalpy) {
 }  // namespace
 
 void PointPanel::ListControls(Form& form) {
-    form.Add({&Anlage1PN, &Panel3D9, &Label15});
+    form.Add({&Anlage1PN, &Panel3D9, &Label15, &tool_name});
     form.Add({&Label33, &Label35, &Label36, &label37, &enthPN, &second_flow_label, &mixture_label});
     form.Add({&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2, &Kleist});
     form.Add({&absF1, &enth1, &absF2, &enth2, &KLatent, &Ksensibel, &KondW});

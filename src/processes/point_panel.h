@@ -22,7 +22,8 @@ class PointPanel {
     Panel Anlage1PN{"Anlage1PN"}, Panel3D9{"Panel3D9"};
     Label Label33{"Label33"}, Label35{"Label35"}, Label36{"Label36"}, label37{"label37"},
         enthPN{"enthPN"}, second_flow_label{"LuftM2Label"}, mixture_label{"MixtureLabel"};
-    Label Label15{"Label15"};  // title line of the panel
+    Label Label15{"Label15"};          // title line of the panel
+    Label tool_name{"PointToolName"};  // below it: what the panel calculates
     TextField Temp1{"Temp1"}, relF1{"relF1"}, Temp2{"Temp2"}, relF2{"relF2"}, LuftM1{"LuftM1"},
         LuftM2{"LuftM2"}, Kleist{"Kleist"};
     Label absF1{"absF1"}, enth1{"enth1"}, absF2{"absF2"}, enth2{"enth2"};

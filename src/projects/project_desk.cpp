@@ -23,7 +23,9 @@ ProjectDesk::ProjectDesk(const ProjectContext& context, const WorkingStateFields
       store(context, keeper),
       dialog(context, store),
       context_(context),
-      window_(std::move(window)) {}
+      window_(std::move(window)) {
+    store.after_save = [this] { window_.say(Caption::Saved); };
+}
 
 bool ProjectDesk::Activate() {
     if (!started_) store.recent.Read();
@@ -36,10 +38,14 @@ bool ProjectDesk::SaveWorkingState() {
            WriteResult::Done;
 }
 
-void ProjectDesk::QuickSave() { SaveWorkingState(); }
+void ProjectDesk::QuickSave() {
+    if (SaveWorkingState()) window_.say(Caption::Saved);
+}
 
 void ProjectDesk::QuickLoad() {
-    if (keeper.ArbeitsfelderLaden(kWorkingStateFile)) window_.inputs_replaced();
+    if (!keeper.ArbeitsfelderLaden(kWorkingStateFile)) return;
+    window_.inputs_replaced();
+    window_.say(Caption::Loaded);
 }
 
 void ProjectDesk::NewProject() {
@@ -76,6 +82,7 @@ void ProjectDesk::TakeLoadedProject() {
         if (keeper.ArbeitsfelderLaden(kWorkingStateFile)) {
             window_.inputs_replaced();
             store.NoteSaved();
+            window_.say(Caption::Loaded);
         }
     }
     shared.DialogMode = 0;
@@ -119,7 +126,9 @@ void ProjectDesk::OpenRecent(std::size_t place) {
 }
 
 void ProjectDesk::RestorePrevious() {
-    if (keeper.RestorePrevious()) window_.inputs_replaced();
+    if (!keeper.RestorePrevious()) return;
+    window_.inputs_replaced();
+    window_.say(Caption::Loaded);
 }
 
 void ProjectDesk::OpenDialog(int DialogMode) {

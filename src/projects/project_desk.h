@@ -18,7 +18,8 @@ class ProjectDesk {
         // The inputs were replaced: bars, calculation, marks and title follow.
         std::function<void()> inputs_replaced;
         std::function<void()> dialog_closed;
-        std::function<void(bool)> busy;  // the pointer shows that the program works
+        std::function<void(bool)> busy;    // the pointer shows that the program works
+        std::function<void(Caption)> say;  // a word on what has been done
     };
     // `fields` and what `context` refers to outlive the desk, and so does `cooler_duty`, which is
     // what a sibling module learns of the cooler.

@@ -89,6 +89,7 @@ WriteResult ProjectStore::SaveProject(std::string_view tag, const fs::path& fold
     folder_in_hand = WithSeparator(folder.string());
     recent.Add(path);
     NoteSaved();
+    if (after_save) after_save();
     return result;
 }
 

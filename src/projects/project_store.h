@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -19,6 +20,7 @@ class ProjectStore {
         : recent(context.files), context_(context), keeper_(keeper) {}
 
     RecentProjects recent;
+    std::function<void()> after_save;  // runs when a project was written
 
     // Takes title and remark, and puts the project's working state in the place of that of its tag;
     // a tag of no known module drops it. `DialogMode` is 33 afterwards: who has opened the dialog

@@ -244,6 +244,7 @@ Json DumpControl(const Control& control) {
     if (control.background) json["background"] = *control.background;
     if (!control.tool_tip.empty()) json["tool_tip"] = control.tool_tip;
     if (!control.hint.empty()) json["hint"] = control.hint;
+    if (control.checked) json["checked"] = true;
     if (control.stale) json["stale"] = true;
     if (control.pending) json["pending"] = true;
     return json;

@@ -15,7 +15,7 @@ void BindToolActs(MainForm& main) {
         main.acts.Add(button.caption.name, ActKind::Click, handler);
     };
     const auto open_and_calculate = [&main](Calculation mode) {
-        if (main.Pointer().PanelZustand() == PointerOwner::PointPanel) return;
+        if (!main.Panels().MayCalculate()) return;
         main.Panels().OpenPointPanel(mode, true);
     };
     on_tool(controls.optButt, [&main] { main.OpenOptions(); });
@@ -54,7 +54,10 @@ void BindMenuActs(MainForm& main) {
     on_menu(controls.Heiz_start, opens_tool(Calculation::Heater));
     on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
     on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
-    on_menu(controls.kopieren, [&main] { main.User().CopyChart(); });
+    on_menu(controls.kopieren, [&main] {
+        main.User().CopyChart();
+        main.status.Say(main.captions[Caption::Copied]);
+    });
     on_menu(controls.Hsich, [&main] { main.Projects().QuickSave(); });
     on_menu(controls.Hlad, [&main] { main.Projects().QuickLoad(); });
 }

@@ -1,11 +1,13 @@
 #include "shell/main_form.h"
 
 #include "base/number_text.h"
+#include "base/text_encoding.h"
 #include "projects/project_kind.h"
 #include "projects/temperature_lines.h"
 #include "shell/form_dump.h"
 #include "shell/main_acts.h"
 #include "shell/main_captions.h"
+#include "shell/offers.h"
 
 namespace zandrell {
 namespace {
@@ -55,7 +57,8 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
                      Activate();
                      FollowAct({}, ActKind::Click);
                  },
-                 [this](bool busy) { pointer_.SetBusy(busy); }}),
+                 [this](bool busy) { pointer_.SetBusy(busy); },
+                 [this](Caption what) { status.Say(captions[what]); }}),
       undo_({*this, files, shared, processes, overlay, pointer_, panels_, inputs_, projects_,
              [this] { Activate(); }}) {
     printing.after_printing = [this] { PaintAgain(); };
@@ -65,11 +68,13 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
     chart.controls.ListControls(form);
     processes.ListControls(form);
     overlay.ListControls(form);
+    form.Add({&status.line});
     BindActs(*this);
     chart.additions = [this](Canvas& canvas) {
         if (!KindOf(shared.ProjektArt).temperature_lines) return;
         DrawTemperatureLines(projects_.keeper.Lines(), chart.scale, solver, canvas);
     };
+    pointer_.frame_refused = [this] { status.Say(captions[Caption::ClosePanelToDrawFrame]); };
     after_act = [this](std::string_view control, ActKind kind) { FollowAct(control, kind); };
 }
 
@@ -213,6 +218,12 @@ void MainForm::OpenProject(const std::filesystem::path& path) {
 void MainForm::FollowAct(std::string_view control, ActKind kind) {
     undo_.Note(control, kind);
     processes.NoteFields();
+    ShowOffers(controls, processes, panels_, captions);
+    if (std::exchange(processes.plant.exhaust_raised, false)) {
+        status.Say(FilledIn(captions[Caption::ExtractHumidityRaised],
+                            {Trimmed(processes.plant.PHIAbluft.text)}));
+    }
+    status.EndAct();
     controls.Undo.enabled = undo_.CanUndo();
     controls.Redo.enabled = undo_.CanRedo();
     controls.PrevState.enabled = projects_.keeper.HasPrevious();

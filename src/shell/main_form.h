@@ -17,6 +17,7 @@
 #include "shell/panel_keeper.h"
 #include "shell/pointer_machine.h"
 #include "shell/start_up.h"
+#include "shell/status_line.h"
 #include "shell/undo_keeper.h"
 
 namespace zandrell {
@@ -42,6 +43,7 @@ class MainForm : public WindowForm {
     OptionsForm options;
     ChartPrinting printing;
     HelpForm help;
+    StatusLine status;
     bool ended = false;  // the window has closed and the program ends
 
     // The events of the window. Sizes are device-independent pixels.

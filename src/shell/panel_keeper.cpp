@@ -53,16 +53,27 @@ void PanelKeeper::OpenPointPanel(Calculation mode, bool calculate) {
     if (calculate) processes_.point.ZustandRechnen(mode, MarkPlacing::FromFields);
 }
 
+bool PanelKeeper::MayCalculate() const {
+    return pointer_.PanelZustand() != PointerOwner::PointPanel;
+}
+
+bool PanelKeeper::MayOpenTool() const {
+    return MayCalculate() && pointer_.PanelZustand() != PointerOwner::PlantPanel;
+}
+
+bool PanelKeeper::IsOpen() const {
+    return processes_.point.Anlage1PN.visible || processes_.plant.Frame1.visible;
+}
+
 void PanelKeeper::OpenTool(Calculation mode) {
-    const PointerOwner owner = pointer_.PanelZustand();
-    if (owner == PointerOwner::PlantPanel || owner == PointerOwner::PointPanel) return;
+    if (!MayOpenTool()) return;
     OpenPointPanel(mode, true);
     // The one tool behind which an activation is no echo.
     if (mode == Calculation::WaterHumidifier) shared_.ZurueckVomDialog = DialogEcho::None;
 }
 
 void PanelKeeper::AnlageOeffnen() {
-    if (pointer_.PanelZustand() == PointerOwner::PointPanel) return;
+    if (!MayCalculate()) return;
     pointer_.PanelOpened(PointerOwner::PlantPanel);
     processes_.point.Anlage1PN.visible = false;
     if (!plant_panel_moved_) PlacePlantPanel();

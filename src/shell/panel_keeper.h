@@ -22,6 +22,10 @@ class PanelKeeper {
     // Shows the point panel for a mode, in place of the plant.
     void OpenPointPanel(Calculation mode, bool calculate);
     // The same for capacity and the tools, which are refused while a panel is open.
+    // Whether a click on a calculation or on a tool opens it; the panel in the way comes first.
+    bool MayCalculate() const;
+    bool MayOpenTool() const;
+    bool IsOpen() const;
     void OpenTool(Calculation mode);
     void AnlageOeffnen();
     void Close(Panel& panel);

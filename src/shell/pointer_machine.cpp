@@ -52,6 +52,7 @@ void PointerMachine::Press(CanvasPoint place) {
     if (IsPanelOpen() && processes_.Rechenmodus != Calculation::None) {
         marks_.PickUp(place);
         ReadOut(place);
+        if (!marks_.CarriesAny() && frame_refused) frame_refused();
         return;
     }
     switch (owner_) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -40,6 +41,9 @@ class PointerMachine {
     const MarkCarrier& Marks() const { return marks_; }
     // The marks that a press can pick up now.
     std::vector<const Mark*> MarksToPickUp() const;
+
+    // A press was meant for a frame while a panel is open.
+    std::function<void()> frame_refused;
 
     // The left button on the chart, in canvas units.
     void Press(CanvasPoint place);

@@ -84,6 +84,72 @@ TEST_F(ShownTest, TheRedGroundOfAnImpossibleHumidityIsSeen) {
     EXPECT_EQ(GroundOf(*Find<QLineEdit>("relF2")), ColourOf(LookColour::Field));
 }
 
+// What the form knows of a field or figure is on the screen: in colours, and in words for who
+// cannot see them.
+TEST_F(ShownTest, UnusedPendingAndStaleAreSeen) {
+    OpenTool("BearButt", "50");
+    auto* field = Find<QLineEdit>("relF1");
+    const auto* figure = Find<QLabel>("KLatent");
+    window_->Mirror().Perform([&] {
+        form_.UserSetText("Temp2", "30");
+        form_.UserSetText("relF2", "40");
+        form_.UserReturn("relF2");
+    });
+    const auto edge = [&] { return GroundAt(*field, {1, field->height() / 2}); };
+    const auto ink = [&] { return figure->palette().color(QPalette::WindowText); };
+    Find<QLineEdit>("Temp1")->setFocus();
+    const QColor plain_ink = ink();
+    EXPECT_NE(edge(), ColourOf(LookColour::Accent));
+
+    window_->Mirror().Perform([&] { form_.UserSetText("relF1", "150"); });
+    EXPECT_EQ(edge(), ColourOf(LookColour::Accent));
+    EXPECT_EQ(ink(), ColourOf(LookColour::MutedInk));
+    EXPECT_TRUE(figure->font().italic());
+    EXPECT_EQ(GroundOf(*field), ColourOf(LookColour::Field));
+
+    window_->Mirror().Perform([&] { form_.UserReturn("relF1"); });
+    EXPECT_NE(edge(), ColourOf(LookColour::Accent));
+    EXPECT_EQ(GroundOf(*field), ColourOf(LookColour::SoftRed));
+    EXPECT_EQ(field->toolTip(), QStringLiteral("not used: only 0 to 100 % is possible"));
+    EXPECT_EQ(field->accessibleDescription(), field->toolTip());
+
+    window_->Mirror().Perform([&] {
+        form_.UserSetText("relF1", "50");
+        form_.UserReturn("relF1");
+    });
+    EXPECT_EQ(GroundOf(*field), ColourOf(LookColour::Field));
+    EXPECT_EQ(field->toolTip(), QString());
+    EXPECT_EQ(ink(), plain_ink);
+    EXPECT_FALSE(figure->font().italic());
+}
+
+TEST_F(ShownTest, TheRunningToolAndWhatWouldBeRefusedAreSeen) {
+    auto* tool = Find<QPushButton>("BearButt");
+    const QColor plain = GroundAt(*tool, {6, 6});
+    Click(*tool);
+    QApplication::processEvents();
+    EXPECT_EQ(GroundAt(*tool, {6, 6}), ColourOf(LookColour::Selected));
+    EXPECT_EQ(Find<QLabel>("PointToolName")->text(), QStringLiteral("Capacity"));
+    auto* other = Find<QPushButton>("MischButt");
+    EXPECT_FALSE(other->isEnabled());
+    EXPECT_TRUE(other->toolTip().startsWith(QStringLiteral("close the open panel first")));
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(GroundAt(*tool, {6, 6}), plain);
+    EXPECT_TRUE(other->isEnabled());
+}
+
+TEST_F(ShownTest, TheStatusLineIsShownOverTheFootOfTheChart) {
+    auto* line = Find<QLabel>("StatusLine");
+    EXPECT_FALSE(line->isVisible());
+    Click(*Find<QPushButton>("PSButt"));
+    QApplication::processEvents();
+    EXPECT_TRUE(line->isVisible());
+    EXPECT_EQ(line->text(), QStringLiteral("Saved"));
+    EXPECT_EQ(line->accessibleName(), QStringLiteral("Saved"));
+    EXPECT_GT(line->geometry().top(), window_->Chart().height() * 9 / 10);
+    EXPECT_EQ(GroundAt(*line, {line->width() / 2, 2}), ColourOf(LookColour::Panel));
+}
+
 TEST_F(ShownTest, TheDarkSchemeTakesPanelsMenusAndWindowsAlong) {
     InOptions([](QDialog& dialog) {
         Click(*dialog.findChild<QWidget*>(QStringLiteral("Panel3D12")));
@@ -153,7 +219,7 @@ TEST_F(ShownTest, PanelsTakeTheFocusAndLeaveItToTheChart) {
 }
 
 TEST_F(ShownTest, EscapeClosesThePanelFromAnywhere) {
-    for (const char* place : {"chart", "Proj_T", "LuftM1", "Tscroll1", "MischButt", "abbcom"}) {
+    for (const char* place : {"chart", "Proj_T", "LuftM1", "Tscroll1", "optButt", "abbcom"}) {
         Click(*Find<QPushButton>("BearButt"));
         QApplication::processEvents();
         Find<QWidget>(place)->setFocus();

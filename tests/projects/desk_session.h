@@ -72,10 +72,11 @@ struct RunningDesk {
     DeskFields fields;
     std::string duty = " 12";
     int loads = 0, closed_dialogs = 0;
-    ProjectDesk desk{{files, shared, captions, user},
-                     fields.Refer(),
-                     duty,
-                     {[this] { ++loads; }, [this] { ++closed_dialogs; }, [](bool) {}}};
+    ProjectDesk desk{
+        {files, shared, captions, user},
+        fields.Refer(),
+        duty,
+        {[this] { ++loads; }, [this] { ++closed_dialogs; }, [](bool) {}, [](Caption) {}}};
 };
 
 class DeskTest : public testing::Test {
