@@ -37,11 +37,14 @@ struct ShownColours {
     bool operator==(const ShownColours&) const = default;
 };
 
-// The edge of a text that is not yet confirmed. The style sheet takes the palette along.
+// The edge of a text that is not yet confirmed. The style sheet takes the palette along, and the
+// font of the panel unless it is set again.
 void ShowPending(QWidget* widget, bool pending) {
     if (widget->property("pending").toBool() == pending) return;
+    const QFont font = widget->font();
     widget->setProperty("pending", pending);
     widget->style()->polish(widget);
+    widget->setFont(font);
 }
 
 bool IsRefused(const Control& control) {

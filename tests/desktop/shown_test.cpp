@@ -98,11 +98,13 @@ TEST_F(ShownTest, UnusedPendingAndStaleAreSeen) {
     const auto edge = [&] { return GroundAt(*field, {1, field->height() / 2}); };
     const auto ink = [&] { return figure->palette().color(QPalette::WindowText); };
     Find<QLineEdit>("Temp1")->setFocus();
+    const int pixels = QFontInfo(field->font()).pixelSize();
     const QColor plain_ink = ink();
     EXPECT_NE(edge(), ColourOf(LookColour::Accent));
 
     window_->Mirror().Perform([&] { form_.UserSetText("relF1", "150"); });
     EXPECT_EQ(edge(), ColourOf(LookColour::Accent));
+    EXPECT_EQ(QFontInfo(field->font()).pixelSize(), pixels);
     EXPECT_EQ(ink(), ColourOf(LookColour::MutedInk));
     EXPECT_TRUE(figure->font().italic());
     EXPECT_EQ(GroundOf(*field), ColourOf(LookColour::Field));
