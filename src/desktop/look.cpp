@@ -76,9 +76,15 @@ QPushButton[tool="true"]:focus { padding: 0.2em 0.467em; }
 QPushButton[skinned="dark texts"] { background: rgba(255, 255, 255, 34); border-color: black; }
 QPushButton[skinned="dark texts"]:hover { background: rgba(255, 255, 255, 70); }
 QPushButton[skinned="dark texts"]:pressed { background: rgba(255, 255, 255, 110); }
+QPushButton[skinned="dark texts"]:checked { background: rgba(255, 255, 255, 120);
+                                            border: 0.133em solid black; }
+QPushButton[skinned="dark texts"]:disabled { color: rgba(0, 0, 0, 150); }
 QPushButton[skinned="light texts"] { background: rgba(0, 0, 0, 34); border-color: white; }
 QPushButton[skinned="light texts"]:hover { background: rgba(0, 0, 0, 70); }
 QPushButton[skinned="light texts"]:pressed { background: rgba(0, 0, 0, 110); }
+QPushButton[skinned="light texts"]:checked { background: rgba(0, 0, 0, 110);
+                                             border: 0.133em solid white; }
+QPushButton[skinned="light texts"]:disabled { color: rgba(255, 255, 255, 150); }
 QPushButton[quiet="true"] { border: 1px solid transparent; background: transparent;
                             padding: 0.133em; }
 QPushButton[quiet="true"]:hover { background: rgba(11, 92, 122, 36); }
