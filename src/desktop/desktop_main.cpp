@@ -1,7 +1,10 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QScreen>
 #include <QString>
+#include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -73,6 +76,21 @@ QSize WindowSize(const Arguments& arguments) {
     return QSize(1280, 800).expandedTo(screen * kShareOfScreen).boundedTo(room);
 }
 
+// The words of the toolkit's own dialogs, where the system has them in the language.
+void TranslateToolkit(QTranslator& translator, std::string_view language_tag) {
+    constexpr std::pair<std::string_view, const char*> kLocales[] = {
+        {"DEU", "de"}, {"FRA", "fr"}, {"ESP", "es"},   {"ITA", "it"},
+        {"NDL", "nl"}, {"POR", "pt"}, {"TWA", "zh_TW"}};
+    for (const auto& [tag, locale] : kLocales) {
+        if (tag != language_tag) continue;
+        const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+        if (translator.load(QLocale(QLatin1String(locale)), QStringLiteral("qtbase"),
+                            QStringLiteral("_"), folder)) {
+            QApplication::installTranslator(&translator);
+        }
+    }
+}
+
 int Run(const Arguments& arguments, QApplication& application) {
     const NamedFolder named = DataFolderOf(arguments);
     const std::filesystem::path folder = PrepareDataFolder(named, true);
@@ -83,6 +101,8 @@ int Run(const Arguments& arguments, QApplication& application) {
     QtUser user;
     MainForm form(user, files, named);
     form.Load();
+    QTranslator translator;
+    TranslateToolkit(translator, form.shared.LanguageTag);
     MainWindow window(form, files, user);
     window.resize(size);
     window.show();

@@ -45,8 +45,9 @@ void FirstRunHint::Place() {
 bool FirstRunHint::eventFilter(QObject* watched, QEvent* event) {
     const auto type = event->type();
     if (watched == parentWidget() && type == QEvent::Resize) Place();
-    const bool acts =
-        type == QEvent::KeyPress || type == QEvent::MouseButtonPress || type == QEvent::Wheel;
+    // A key that is a shortcut comes as this offer alone.
+    const bool acts = type == QEvent::KeyPress || type == QEvent::ShortcutOverride ||
+                      type == QEvent::MouseButtonPress || type == QEvent::Wheel;
     if (acts && isVisible()) {
         hide();
         Account().setValue(QLatin1String(kSeen), true);
