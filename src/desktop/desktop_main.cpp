@@ -1,7 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QScreen>
 #include <QString>
 #include <QTranslator>
@@ -78,14 +77,13 @@ QSize WindowSize(const Arguments& arguments) {
 
 // The words of the toolkit's own dialogs, where the system has them in the language.
 void TranslateToolkit(QTranslator& translator, std::string_view language_tag) {
-    constexpr std::pair<std::string_view, const char*> kLocales[] = {
-        {"DEU", "de"}, {"FRA", "fr"}, {"ESP", "es"},   {"ITA", "it"},
-        {"NDL", "nl"}, {"POR", "pt"}, {"TWA", "zh_TW"}};
-    for (const auto& [tag, locale] : kLocales) {
+    constexpr std::pair<std::string_view, const char*> kFiles[] = {
+        {"DEU", "qtbase_de"}, {"FRA", "qtbase_fr"},    {"ESP", "qtbase_es"},   {"ITA", "qtbase_it"},
+        {"NDL", "qtbase_nl"}, {"POR", "qtbase_pt_BR"}, {"TWA", "qtbase_zh_TW"}};
+    for (const auto& [tag, file] : kFiles) {
         if (tag != language_tag) continue;
         const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-        if (translator.load(QLocale(QLatin1String(locale)), QStringLiteral("qtbase"),
-                            QStringLiteral("_"), folder)) {
+        if (translator.load(QLatin1String(file), folder)) {
             QApplication::installTranslator(&translator);
         }
     }

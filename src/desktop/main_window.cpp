@@ -112,6 +112,7 @@ void MainWindow::Build() {
     // Laid out now and not in a later turn of the loop: the panels are placed beside the tools.
     bar->show();
     tools_->show();
+    tools_->FollowContent();
     centralWidget()->layout()->activate();
     Refresh();
 }
