@@ -40,6 +40,7 @@ constexpr std::array<List, 3> kLists{{{"Caption", zandrell::kCaptionFields},
                                       {"QVCapt", zandrell::kQvFields}}};
 
 constexpr std::string_view kSlotTable = "slots.tsv";
+const std::string kReference = "ENG";
 
 using Place = std::pair<std::string, int>;  // list name, number from 1
 using Texts = std::map<Place, std::string>;
@@ -153,26 +154,41 @@ std::string ValuePlaces(std::string_view text) {
     return places;
 }
 
-// The tables of all languages stand in one order, so that they can be compared line by line.
+// The tables of all languages stand in one order, so that they can be compared line by line. A word
+// that a language still lacks stands there in English.
 Texts ReadLanguage(const fs::path& file, const std::vector<Slot>& slots) {
     Texts texts;
-    std::size_t last_line = 1;
+    auto next = slots.begin();
     for (const Row& row : ReadTable(file, "name\ttext")) {
-        last_line = row.line;
         const std::string& name = row.columns[0];
         const std::string& text = row.columns[1];
-        if (texts.size() >= slots.size() || name != slots[texts.size()].name)
+        const auto slot = std::find_if(next, slots.end(),
+                                       [&name](const Slot& each) { return each.name == name; });
+        if (slot == slots.end())
             Fail(file, row.line,
-                 name + " is not the slot that " + std::string(kSlotTable) + " has here");
-        const Slot& slot = slots[texts.size()];
+                 name + " is not a slot that " + std::string(kSlotTable) + " has from here on");
         CheckText(file, row, text);
-        if (ValuePlaces(text) != ValuePlaces(slot.role))
-            Fail(file, row.line, name + " has not the places of \"" + slot.role + "\"");
-        texts[slot.place] = text;
+        if (ValuePlaces(text) != ValuePlaces(slot->role))
+            Fail(file, row.line, name + " has not the places of \"" + slot->role + "\"");
+        texts[slot->place] = text;
+        next = slot + 1;
     }
-    if (texts.size() < slots.size())
-        Fail(file, last_line, "the table ends before " + slots[texts.size()].name);
     return texts;
+}
+
+// English has every word; what another language lacks is told, and taken from there.
+void CompleteLanguages(std::map<std::string, Texts>& languages, const std::vector<Slot>& slots) {
+    const Texts english = languages[kReference];
+    for (auto& [tag, texts] : languages) {
+        for (const Slot& slot : slots) {
+            if (texts.contains(slot.place)) continue;
+            const auto text = english.find(slot.place);
+            if (text == english.end())
+                throw std::runtime_error(kReference + ".tsv: no text for " + slot.name);
+            std::cerr << tag << ".tsv: " << slot.name << " is not translated yet\n";
+            texts[slot.place] = text->second;
+        }
+    }
 }
 
 std::string ListFile(const List& list, const Texts& texts) {
@@ -215,6 +231,7 @@ void MakeCaptions(const fs::path& source, const fs::path& output) {
         if (tag.size() != 3) throw std::runtime_error(table.string() + ": no tag of three letters");
         languages[tag] = ReadLanguage(table, slots);
     }
+    CompleteLanguages(languages, slots);
     fs::create_directories(output);
     for (const auto& [tag, texts] : languages)
         for (const List& list : kLists)

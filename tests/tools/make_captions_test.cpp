@@ -28,12 +28,16 @@ const std::string kTexts =
     "OfTheRoom\tRaum\n"
     "Raised\tauf %1 % angehoben\n";
 
+const std::string kEnglish =
+    "name\ttext\nCooler\tCooler\nOfTheRoom\tof the Room\nRaised\traised to %1 %\n";
+
 class MakeCaptions : public ::testing::Test {
   protected:
     Outcome Make(const std::string& slots, const std::string& texts) {
         std::filesystem::create_directories(folder_ / "in");
         folder_.Write("in/slots.tsv", slots);
         folder_.Write("in/DEU.tsv", texts);
+        folder_.Write("in/ENG.tsv", kEnglish);
         return Call("'" + (folder_ / "in").string() + "' '" + (folder_ / "out").string() + "'");
     }
     Outcome Call(const std::string& arguments) {
@@ -66,6 +70,16 @@ TEST_F(MakeCaptions, PutsEachWordInItsPlaceAndGivesItItsName) {
     EXPECT_EQ(std::filesystem::last_write_time(header), before);
 }
 
+TEST_F(MakeCaptions, AWordThatALanguageLacksStandsThereInEnglishAndIsTold) {
+    const Outcome made = Make(kSlots, "name\ttext\nCooler\tKühler\nRaised\tauf %1 %\n");
+    EXPECT_EQ(made.status, 0);
+    EXPECT_EQ(made.said, "DEU.tsv: OfTheRoom is not translated yet\n");
+    EXPECT_NE(folder_.Read("out/AirCoCap.DEU").find("\"of the Room\""), std::string::npos);
+    const Outcome lacks = Make(kSlots + "QVCapt\t3\tMore\tmore\tmenu\n", kTexts);
+    EXPECT_NE(lacks.status, 0);
+    EXPECT_NE(lacks.said.find("ENG.tsv: no text for More"), std::string::npos) << lacks.said;
+}
+
 struct Slip {
     const char* table;  // where it is made
     std::string from, to;
@@ -83,9 +97,8 @@ const std::vector<Slip> kSlips = {
     {"slots", "\tOfTheRoom", "\tof the room", "slots.tsv:3: \"of the room\" is no name"},
     {"slots", "\tOfTheRoom", "\t", "slots.tsv:3: \"\" is no name"},
     {"slots", "\tmenu", "\t ", "slots.tsv:2: the text is empty"},
-    {"texts", "Raised\tauf", "Cooler\tauf", "DEU.tsv:4: Cooler is not the slot"},
-    {"texts", "Raised\tauf %1 % angehoben\n", "", "DEU.tsv:3: the table ends before Raised"},
-    {"texts", "angehoben\n", "angehoben\nMore\tmehr\n", "DEU.tsv:5: More is not the slot"},
+    {"texts", "Raised\tauf", "Cooler\tauf", "DEU.tsv:4: Cooler is not a slot"},
+    {"texts", "angehoben\n", "angehoben\nMore\tmehr\n", "DEU.tsv:5: More is not a slot"},
     {"texts", "Raum", "", "DEU.tsv:3: the text is empty"},
     {"texts", "Raum", "\"Raum\"", "DEU.tsv:3: a double quote or control character"},
     {"texts", "auf %1 %", "auf %2 %", "DEU.tsv:4: Raised has not the places of"},
