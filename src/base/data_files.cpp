@@ -1,6 +1,7 @@
 #include "base/data_files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,10 +21,12 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kDefaultRecordLength = 128;
-// How a file is named that is written beside its target, and when it is surely nobody's any more.
-constexpr std::string_view kBeside = ".XXXXXX.part";
+// How a file is named that is written beside its target, and how long its writer may take to lock
+// it.
+constexpr std::string_view kBeside = ".zandrell-XXXXXX.part";
 constexpr int kBesideSuffix = 5;
-constexpr auto kAbandonedAfter = std::chrono::hours(1);
+constexpr double kSettledAfter = 0.1;  // s
+constexpr auto kLockedWithin = std::chrono::seconds(1);
 
 std::string SystemWords(int error) { return std::generic_category().message(error); }
 
@@ -45,12 +48,19 @@ class Descriptor {
     int handle_;
 };
 
+bool Equal(const timespec& a, const timespec& b) {
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+double SecondsBetween(const timespec& from, const timespec& to) {
+    return static_cast<double>(to.tv_sec - from.tv_sec) +
+           1e-9 * static_cast<double>(to.tv_nsec - from.tv_nsec);
+}
+
 // The name in the folder that equals the wanted one without regard to case, if there is one.
-fs::path ExistingSpelling(const fs::path& wanted) {
+fs::path SpellingIn(const fs::path& folder, const fs::path& wanted) {
     std::error_code error;
-    if (fs::exists(wanted, error)) return wanted;
     const std::string name = wanted.filename().string();
-    const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
     fs::path found = wanted;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
@@ -105,31 +115,42 @@ int WriteAll(int handle, std::string_view bytes) {
 
 int ErrorOf(int called) { return called == 0 ? 0 : errno; }
 
+// A file that is replaced keeps its permissions; a new one is as private as its user wants.
 mode_t ModeFor(const fs::path& target) {
-    constexpr mode_t kNewFile = 0644;
+    constexpr mode_t kNewFile = 0666;
     struct stat about {};
-    return ::stat(target.c_str(), &about) == 0 ? (about.st_mode & 0777U) : kNewFile;
+    if (::stat(target.c_str(), &about) == 0) return about.st_mode & 0777U;
+    const mode_t mask = ::umask(077);
+    ::umask(mask);
+    return kNewFile & ~mask;
 }
 
-// Whether a file was to become the target, and its writer did not live to see it.
-bool IsAbandoned(const fs::path& file, const std::string& target_name) {
+// Whether a file was to become another one, and its writer did not live to see it: a writer that
+// lives holds a lock on it.
+bool IsAbandoned(const fs::path& file) {
     const std::string name = file.filename().string();
-    const bool beside = name.size() == target_name.size() + kBeside.size() &&
-                        name.starts_with(target_name + ".") &&
-                        name.ends_with(kBeside.substr(kBeside.size() - kBesideSuffix));
-    if (!beside) return false;
+    if (name.size() <= kBeside.size()) return false;
+    const auto beside = std::string_view(name).substr(name.size() - kBeside.size());
+    const auto mark = kBeside.substr(0, kBeside.find('X'));
+    const auto ending = kBeside.substr(kBeside.size() - kBesideSuffix);
+    if (!beside.starts_with(mark) || !beside.ends_with(ending)) return false;
     std::error_code error;
     const auto written = fs::last_write_time(file, error);
-    return !error && fs::file_time_type::clock::now() - written > kAbandonedAfter;
+    if (error || fs::file_time_type::clock::now() - written < kLockedWithin) return false;
+    const Descriptor handle(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    return handle.Valid() && ::flock(handle.Handle(), LOCK_EX | LOCK_NB) == 0;
 }
 
-void ClearAbandoned(const fs::path& target) {
+// A link that leads nowhere yet leads to the file that is to be made.
+fs::path BehindLinks(fs::path path) {
+    constexpr int kMostLinks = 40;  // as the system has it
     std::error_code error;
-    const std::string name = target.filename().string();
-    for (fs::directory_iterator entry(target.parent_path(), error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (IsAbandoned(entry->path(), name)) ::unlink(entry->path().c_str());
+    for (int i = 0; i < kMostLinks && fs::is_symlink(path, error); ++i) {
+        const fs::path next = fs::read_symlink(path, error);
+        if (error) break;
+        path = next.is_absolute() ? next : path.parent_path() / next;
     }
+    return path;
 }
 
 // 0, or the number of the first error.
@@ -137,7 +158,8 @@ int ReplaceFile(const fs::path& target, std::string_view bytes, Durability durab
     std::string beside = target.string() + std::string(kBeside);
     Descriptor file(::mkstemps(beside.data(), kBesideSuffix));
     if (!file.Valid()) return errno;
-    int error = ErrorOf(::fchmod(file.Handle(), ModeFor(target)));
+    int error = ErrorOf(::flock(file.Handle(), LOCK_EX | LOCK_NB));
+    if (error == 0) error = ErrorOf(::fchmod(file.Handle(), ModeFor(target)));
     if (error == 0) error = WriteAll(file.Handle(), bytes);
     if (error == 0 && durability == Durability::Flushed) error = ErrorOf(::fsync(file.Handle()));
     if (!file.Close() && error == 0) error = errno;
@@ -149,7 +171,6 @@ int ReplaceFile(const fs::path& target, std::string_view bytes, Durability durab
     const Descriptor folder(
         ::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder.Valid()) ::fsync(folder.Handle());
-    if (durability == Durability::Flushed) ClearAbandoned(target);
     return 0;
 }
 
@@ -205,6 +226,28 @@ fs::path DataFiles::Resolve(std::string_view name) const {
     return ExistingSpelling(bare ? data_folder_ / path : fs::path(path));
 }
 
+// What is asked for at every event must not cost a look at each name of a large folder.
+fs::path DataFiles::ExistingSpelling(const fs::path& wanted) const {
+    std::error_code error;
+    if (fs::exists(wanted, error)) return wanted;
+    const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
+    struct stat about {};
+    if (::stat(folder.c_str(), &about) != 0) return wanted;
+    const std::lock_guard<std::mutex> lock(missing_in_use_);
+    MissingNames& missing = missing_[folder];
+    if (!Equal(missing.folder_changed, about.st_mtim)) missing = {about.st_mtim, {}};
+    if (missing.names.contains(wanted.filename())) return wanted;
+    fs::path found = SpellingIn(folder, wanted);
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    // The clock of a file system ticks slowly: a change just after this look may bear the same
+    // time.
+    if (found == wanted && SecondsBetween(about.st_mtim, now) > kSettledAfter) {
+        missing.names.insert(wanted.filename());
+    }
+    return found;
+}
+
 FileText DataFiles::OpenForInput(std::string_view name, std::uintmax_t largest) const {
     const fs::path path = Resolve(name);
     ClearReadOnly(path);
@@ -226,14 +269,24 @@ FileStatus DataFiles::ReplaceBytes(std::string_view name, std::string_view bytes
     fs::path path = Resolve(name);
     std::error_code no_such_file;
     const fs::path real = fs::canonical(path, no_such_file);
-    if (!no_such_file) path = real;
+    path = no_such_file ? BehindLinks(path) : real;
     ClearReadOnly(path);
     struct stat about {};
-    const bool in_the_way = ::stat(path.c_str(), &about) == 0 && !S_ISREG(about.st_mode);
-    const int error = in_the_way ? NoFileError(about) : ReplaceFile(path, bytes, durability);
+    const int seen = ErrorOf(::stat(path.c_str(), &about));
+    const bool in_the_way = seen == 0 && !S_ISREG(about.st_mode);
+    int error = in_the_way ? NoFileError(about) : seen;  // a circle of links is in the way too
+    if (!in_the_way && seen != ELOOP) error = ReplaceFile(path, bytes, durability);
     if (error == 0) return FileStatus::Ok;
     if (reason != nullptr) *reason = SystemWords(error);
     return FileStatus::NotWritten;
+}
+
+void DataFiles::ClearAbandoned() const {
+    std::error_code error;
+    for (fs::directory_iterator entry(data_folder_, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (IsAbandoned(entry->path())) ::unlink(entry->path().c_str());
+    }
 }
 
 RecordFile DataFiles::OpenRandom(std::string_view name, std::size_t record_length) const {

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -71,8 +75,7 @@ class DataFiles {
     FileText OpenForInput(std::string_view name, std::uintmax_t largest = kLargestText) const;
 
     // Replaces the whole file by `text` (encoded as the suite's files are): written beside it,
-    // flushed and renamed, so that the old or the new content stands there, never half. What an
-    // earlier write that was cut off has left beside it is cleared away. Ok, or
+    // flushed and renamed, so that the old or the new content stands there, never half. Ok, or
     // NotWritten with the words of the system in `reason` ("No space left on device").
     FileStatus OpenForOutput(std::string_view name, std::string_view text,
                              Durability durability = Durability::Flushed,
@@ -98,8 +101,20 @@ class DataFiles {
     // Empty when there is no such file.
     std::optional<FileStamp> Stamp(std::string_view name) const;
 
+    // Removes from the data folder what writers that were killed have left there.
+    void ClearAbandoned() const;
+
   private:
+    // Which names a folder did not have in any spelling, as long as it does not change.
+    struct MissingNames {
+        timespec folder_changed{};
+        std::set<std::filesystem::path> names;
+    };
+    std::filesystem::path ExistingSpelling(const std::filesystem::path& wanted) const;
+
     std::filesystem::path data_folder_;
+    mutable std::mutex missing_in_use_;  // tables are computed by two threads
+    mutable std::map<std::filesystem::path, MissingNames> missing_;
     bool delete_warning_given_ = false;
     mutable std::uint64_t own_writes_ = 0;
 };

@@ -25,6 +25,20 @@ bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> word
     return std::find(words.begin(), words.end(), text) != words.end();
 }
 
+std::string Excerpt(std::string_view text) {
+    constexpr std::size_t kLongest = 40;  // bytes
+    std::size_t length = std::min(text.size(), kLongest);
+    const auto in_character = [text](std::size_t place) {
+        return place < text.size() && (static_cast<unsigned char>(text[place]) & 0xC0U) == 0x80U;
+    };
+    for (int i = 0; i < 3 && in_character(length); ++i) --length;
+    std::string excerpt(text.substr(0, length));
+    for (char& c : excerpt) {
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
+    }
+    return length < text.size() ? excerpt + "..." : excerpt;
+}
+
 int OemCharToAnsi(int code) {
     constexpr std::array<std::pair<int, int>, 9> kMoved = {{{129, 252},
                                                             {132, 228},

@@ -14,6 +14,9 @@ std::string MakeFileNameSafe(int mode, std::string& text);
 // Whether `text` is one of a few words, such as the tags of languages that share a wording.
 bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> words);
 
+// A piece of foreign text for a message: no control characters, and not longer than a few words.
+std::string Excerpt(std::string_view text);
+
 // A character code of the old DOS code page, as the suite's catalogue files store their names, in
 // the Windows code page. Umlauts, sharp s and the degree sign move, a double quote gives -1, all
 // other codes stay.

@@ -36,6 +36,14 @@ ByteSink SinkOf(int descriptor) {
     };
 }
 
+SourceBuffer::int_type SourceBuffer::underflow() {
+    const auto count = source_(block_);
+    failed_ = failed_ || !count;
+    if (!count || *count == 0) return traits_type::eof();
+    setg(block_.data(), block_.data(), block_.data() + *count);
+    return traits_type::to_int_type(block_[0]);
+}
+
 void BufferedSink::Flush() {
     if (!buffer.empty() && !failed_) failed_ = !sink_(buffer);
     buffer.clear();

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
+#include <streambuf>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +22,21 @@ using ByteSink = std::function<bool(std::string_view bytes)>;
 // The ends of open files. The descriptors stay with the caller.
 ByteSource SourceOf(int descriptor);
 ByteSink SinkOf(int descriptor);
+
+// Lets a reader of lines read from a source. What cannot be read ends the input, and is told.
+class SourceBuffer : public std::streambuf {
+  public:
+    explicit SourceBuffer(ByteSource source) : source_(std::move(source)) {}
+    bool Failed() const { return failed_; }
+
+  protected:
+    int_type underflow() override;
+
+  private:
+    ByteSource source_;
+    std::array<char, 1U << 12U> block_{};
+    bool failed_ = false;
+};
 
 // Collects what is written until it is worth a call of the sink.
 class BufferedSink {

@@ -1,6 +1,5 @@
 #include <unistd.h>
 
-#include <fstream>
 #include <iostream>
 
 #include "command/command_line.h"
@@ -41,12 +40,13 @@ bool RunSelection(const CommandLine& line, std::string& error) {
 }
 
 bool RunScript(const CommandLine& line, std::string& error) {
-    if (line.input == "-") return RunForm(line, std::cin, std::cout, error);
     const int file = OpenInput(line.input, error);
     if (file < 0) return false;
-    ::close(file);
-    std::ifstream script(line.input);
-    return NamingTheFile(RunForm(line, script, std::cout, error), line, error);
+    SourceBuffer source(SourceOf(file));
+    std::istream script(&source);
+    if (!NamingTheFile(RunForm(line, script, std::cout, error), line, error)) return false;
+    if (source.Failed()) error = NameOfInput(line.input) + ": cannot be read";
+    return !source.Failed();
 }
 
 bool Run(const CommandLine& line, std::string& error) {
@@ -68,6 +68,7 @@ int main(int count, char** arguments) {
     std::string error;
     if (const auto status = ReadCommandLine(count, arguments, line, std::cout, error)) {
         if (!error.empty()) ReportFailure(error);
+        if (!std::cout.flush()) return ReportFailure("the output cannot be written");
         return *status;
     }
     if (line.verb == Verb::Chart || line.verb == Verb::Print) {

@@ -1,4 +1,5 @@
 #include "base/text_encoding.h"
+#include "base/text_helpers.h"
 #include "command/catalogue_folder.h"
 #include "command/duty_calculation.h"
 #include "command/record_writer.h"

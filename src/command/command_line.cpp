@@ -8,6 +8,7 @@
 
 #include "base/shared_values.h"
 #include "base/text_encoding.h"
+#include "base/text_helpers.h"
 #include "canvas/canvas.h"
 #include "command/table_cells.h"
 #include "selection/catalogue.h"
@@ -287,7 +288,10 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
         "Zandrell without a window: states of humid air, searches, charts, forms, catalogues.",
         "zandrell-calc");
     TypedOptions typed;
-    app.add_option("--data", typed.data, "the data folder; without it the one of the program");
+    app.add_option("--data", typed.data, "the data folder; without it the one of the program")
+        ->check([](const std::string& name) {
+            return name.empty() ? std::string("the name of the folder is empty") : std::string();
+        });
     app.set_version_flag("--version", std::string(kVersion));
     app.footer(kExamples);
     app.require_subcommand(0, 1);  // the library would not name a word that is no verb

@@ -69,13 +69,16 @@ int ReportFailure(const std::string& line) {
     return 1;
 }
 
+std::string NameOfInput(const std::string& name) { return name == "-" ? "standard input" : name; }
+
 int OpenInput(const std::string& name, std::string& error) {
-    if (name == "-") return STDIN_FILENO;
-    const int file = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool standard = name == "-";
+    const int file = standard ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
     struct stat about {};
-    if (file >= 0 && ::fstat(file, &about) == 0 && !S_ISDIR(about.st_mode)) return file;
-    error = name + ": " + (file < 0 ? SystemReason() : "is a folder");
-    if (file >= 0) ::close(file);
+    const bool open = file >= 0 && ::fstat(file, &about) == 0;
+    if (open && !S_ISDIR(about.st_mode)) return file;
+    error = NameOfInput(name) + ": " + (open ? "is a folder" : SystemReason());
+    if (open && !standard) ::close(file);
     return -1;
 }
 
@@ -88,7 +91,7 @@ bool ReadScript(const std::string& name, std::string& script, std::string& error
     for (;;) {
         const auto count = source(block);
         if (!count || script.size() > kLargestScript) {
-            error = name + (count ? ": too large for a script" : ": cannot be read");
+            error = NameOfInput(name) + (count ? ": too large for a script" : ": cannot be read");
             return false;
         }
         if (*count == 0) return true;

@@ -11,6 +11,9 @@ namespace zandrell {
 // Writes "zandrell-calc: " and the line to the standard error. Returns the status of a failure.
 int ReportFailure(const std::string& line);
 
+// How messages call an input: "-" is the standard input.
+std::string NameOfInput(const std::string& name);
+
 // Opens a file to read, "-" is the standard input. Negative, with one line in `error`, when it
 // cannot be opened or is a folder.
 int OpenInput(const std::string& name, std::string& error);

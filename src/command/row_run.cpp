@@ -5,6 +5,7 @@
 #include <system_error>
 #include <thread>
 
+#include "base/text_helpers.h"
 #include "command/record_writer.h"
 #include "command/table_cells.h"
 #include "command/table_rows.h"

@@ -148,13 +148,4 @@ void AppendJsonCell(std::string& json, std::string_view cell) {
     }
 }
 
-std::string Excerpt(std::string_view text) {
-    constexpr std::size_t kLongest = 40;
-    std::string excerpt(text.substr(0, kLongest));
-    for (char& c : excerpt) {
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
-    }
-    return text.size() > kLongest ? excerpt + "..." : excerpt;
-}
-
 }  // namespace zandrell

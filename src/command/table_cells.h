@@ -32,7 +32,4 @@ void AppendJsonString(std::string& json, std::string_view text);
 // string, so that "007" keeps its zeros.
 void AppendJsonCell(std::string& json, std::string_view cell);
 
-// A piece of foreign text for a message: no control characters, and not longer than a few words.
-std::string Excerpt(std::string_view text);
-
 }  // namespace zandrell

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/text_helpers.h"
 #include "command/record_writer.h"
 #include "command/table_cells.h"
 

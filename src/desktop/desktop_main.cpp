@@ -62,9 +62,16 @@ bool ReadSize(Arguments& arguments) {
            arguments.height >= 300 && arguments.height <= kLargestPictureSide;
 }
 
+// As seen from the folder of the start; a folder that is gone by now leaves the path as it is.
+std::filesystem::path Whole(const std::string& path) {
+    std::error_code error;
+    const auto whole = std::filesystem::absolute(path, error);
+    return error ? std::filesystem::path(path) : whole;
+}
+
 NamedFolder DataFolderOf(const Arguments& arguments) {
     if (arguments.data_folder.empty()) return {};
-    return std::filesystem::absolute(arguments.data_folder);
+    return Whole(arguments.data_folder);
 }
 
 // Most of the screen, where nobody asks for something else.
@@ -106,8 +113,7 @@ int Run(const Arguments& arguments, QApplication& application) {
     window.show();
     window.Start();
     if (!arguments.project.empty()) {
-        window.OpenProject(
-            QString::fromStdString(std::filesystem::absolute(arguments.project).string()));
+        window.OpenProject(QString::fromStdString(Whole(arguments.project).string()));
     }
     ScriptRunner script(form, window, user);
     if (!arguments.script.empty() && !script.Start(arguments.script)) {
@@ -124,7 +130,11 @@ int Run(const Arguments& arguments, QApplication& application) {
 int main(int argc, char** argv) {
     CLI::App command_line{"Humid air: Mollier and Carrier chart, processes of air treatment"};
     zandrell::Arguments arguments;
-    command_line.add_option("--data", arguments.data_folder, "The data folder")->type_name("DIR");
+    command_line.add_option("--data", arguments.data_folder, "The data folder")
+        ->type_name("DIR")
+        ->check([](const std::string& name) {
+            return name.empty() ? std::string("the name of the folder is empty") : std::string();
+        });
     command_line.add_option("--script", arguments.script, "Acts to perform after the start")
         ->type_name("FILE");
     command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");

@@ -5,8 +5,6 @@
 namespace zandrell {
 namespace {
 
-bool TakesInput(const Control& control) { return control.visible && control.enabled; }
-
 bool IsButton(const Control& control) {
     return control.kind == ControlKind::Button || control.kind == ControlKind::MenuEntry ||
            control.kind == ControlKind::Panel || control.kind == ControlKind::Picture;
@@ -22,10 +20,14 @@ bool TakesReturn(const Control& control) {
 
 }  // namespace
 
+bool WindowForm::Takes(const Control& control) const {
+    return !inert && control.visible && control.enabled;
+}
+
 bool WindowForm::UserClick(std::string_view control_name) {
     Control* control = form.Find(control_name);
     if (control == nullptr || !IsButton(*control)) return false;
-    if (!TakesInput(*control)) return true;
+    if (!Takes(*control)) return true;
     auto* button = control->kind == ControlKind::Button ? static_cast<Button*>(control) : nullptr;
     if (button != nullptr) button->pressed = true;
     acts.Perform(control_name, ActKind::Press);
@@ -39,7 +41,7 @@ bool WindowForm::UserClick(std::string_view control_name) {
 bool WindowForm::UserReturn(std::string_view field) {
     Control* control = form.Find(field);
     if (control == nullptr || !TakesReturn(*control)) return false;
-    if (!TakesInput(*control)) return true;
+    if (!Takes(*control)) return true;
     acts.Perform(field, ActKind::Return);
     Done(field, ActKind::Return);
     return true;
@@ -48,7 +50,7 @@ bool WindowForm::UserReturn(std::string_view field) {
 bool WindowForm::UserSetText(std::string_view field, std::string_view text) {
     Control* control = form.Find(field);
     if (control == nullptr || !TakesText(*control)) return false;
-    if (!TakesInput(*control)) return true;
+    if (!Takes(*control)) return true;
     control->text = text;
     if (auto* list = AsChoiceList(control)) list->Choose(text);
     acts.Perform(field, ActKind::Change);
@@ -59,7 +61,7 @@ bool WindowForm::UserSetText(std::string_view field, std::string_view text) {
 bool WindowForm::UserChoose(std::string_view option) {
     Control* control = form.Find(option);
     if (control == nullptr || control->kind != ControlKind::OptionButton) return false;
-    if (!TakesInput(*control)) return true;
+    if (!Takes(*control)) return true;
     acts.Perform(option, ActKind::Choose);
     Done(option, ActKind::Choose);
     return true;
@@ -68,7 +70,7 @@ bool WindowForm::UserChoose(std::string_view option) {
 bool WindowForm::UserCheck(std::string_view box, bool on) {
     Control* control = form.Find(box);
     if (control == nullptr || control->kind != ControlKind::CheckBox) return false;
-    if (TakesInput(*control)) {
+    if (Takes(*control)) {
         static_cast<CheckBox*>(control)->on = on;
         acts.Perform(box, ActKind::Check);
         Done(box, ActKind::Check);
@@ -79,7 +81,7 @@ bool WindowForm::UserCheck(std::string_view box, bool on) {
 bool WindowForm::UserScroll(std::string_view bar, int position) {
     Control* control = form.Find(bar);
     if (control == nullptr || control->kind != ControlKind::ScrollBar) return false;
-    if (!TakesInput(*control)) return true;
+    if (!Takes(*control)) return true;
     static_cast<ScrollBar*>(control)->SetPosition(position);
     Done(bar, ActKind::Scroll);
     return true;
@@ -88,7 +90,7 @@ bool WindowForm::UserScroll(std::string_view bar, int position) {
 bool WindowForm::UserPick(std::string_view list, std::string_view item) {
     ChoiceList* choices = AsChoiceList(form.Find(list));
     if (choices == nullptr) return false;
-    if (!TakesInput(*choices)) return true;
+    if (!Takes(*choices)) return true;
     if (!choices->Choose(item)) return false;
     acts.Perform(list, ActKind::Select);
     Done(list, ActKind::Select);
@@ -98,7 +100,7 @@ bool WindowForm::UserPick(std::string_view list, std::string_view item) {
 bool WindowForm::UserSelect(std::string_view list, int index) {
     ChoiceList* choices = AsChoiceList(form.Find(list));
     if (choices == nullptr) return false;
-    if (!TakesInput(*choices)) return true;
+    if (!Takes(*choices)) return true;
     if (!choices->Choose(index)) return false;
     acts.Perform(list, ActKind::Select);
     Done(list, ActKind::Select);
@@ -108,7 +110,7 @@ bool WindowForm::UserSelect(std::string_view list, int index) {
 bool WindowForm::UserDoubleClick(std::string_view list) {
     ChoiceList* choices = AsChoiceList(form.Find(list));
     if (choices == nullptr) return false;
-    if (!TakesInput(*choices)) return true;
+    if (!Takes(*choices)) return true;
     acts.Perform(list, ActKind::DoubleClick);
     Done(list, ActKind::DoubleClick);
     return true;

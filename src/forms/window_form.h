@@ -27,6 +27,7 @@ class WindowForm {
     // A skin's picture behind everything, file in the data folder; empty: as designed.
     std::string ground_picture;
 
+    bool inert = false;     // takes no more input: its program has ended
     bool modified = false;  // the work shown differs from its file; the title bar tells so
 
     // A bar that is dragged: the number of the drag; 0: none is.
@@ -51,6 +52,7 @@ class WindowForm {
     bool UserDoubleClick(std::string_view list);
 
   private:
+    bool Takes(const Control& control) const;
     void Done(std::string_view control, ActKind kind) const {
         if (after_act) after_act(control, kind);
     }

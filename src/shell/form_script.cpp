@@ -1,6 +1,7 @@
 #include "shell/form_script.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <iterator>
@@ -9,6 +10,8 @@
 #include <sstream>
 
 #include "base/number_text.h"
+#include "base/text_encoding.h"
+#include "base/text_helpers.h"
 #include "canvas/canvas.h"
 #include "shell/form_dump.h"
 #include "shell/help_in_hand.h"
@@ -56,7 +59,11 @@ std::string BehindAct(std::string_view line) {
     return value == std::string_view::npos ? std::string() : std::string(line.substr(value));
 }
 
+// A text for a field; what is larger, or no plain file, is none.
 bool ReadWholeFile(const std::string& path, std::string& content) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return false;
+    if (std::filesystem::file_size(path, error) > DataFiles::kLargestText || error) return false;
     std::ifstream file(path, std::ios::binary);
     if (!file) return false;
     content.assign(std::istreambuf_iterator<char>(file), {});
@@ -96,6 +103,19 @@ bool Fail(std::string& error, const std::string& reason) {
 
 }  // namespace
 
+bool ReadScriptLine(std::istream& script, std::string& line) {
+    line.clear();
+    std::streambuf& bytes = *script.rdbuf();
+    constexpr auto kEnd = std::char_traits<char>::eof();
+    for (;;) {
+        const int byte = bytes.sbumpc();
+        if (byte == '\n') return true;
+        if (byte == kEnd) return !line.empty();
+        line += static_cast<char>(byte);
+        if (line.size() > kLongestScriptLine) return true;
+    }
+}
+
 std::vector<std::string> ActsOf(std::string line) {
     if (line.ends_with('\r')) line.pop_back();
     if (WordsOf(line).empty() || WordsOf(line)[0] != "print") return {std::move(line)};
@@ -122,15 +142,17 @@ std::string FormScript::TakeAnswer() {
     return answer;
 }
 
-bool FormScript::RunLine(std::string_view line, std::string& error) {
-    if (line.ends_with('\r')) line.remove_suffix(1);
+bool FormScript::RunLine(std::string_view written, std::string& error) {
+    if (written.ends_with('\r')) written.remove_suffix(1);
+    // Each line by itself: a bad byte in one spoils no other.
+    const std::string line = DecodeText(written);
     const Words words = WordsOf(line);
     if (words.empty() || words[0].front() == '#') return true;
     const std::string& act = words[0];
     if (act == "dump") return Dump(words, error);
     if (act == "answer") {
         const auto value = line.find_first_not_of(" \t", line.find("answer") + 6);
-        answers_.emplace_back(value == std::string_view::npos ? "" : line.substr(value));
+        answers_.emplace_back(value == std::string::npos ? "" : line.substr(value));
         return true;
     }
     if (act == "close" && window_ != nullptr) return window_->UserClick(window_->cancel_control);
@@ -141,7 +163,7 @@ bool FormScript::RunLine(std::string_view line, std::string& error) {
         if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
         return act == "pointer" ? RunPointer(words, error) : RunWindowAct(words, error);
     }
-    if (words.size() < 2) return Fail(error, "unknown act or missing name: " + act);
+    if (words.size() < 2) return Fail(error, "unknown act or missing name: " + Excerpt(act));
     return RunControlAct(act, words[1], ValueOf(line), error);
 }
 
@@ -177,6 +199,7 @@ bool FormScript::RunPrinter(std::string_view line, std::string& error) {
 
 // As another module of the suite would open a window.
 bool FormScript::OpenWindow(const Words& words, const std::string& value, std::string& error) {
+    if (form_.ended) return true;
     if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
     const std::string window = words.size() > 1 ? words[1] : "";
     if (window == "Hilfebox") {
@@ -199,7 +222,7 @@ bool FormScript::RunPointer(const Words& words, std::string& error) {
         words.size() >= 4 && ReadNumber(words[2], place.x) && ReadNumber(words[3], place.y);
     if (!placed) return Fail(error, "pointer needs move, press or release and a place");
     if (words.size() > 4 && words[4] != "left" && words[4] != "right") {
-        return Fail(error, "unknown pointer button: " + words[4]);
+        return Fail(error, "unknown pointer button: " + Excerpt(words[4]));
     }
     const bool right = words.size() > 4 && words[4] == "right";
     const PointerButton button = right ? PointerButton::Right : PointerButton::Left;
@@ -210,7 +233,7 @@ bool FormScript::RunPointer(const Words& words, std::string& error) {
     } else if (words[1] == "release") {
         form_.PointerRelease(button);
     } else {
-        return Fail(error, "unknown pointer act: " + words[1]);
+        return Fail(error, "unknown pointer act: " + Excerpt(words[1]));
     }
     return true;
 }
@@ -219,16 +242,18 @@ bool FormScript::Find(const std::string& name, Target& target, std::string& erro
     const auto dot = name.find('.');
     if (dot == std::string::npos) {
         target = {&form_, name};
-        if (form_.form.Find(name) == nullptr) return Fail(error, "unknown name: " + name);
+        if (form_.form.Find(name) == nullptr) return Fail(error, "unknown name: " + Excerpt(name));
         if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
         return true;
     }
     const std::string window = name.substr(0, dot);
     target = {window_, name.substr(dot + 1)};
     if (window_ == nullptr || window_->form.Name() != window) {
-        return Fail(error, "no open window " + window);
+        return Fail(error, "no open window " + Excerpt(window));
     }
-    if (window_->form.Find(target.control) == nullptr) return Fail(error, "unknown name: " + name);
+    if (window_->form.Find(target.control) == nullptr) {
+        return Fail(error, "unknown name: " + Excerpt(name));
+    }
     return true;
 }
 
@@ -238,14 +263,15 @@ bool FormScript::RunControlAct(const std::string& act, const std::string& name,
     const bool known = act == "set" || act == "return" || act == "click" || act == "choose" ||
                        act == "check" || act == "select" || act == "pick" || act == "doubleclick" ||
                        act == "fill" || act == "scroll" || act == "key";
-    if (!known) return Fail(error, "unknown act: " + act);
+    if (!known) return Fail(error, "unknown act: " + Excerpt(act));
     if (!Find(name, target, error)) return false;
     WindowForm& window = *target.window;
     bool done = false;
     if (act == "set") done = window.UserSetText(target.control, value);
     if (act == "fill") {
         std::string content;
-        if (!ReadWholeFile(value, content)) return Fail(error, value + ": can not be read");
+        if (!ReadWholeFile(value, content))
+            return Fail(error, Excerpt(value) + ": can not be read");
         done = window.UserSetText(target.control, content);
     }
     if (act == "pick") done = window.UserPick(target.control, value);
@@ -290,14 +316,14 @@ bool FormScript::RunKey(const Target& target, const std::string& key, std::strin
         if (position) return window.UserScroll(target.control, *position);
     }
     if (key == "Tab" || key == "Escape") return true;
-    return Fail(error, "key " + key + " does nothing in " + target.control);
+    return Fail(error, "key " + Excerpt(key) + " does nothing in " + target.control);
 }
 
 bool FormScript::Dump(const Words& words, std::string& error) {
     Json json = words.size() == 1 ? DumpForm(form_) : Json::object();
     for (std::size_t i = 1; i < words.size(); ++i) {
         Json one = DumpOne(form_, words[i]);
-        if (one.is_null()) return Fail(error, "unknown name: " + words[i]);
+        if (one.is_null()) return Fail(error, "unknown name: " + Excerpt(words[i]));
         json[words[i]] = std::move(one);
     }
     Json dialogs = Json::array();
@@ -327,8 +353,12 @@ bool ScriptedUser::Run(MainForm& form, std::string& error, WindowSize size) {
 bool ScriptedUser::ReadAct(std::string& act) {
     if (acts_ahead_.empty()) {
         std::string line;
-        if (!std::getline(script_, line)) return false;
+        if (!ReadScriptLine(script_, line)) return false;
         ++line_number_;
+        if (line.size() > kLongestScriptLine) {
+            error_ = "line " + std::to_string(line_number_) + ": too long for an act";
+            return false;
+        }
         for (std::string& one : ActsOf(line)) acts_ahead_.push_back(std::move(one));
     }
     act = std::move(acts_ahead_.front());

@@ -10,6 +10,13 @@
 
 namespace zandrell {
 
+// What is longer is no act.
+inline constexpr std::size_t kLongestScriptLine = 1U << 20U;
+
+// The next line of a script without its end; false behind the last. Of a line that is too long only
+// its beginning is read, a byte more than the longest act.
+bool ReadScriptLine(std::istream& script, std::string& line);
+
 // The acts of one line of a script: `print FILE` stands for the three of a print-out, any other
 // line for itself.
 std::vector<std::string> ActsOf(std::string line);
@@ -22,7 +29,7 @@ class FormScript {
 
     // False when the line cannot be understood, with the reason. Blank lines and comments do
     // nothing.
-    bool RunLine(std::string_view line, std::string& error);
+    bool RunLine(std::string_view written, std::string& error);
 
     // What opened since the last dump.
     void NoteMessage(const Message& message) { opened_.push_back(message); }

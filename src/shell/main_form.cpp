@@ -80,6 +80,7 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
 
 void MainForm::Load() {
     const auto missing_folder = ReadSuiteParameters(named_folder_, files_, shared);
+    files_.ClearAbandoned();
     LoadCaptions(files_, shared.LanguageTag, captions);
     LoadAirCoCaptions(files_, shared.LanguageTag, captions);
     LoadQVCaptions(files_, shared.LanguageTag, captions);
@@ -99,7 +100,7 @@ void MainForm::Load() {
 }
 
 void MainForm::Resize(int width, int height) {
-    if (width <= 0 || height <= 0) return;
+    if (ended || width <= 0 || height <= 0) return;
     panels_.Resize(width, height);
     if (!chart.FollowWidth(panels_.WidthTwips())) return;
     chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, solver.ChartDruckBar);
@@ -107,6 +108,7 @@ void MainForm::Resize(int width, int height) {
 }
 
 void MainForm::Activate() {
+    if (ended) return;
     const auto last_step = [this] { shared.ZurueckVomDialog = DialogEcho::None; };
     if (shared.ZurueckVomDialog != DialogEcho::None || chart.printing) return last_step();
     const OptionsSignal signal = shared.OptionenSignal;
@@ -136,6 +138,7 @@ void MainForm::Activate() {
 }
 
 void MainForm::PointerPress(PointerButton button, CanvasPoint place) {
+    if (ended) return;
     // The right button acts when it is let go.
     if (button != PointerButton::Left) return;
     pointer_.Press(place);
@@ -143,11 +146,13 @@ void MainForm::PointerPress(PointerButton button, CanvasPoint place) {
 }
 
 void MainForm::PointerMove(CanvasPoint place) {
+    if (ended) return;
     pointer_.Move(place);
     if (pointer_.Marks().CarriesAny()) processes.NoteFields();
 }
 
 void MainForm::PointerRelease(PointerButton button) {
+    if (ended) return;
     if (button == PointerButton::Right) {
         OpenOptions();
     } else {
@@ -157,6 +162,7 @@ void MainForm::PointerRelease(PointerButton button) {
 }
 
 void MainForm::OpenOptions() {
+    if (ended) return;
     panels_.HideBoth();
     pointer_.OptionsOpened();
     overlay.AnlageMarkenLoeschen();
@@ -169,6 +175,7 @@ void MainForm::OpenOptions() {
 }
 
 void MainForm::Print() {
+    if (ended) return;
     printing.Druck_start();
     // A cancelled setup leaves everything as it was, and the window is not activated either.
     if (shared.print_setup_signal == PrintSetupSignal::Closed) Activate();
@@ -187,11 +194,13 @@ void MainForm::PaintAgain() {
 }
 
 void MainForm::ShowPreview() {
+    if (ended) return;
     printing.ShowPreview();
     SetTitle();
 }
 
 void MainForm::OpenHelp(HelpTopic topic) {
+    if (ended) return;
     shared.DateText = TopicText(topic, shared, captions);
     help.ShowHelp();
 }
@@ -211,6 +220,7 @@ void MainForm::AuswahlOeffnen() {
 }
 
 void MainForm::OpenProject(const std::filesystem::path& path) {
+    if (ended) return;
     projects_.OpenProject(path);
     FollowAct({}, ActKind::Click);
 }
@@ -246,13 +256,15 @@ void MainForm::ende_qv() {
 void MainForm::ExitWithoutSaving() {
     const Message question{shared.AppTitle, captions[Caption::UnsavedInputsQuestion],
                            MessageIcon::Question};
+    if (ended) return;
     if (projects_.keeper.IsSaved() || user_.Confirm(question)) CloseWindow();
 }
 
+// From here on nothing is taken any more: events still come while the pauses run.
 void MainForm::CloseWindow() {
-    user_.WaitMilliseconds(kClosingPause);
-    ended = true;
-    user_.WaitMilliseconds(kClosingPause);
+    ended = inert = true;
+    for (ModalForm* window : WindowsOf(*this)) window->closed = window->inert = true;
+    user_.WaitMilliseconds(2 * kClosingPause);
 }
 
 }  // namespace zandrell

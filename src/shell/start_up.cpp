@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -29,6 +30,12 @@ fs::path FolderOfVariable(const char* name) {
     const char* value = std::getenv(name);
     // A relative path in such a variable is to be ignored by the rules of the desktop folders.
     return value != nullptr && value[0] == '/' ? fs::path(value) : fs::path();
+}
+
+// Other characters would lead a file name out of the data folder.
+bool IsLanguageTag(const std::string& text) {
+    const auto is_letter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    return text.size() == 3 && std::all_of(text.begin(), text.end(), is_letter);
 }
 
 bool IsTooShort(const std::string& text) { return text.size() < 3; }
@@ -73,7 +80,7 @@ std::optional<fs::path> TakeFolders(const std::array<std::string, kParameterFiel
 }
 
 void TakeTexts(const std::array<std::string, kParameterFields + 1>& fields, SharedValues& shared) {
-    shared.LanguageTag = IsTooShort(fields[4]) ? "ENG" : fields[4];
+    shared.LanguageTag = IsLanguageTag(fields[4]) ? fields[4] : "ENG";
     shared.CurrencyTag = fields[5].empty() ? "EUR" : fields[5];
     shared.PrintFontName = IsTooShort(fields[6]) ? "Arial" : fields[6];
     shared.UserCompany = fields[7];

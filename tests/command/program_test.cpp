@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <array>
@@ -14,12 +15,12 @@ struct Ending {
     std::string output;
 };
 
-// Runs the built program by the shell; what goes to the standard error is part of the output.
-Ending RunProgram(const std::string& arguments, const std::string& input = "") {
-    const std::string command =
-        "printf '" + input + "' | '" + ZANDRELL_CALC + "' " + arguments + " 2>&1";
+// What goes to the standard error is part of the output.
+Ending RunShell(const std::string& command) {
+    const zandrell::TestFolder folder;
+    folder.Write("command.sh", command);
     Ending ending;
-    FILE* program = ::popen(command.c_str(), "r");
+    FILE* program = ::popen(("bash '" + (folder / "command.sh").string() + "' 2>&1").c_str(), "r");
     if (program == nullptr) return ending;
     std::array<char, 4096> block{};
     for (std::size_t count = 0; (count = std::fread(block.data(), 1, block.size(), program)) > 0;) {
@@ -28,6 +29,11 @@ Ending RunProgram(const std::string& arguments, const std::string& input = "") {
     const int result = ::pclose(program);
     if (WIFEXITED(result)) ending.status = WEXITSTATUS(result);
     return ending;
+}
+
+// The built program, which reads `input`.
+Ending RunProgram(const std::string& arguments, const std::string& input = "") {
+    return RunShell("printf '" + input + "' | '" + ZANDRELL_CALC + "' " + arguments);
 }
 
 TEST(Program, AnswersAndSaysByItsStatusHowItWent) {
@@ -56,6 +62,45 @@ TEST(Program, AnswersAndSaysByItsStatusHowItWent) {
     EXPECT_EQ(RunProgram("state nowhere.csv" + data).output,
               "zandrell-calc: nowhere.csv: No such file or directory\n");
     EXPECT_EQ(RunProgram("form ." + data).output, "zandrell-calc: .: is a folder\n");
+}
+
+// What stands in the place of a script, of an output or of the folder that a program works in.
+TEST(Program, HostileEndsGetOneShortLine) {
+    const zandrell::TestFolder folder;
+    folder.CopyWholeSet();
+    const std::string path = folder.Path().string();
+    const std::string data = " --data '" + path + "'";
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    const struct {
+        std::string arguments;
+        int status;
+        const char* says;
+    } cases[] = {
+        {"form -" + data + " </", 1, "standard input: is a folder"},
+        {"form -" + data + " <&-", 1, "standard input: Bad file descriptor"},
+        {"form /dev/zero" + data, 1, "/dev/zero: line 1: too long for an act"},
+        {"form -" + data + " </dev/zero", 1, "line 1: too long for an act"},
+        {"form '" + path + "/pipe'" + data + " & echo dump ended >'" + path + "/pipe'; wait $!", 0,
+         "{\"ended\":false"},
+        {"--help >/dev/full", 1, "the output cannot be written"},
+        {"form -" + data + " <<<dump >/dev/full", 1, "the output cannot be written"},
+        {"state --t 20 --rh 50 --data \"\"", 2, "--data: the name of the folder is empty"},
+    };
+    for (const auto& c : cases) {
+        const Ending ending = RunShell("ulimit -v 3000000; '" ZANDRELL_CALC "' " + c.arguments);
+        EXPECT_EQ(ending.status, c.status) << c.arguments;
+        EXPECT_NE(ending.output.find(c.says), std::string::npos) << c.arguments << ending.output;
+        EXPECT_LT(ending.output.size(), 300U) << c.arguments;
+    }
+    // Relative to a folder that is gone meanwhile.
+    const Ending gone =
+        RunShell("mkdir '" + path + "/gone'; cd '" + path +
+                 "/gone'; rmdir ../gone; '" ZANDRELL_CALC "' --data x form - <<<'dump ended'");
+    EXPECT_LT(gone.status, 2) << gone.output;
+    const Ending act =
+        RunShell("head -c 900000 /dev/zero | tr '\\0' a | '" ZANDRELL_CALC "' form -" + data);
+    EXPECT_EQ(act.output.find("zandrell-calc: line 1: unknown act or missing name: aaaa"), 0U);
+    EXPECT_LT(act.output.size(), 120U);
 }
 
 TEST(Program, StartsWithoutTheToolkit) {

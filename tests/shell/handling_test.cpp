@@ -155,5 +155,39 @@ TEST(Start, ADataFolderThatIsNotThereIsNamed) {
     EXPECT_EQ(TextOf(dump, "Label24"), "Project :") << "the window has its words";
 }
 
+// Events still come while the program goes down; none of them opens or writes anything.
+TEST(End, AfterItNoActDoesAnything) {
+    for (const char* ending : {"click Command3D7\n", "close\n"}) {
+        ScriptSession session;
+        const auto dumps =
+            session.Run(std::string(kPlant) + "click AnlageAbButt\n" + ending +
+                        "dump\nset Taus 99\nclick PSButt\nclick optButt\nclick AnlageButt\n"
+                        "open ProjLaden 1\nopen Hilfebox\npointer press 300 300 right\n"
+                        "pointer release 300 300 right\nwindow 900 600\nclick druckbutt\ndump\n");
+        EXPECT_EQ(dumps[0]["ended"], true);
+        EXPECT_EQ(dumps[1], dumps[0]) << ending;
+        EXPECT_EQ(session.folder.Read("QV_ACT.dat").find("99"), std::string::npos) << ending;
+    }
+}
+
+// A byte that is no UTF-8 in one field leaves the others as they are.
+TEST(Script, EachLineIsDecodedByItself) {
+    ScriptSession session;
+    const Json dump = session.RunOnce("set Proj_T K\xC3\xBChlhaus\nset Schr_T caf\xE9\ndump\n");
+    EXPECT_EQ(TextOf(dump, "Proj_T"), "K\xC3\xBChlhaus");
+    EXPECT_EQ(TextOf(dump, "Schr_T"), "caf\xC3\xA9");
+}
+
+// A tag with a slash would lead out of the data folder.
+TEST(Start, ALanguageTagIsThreeLetters) {
+    for (const char* tag : {"../x", "DE", "DEUT", "D/U", "12A"}) {
+        ScriptSession session;
+        std::string parameters = session.folder.Read("kparam.dat");
+        parameters.replace(parameters.find("\"ENG\"") + 1, 3, tag);
+        session.folder.Write("kparam.dat", parameters);
+        EXPECT_EQ(session.RunOnce("dump LanguageTag\n")["LanguageTag"], "ENG") << tag;
+    }
+}
+
 }  // namespace
 }  // namespace zandrell
