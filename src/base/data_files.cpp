@@ -255,6 +255,7 @@ FileText DataFiles::OpenForInput(std::string_view name, std::uintmax_t largest) 
     int error = 0;
     const FileStatus status = ReadAll(path, largest, bytes, error);
     if (status == FileStatus::Unreadable) return {status, {}, SystemWords(error)};
+    if (status == FileStatus::Malformed) return {status, {}, SystemWords(EFBIG)};
     return {status, status == FileStatus::Ok ? DecodeText(bytes) : std::string(), {}};
 }
 
@@ -279,6 +280,17 @@ FileStatus DataFiles::ReplaceBytes(std::string_view name, std::string_view bytes
     if (error == 0) return FileStatus::Ok;
     if (reason != nullptr) *reason = SystemWords(error);
     return FileStatus::NotWritten;
+}
+
+bool DataFiles::Rename(std::string_view from, std::string_view to, std::string& reason) const {
+    ++own_writes_;
+    const fs::path path = Resolve(from);
+    struct stat about {};
+    int error = ErrorOf(::stat(path.c_str(), &about));
+    if (error == 0 && !S_ISREG(about.st_mode)) error = NoFileError(about);
+    if (error == 0) error = ErrorOf(::rename(path.c_str(), Resolve(to).c_str()));
+    reason = SystemWords(error);
+    return error == 0;
 }
 
 void DataFiles::ClearAbandoned() const {

@@ -86,6 +86,10 @@ class DataFiles {
                             Durability durability = Durability::Flushed,
                             std::string* reason = nullptr) const;
 
+    // Gives a plain file another name, in whose place it comes. On failure `reason` has the words
+    // of the system.
+    bool Rename(std::string_view from, std::string_view to, std::string& reason) const;
+
     // For reading only; a missing file is not created. Record length 0 means 128.
     RecordFile OpenRandom(std::string_view name, std::size_t record_length) const;
 

@@ -20,6 +20,10 @@ void AssignRounded(int& target, double value) {
 
 }  // namespace
 
+bool IsUsable(double span) {
+    return span > 0 && std::isfinite(span) && std::isfinite(kChartWidth / span);
+}
+
 CanvasPoint ChartScale::Turned(CanvasPoint mollier) const {
     if (DiagrammArt == kMollier) return mollier;
     return {kCarrierRight - mollier.y * CarrierFaktor, kCarrierBottom - mollier.x / CarrierFaktor};
@@ -58,12 +62,12 @@ void SuiteScale(const ChartSettings& settings, ChartScale& scale) {
     const double spanX = settings.ChartXMax - settings.ChartXMin;
     scale.NullpunktX = kLeftEdge;
     scale.NullpunktY = mollier ? kBottomEdgeMollier : kBottomEdgeCarrier;
-    if (spanT > 0 && std::isfinite(spanT)) {
+    if (IsUsable(spanT)) {
         scale.spanT = spanT;
         scale.MassstabT = kChartHeight / spanT;
         AssignRounded(scale.VersatzT, std::floor(settings.ChartTMin * scale.MassstabT));
     }
-    if (spanX > 0 && std::isfinite(spanX)) {
+    if (IsUsable(spanX)) {
         scale.spanX = spanX;
         scale.MassstabX = kChartWidth / spanX;
         AssignRounded(scale.VersatzX, std::floor(settings.ChartXMin * scale.MassstabX));

@@ -18,6 +18,10 @@ struct ZoomFrame {
     double left = 0, top = 0, width = 0, height = 0;
 };
 
+// Whether an axis can show a span: it is positive, and neither it nor what it makes of a canvas
+// unit is beyond all numbers. Other spans leave the scale as it is.
+bool IsUsable(double span);
+
 // The transform between states and canvas units. There is no skew: x runs along one axis, t along
 // the other; the Carrier chart has the two exchanged.
 struct ChartScale {

@@ -49,14 +49,14 @@ void ExactScale(const ChartSettings& settings, ChartScale& scale) {
         mollier ? kMollierSpan : std::max(kLeastCarrierSpan, kChartHeight * k / kCarrierLength);
     const double spanT = share * (settings.ChartTMax - settings.ChartTMin);
     const double spanX = settings.ChartXMax - settings.ChartXMin;
-    if (spanT > 0 && std::isfinite(spanT)) {
+    if (IsUsable(spanT)) {
         scale.spanT = spanT;
         scale.MassstabT = kChartHeight / spanT;
         scale.exact.t = settings.ChartTMin;
         scale.exact.t_units =
             mollier ? kMollierBottom : std::min(kCarrierBottom, std::floor(kCarrierReach / k));
     }
-    if (spanX > 0 && std::isfinite(spanX)) {
+    if (IsUsable(spanX)) {
         scale.spanX = spanX;
         scale.MassstabX = kChartWidth / spanX;
         scale.exact.x = settings.ChartXMin;

@@ -1,10 +1,14 @@
 #include "chart/overlay.h"
 
+#include <cmath>
+
 namespace zandrell {
 namespace {
 
 constexpr double kHitSize = 13;
 constexpr double kLabelOffset = 5;
+
+bool IsFinite(CanvasPoint point) { return std::isfinite(point.x) && std::isfinite(point.y); }
 
 // One list for an overlay that may be changed and one that may not.
 template <class AnyOverlay>
@@ -23,6 +27,7 @@ auto LabelsOf(AnyOverlay& o) {
 }  // namespace
 
 void Mark::PlaceAt(CanvasPoint point, double corner_offset) {
+    if (!IsFinite(point)) return;
     state = point;
     left = point.x - corner_offset;
     top = point.y - corner_offset;
@@ -34,6 +39,7 @@ bool Mark::IsHitBy(CanvasPoint pointer) const {
 }
 
 void ChartLine::Run(CanvasPoint from, CanvasPoint to) {
+    if (!IsFinite(from) || !IsFinite(to)) return;
     x1 = from.x;
     y1 = from.y;
     x2 = to.x;
@@ -41,8 +47,13 @@ void ChartLine::Run(CanvasPoint from, CanvasPoint to) {
 }
 
 void ChartLabel::PlaceAt(CanvasPoint point) {
-    left = point.x + kLabelOffset;
-    top = point.y + kLabelOffset;
+    PlaceCornerAt({point.x + kLabelOffset, point.y + kLabelOffset});
+}
+
+void ChartLabel::PlaceCornerAt(CanvasPoint point) {
+    if (!IsFinite(point)) return;
+    left = point.x;
+    top = point.y;
 }
 
 std::array<Mark*, 9> Overlay::Marks() { return MarksOf(*this); }

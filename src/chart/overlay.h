@@ -9,6 +9,9 @@
 
 namespace zandrell {
 
+// Marks, lines and labels stay where they are when they are sent to a place that is no number: a
+// range may be too narrow for a state to have one.
+
 // A mark on the chart: a box of 14 by 14 units whose corner lies a few units up and left of its
 // state.
 struct Mark : Control {
@@ -45,6 +48,7 @@ struct ChartLabel : Control {
     int colour = 0;
 
     void PlaceAt(CanvasPoint point);
+    void PlaceCornerAt(CanvasPoint point);
 };
 
 // The process drawing that lies over the chart: marks, lines and labels, all placed in canvas

@@ -299,8 +299,7 @@ void PointPanel::PlaceMixture() {
     overlay.tmLab.text = context_.captions[Caption::Mixing];
     // Exactly at the point, unlike the other labels: the label alone marks a mixture whose ring
     // lies under that of a state.
-    overlay.tmLab.left = point.x;
-    overlay.tmLab.top = point.y;
+    overlay.tmLab.PlaceCornerAt(point);
     overlay.PP3.PlaceAt(point, kMarkCorner);
     overlay.tmLab.visible = overlay.PP3.visible = true;
 }

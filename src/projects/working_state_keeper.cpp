@@ -71,6 +71,7 @@ void WorkingStateKeeper::LoadForKind(bool first) {
     const FileText file = seen_.Read(name);
     if (!IsReadable(file.status)) {
         unread_.insert(name);
+        ComplainUnread(name, file);
         return;
     }
     if (!first) KeepPresent(file.text);
@@ -99,11 +100,24 @@ WriteResult WorkingStateKeeper::ArbeitsfelderSpeichern(std::string_view name,
             return WriteResult::Failed;
         }
     }
+    if (occasion == SaveOccasion::OnRequest && !KeepUnread(name)) return WriteResult::Failed;
     const WriteResult result = seen_.Write(name, PresentText());
     if (result == WriteResult::Declined) return KeepPresent({}) ? result : WriteResult::Failed;
     if (result != WriteResult::Done) return result;
     unread_.erase(std::string(name));
     return WriteReport(name) ? WriteResult::Done : WriteResult::Failed;
+}
+
+// What could not be read may still be of worth to someone who can repair it.
+bool WorkingStateKeeper::KeepUnread(std::string_view name) {
+    if (!unread_.contains(name) || IsReadable(context_.files.OpenForInput(name).status)) {
+        return true;
+    }
+    std::string reason;
+    if (context_.files.Rename(name, kPreviousStateFile, reason)) return true;
+    Complain(context_, SavingFailedText(
+                           context_, context_.files.Resolve(kPreviousStateFile).string(), reason));
+    return false;
 }
 
 bool WorkingStateKeeper::WriteReport(std::string_view name) {

@@ -35,7 +35,8 @@ class WorkingStateKeeper {
     // when it can not be read or the present inputs can not be kept, which the user is told.
     bool ArbeitsfelderLaden(std::string_view name);
 
-    // Saves, and reports to the sibling module. A user who declines to replace what another program
+    // Saves, and reports to the sibling module. A file that could not be read is kept as QV_ACT.bak
+    // when the user asks for the save, and stays as it is at the end of the program. A user who declines to replace what another program
     // has written finds the inputs in QV_ACT.bak.
     WriteResult ArbeitsfelderSpeichern(std::string_view name, SaveOccasion occasion);
 
@@ -61,6 +62,7 @@ class WorkingStateKeeper {
     void LoadForKind(bool first);
     std::string FileAtEnd() const;
     bool WriteReport(std::string_view name);
+    bool KeepUnread(std::string_view name);
     bool Save(std::string_view name, const std::string& text);
     bool ComplainUnread(std::string_view name, const FileText& file);
 

@@ -138,7 +138,7 @@ TEST(DataFiles, EachFailureIsToldApart) {
     } cases[] = {{"none.dat", FileStatus::Missing, ""},
                  {"folder.dat", FileStatus::Unreadable, "Is a directory"},
                  {"pipe.dat", FileStatus::Unreadable, "Invalid argument"},
-                 {"huge.dat", FileStatus::Malformed, ""}};
+                 {"huge.dat", FileStatus::Malformed, "File too large"}};
     for (const auto& c : cases) {
         const FileText file = files.OpenForInput(c.name);
         EXPECT_EQ(file.status, c.status) << c.name;

@@ -199,7 +199,7 @@ TEST_F(KeeperTest, AFileThatCouldNotBeReadAtTheStartIsNotReplacedUnasked) {
     desk_.Activate();
     fields_.FillWith("typed");
     EXPECT_FALSE(desk_.SaveAtEnd());
-    EXPECT_EQ(user_.messages.size(), 1U);
+    EXPECT_EQ(user_.messages.size(), 2U) << "at the start and at the end";
     EXPECT_EQ(folder_.Read("QV_ACT.dat").size(), huge.size());
     EXPECT_TRUE(desk_.SaveAtEnd()) << "a second try lets the program end";
     desk_.QuickSave();

@@ -189,5 +189,47 @@ TEST(Start, ALanguageTagIsThreeLetters) {
     }
 }
 
+// Ranges and inputs at the end of what numbers can hold: a dump shows every figure that is no
+// number as null.
+TEST(Numbers, WhatIsNoNumberReachesNoMarkLineOrScale) {
+    const char* const settings[] = {
+        "1.013\n-20\n40\n0\n40\n0\n0\n1",
+        "1.013\n0\n1e-306\n0\n1e-306\n0\n0\n1",
+        "1.013\n0\n1e-306\n0\n1e-306\n0\n1\n1",
+        "1.013\n-20\n40\n0\n1e-306\n0\n1\n1\n1",
+        "1e308\n-1e308\n1e308\n-1e308\n1e308\n0\n0\n1",
+    };
+    for (const char* file : settings) {
+        ScriptSession session;
+        session.folder.Write("qv_par.dat", file);
+        const auto dumps = session.Run(
+            std::string(kStates) +
+            "click MischButt\ndump\nset Temp1 1e308\nset LuftM1 1e308\n"
+            "return LuftM1\ndump\nclick Command3D4\n" +
+            kPlant +
+            "set Taus 1e308\nset vhAnlage 1e308\nreturn Taus\npointer move 500 300\ndump\n");
+        for (const Json& dump : dumps) {
+            EXPECT_EQ(dump.dump().find("null"), std::string::npos) << file;
+        }
+    }
+}
+
+// Five megabytes are no working state of this program, but they may be of worth to their owner.
+TEST(Start, AWorkingStateThatCannotBeReadIsToldAndKept) {
+    ScriptSession session;
+    const std::string unreadable(5000000, 'x');
+    session.folder.Write("QV_ACT.dat", unreadable);
+    const auto dumps = session.Run(
+        "dump ended\nclick PLbutt\ndump ended\nset Taus 31\nclick PSButt\ndump ended\n");
+    for (const std::size_t told : {0U, 1U}) {
+        ASSERT_EQ(dumps[told]["dialogs"].size(), 1U);
+        const std::string text = dumps[told]["dialogs"][0]["text"];
+        EXPECT_TRUE(text.ends_with("QV_ACT.dat cannot be read: File too large")) << text;
+    }
+    EXPECT_TRUE(dumps[2]["dialogs"].empty());
+    EXPECT_EQ(session.folder.Read("QV_ACT.bak"), unreadable);
+    EXPECT_NE(session.folder.Read("QV_ACT.dat").find("31"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace zandrell
