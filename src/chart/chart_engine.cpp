@@ -90,7 +90,8 @@ void ChartEngine::DiagrammZeichnen(ChartTask modus, double a, double b, double& 
         read_out_.AbsDruck.text = pressure;
     }
     if (reading) {
-        ShowStateAt(scale.StateAt({a, b}), solver_, read_out_);
+        const bool exact = settings.convention == Convention::Exact;
+        (exact ? ShowExactStateAt : ShowStateAt)(scale.StateAt({a, b}), solver_, read_out_);
         return;
     }
     PlaceLogo();

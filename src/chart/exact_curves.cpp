@@ -96,7 +96,7 @@ std::optional<double> TemperatureOf(const ChartPainting& painting, double densit
     const double p = painting.settings.pressure_bar;
     // Air that would boil has no state: it counts as too thin.
     const auto is_dense = [&](double t) {
-        return solver.Evaluate(humidity, t, p) && solver.ZustandDichte >= density;
+        return solver.Evaluate(humidity, t, p) && DensityOfBothGases(solver, t) >= density;
     };
     if (!is_dense(low)) return std::nullopt;
     for (int i = 0; i < kHalvings; ++i) {
@@ -104,7 +104,7 @@ std::optional<double> TemperatureOf(const ChartPainting& painting, double densit
         (is_dense(middle) ? low : high) = middle;
     }
     const bool found = solver.Evaluate(humidity, low, p) &&
-                       std::abs(solver.ZustandDichte - density) <= kDensityTolerance;
+                       std::abs(DensityOfBothGases(solver, low) - density) <= kDensityTolerance;
     return found ? std::optional(low) : std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "canvas/palette.h"
+#include "kernel/air_from_x.h"
 
 namespace zandrell {
 namespace {
@@ -37,6 +38,25 @@ std::optional<double> HumidityAt(const ChartState& point, StateSolver& solver) {
     return fraction;
 }
 
+bool IsAir(std::optional<double> fraction) { return fraction && *fraction >= 0 && *fraction < 1; }
+
+// What there is to say of a point that is no air; ShowAir says the rest of one that is.
+void ShowPoint(const ChartState& point, std::optional<double> fraction, ReadOutPanel& panel) {
+    ShowCut(panel.Temp, point.t, 10);
+    ShowCut(panel.absF, point.x, 10);
+    panel.relF.background = fraction && !IsAir(fraction) ? kLightRed : kWhite;
+    if (IsAir(fraction)) return;
+    ShowNoState({&panel.relF, &panel.EnthL, &panel.DichtL, &panel.DampfDS});
+    if (fraction) panel.relF.text = *fraction < 0 ? "< 0" : "> 100";
+}
+
+void ShowAir(double fraction, const AirState& air, double density, ReadOutPanel& panel) {
+    ShowCut(panel.DampfDS, air.ZustandPDampf / kPascalPerHectopascal, 10);
+    ShowCut(panel.EnthL, air.ZustandH, 10);
+    panel.relF.text = NumberText(std::floor(fraction * 1000) / 10);
+    ShowCut(panel.DichtL, density, 1000);
+}
+
 }  // namespace
 
 void ReadOutPanel::ListControls(Form& form) {
@@ -46,25 +66,16 @@ void ReadOutPanel::ListControls(Form& form) {
 
 void ShowStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel) {
     const auto fraction = HumidityAt(point, solver);
-    ShowCut(panel.Temp, point.t, 10);
-    ShowCut(panel.absF, point.x, 10);
-    if (!fraction) {
-        ShowNoState({&panel.relF, &panel.EnthL, &panel.DichtL, &panel.DampfDS});
-        panel.relF.background = kWhite;
-        return;
-    }
-    const double f = *fraction;
-    if (f >= 0 && f < 1) {
-        ShowCut(panel.DampfDS, solver.ZustandPDampf / kPascalPerHectopascal, 10);
-        ShowCut(panel.EnthL, solver.ZustandH, 10);
-        panel.relF.text = NumberText(std::floor(f * 1000) / 10);
-        ShowCut(panel.DichtL, solver.ZustandDichte, 1000);
-        panel.relF.background = kWhite;
-        return;
-    }
-    ShowNoState({&panel.EnthL, &panel.DichtL, &panel.DampfDS});
-    panel.relF.text = f < 0 ? "< 0" : "> 100";
-    panel.relF.background = kLightRed;
+    ShowPoint(point, fraction, panel);
+    if (IsAir(fraction)) ShowAir(*fraction, solver, solver.ZustandDichte, panel);
+}
+
+void ShowExactStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel) {
+    auto fraction = FractionFromX(solver, point.t, std::abs(point.x));
+    if (fraction && point.x < 0) fraction = -*fraction;
+    ShowPoint(point, fraction, panel);
+    if (!IsAir(fraction) || !solver.Evaluate(*fraction, point.t)) return;
+    ShowAir(*fraction, solver, DensityOfBothGases(solver, point.t), panel);
 }
 
 }  // namespace zandrell

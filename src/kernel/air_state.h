@@ -22,6 +22,12 @@ struct AirState {
     double SiedeTempK = 0;            // boiling temperature of water at the total pressure, K
 };
 
+// Density of the humid air as the sum of what both gases weigh at their partial pressures, kg/m3; t
+// in degC. ZustandDichte, an empirical form, lies up to 1 % off it at 50 degC.
+double DensityOfBothGases(const AirState& state, double t);
+// The dry air in 1 m3 of the humid air, kg.
+double DryAirInAir(const AirState& state, double t);
+
 // Replaces what the state function does not take: a negative humidity becomes 0.01, one above 1
 // becomes 1, a pressure of 0 becomes 1.01 bar.
 void ClampArguments(double& relF, double& p_bar);

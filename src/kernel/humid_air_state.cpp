@@ -61,6 +61,14 @@ bool AllFinite(const AirState& state) {
                          state.SiedeTempK);
 }
 
+double DensityOfBothGases(const AirState& state, double t) {
+    return DryAirInAir(state, t) + state.ZustandPDampf / (kGasConstantSteam * (t + kKelvinOffset));
+}
+
+double DryAirInAir(const AirState& state, double t) {
+    return state.ZustandPLuft / (kGasConstantAir * (t + kKelvinOffset));
+}
+
 PressurePoint EvaluatePressure(const WaterAirTables& tables, double p_bar) {
     return PressureAt(tables, p_bar);
 }

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "kernel/real_air_fits.h"
+#include "kernel/root.h"
 
 namespace zandrell {
 namespace {
@@ -150,33 +151,7 @@ RealAirState StateOf(const Virials& v, double w, double T, double p, double psi)
     return state;
 }
 
-// Where a function that falls from `low` to `high` passes 0, by false position; a side that stays
-// for the second time is given half its weight (Illinois), so that both close. Requires: not below
-// 0 at `low`, not above it at `high`.
-template <typename Function>
-double Root(double low, double high, const Function& function) {
-    constexpr int kMostRounds = 60;
-    constexpr double kCloseEnough = 1e-11;
-    double at_low = function(low), at_high = function(high);
-    int side = 0;  // which end moved last
-    for (int round = 0; round < kMostRounds && at_low != at_high; ++round) {
-        const double middle = (low * at_high - high * at_low) / (at_high - at_low);
-        const double found = function(middle);
-        if (std::abs(found) < kCloseEnough) return middle;
-        if (found > 0) {
-            low = middle;
-            at_low = found;
-            if (side == -1) at_high /= 2;
-            side = -1;
-        } else {
-            high = middle;
-            at_high = found;
-            if (side == 1) at_low /= 2;
-            side = 1;
-        }
-    }
-    return (low + high) / 2;
-}
+constexpr double kCloseEnough = 1e-11;  // of a logarithm of pressures
 
 bool PressureWithinLimits(double p_bar) {
     return p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar;
@@ -238,11 +213,12 @@ std::optional<double> RealDewPoint(double vapour_pressure, double p_bar) {
     const auto temperature = [](double w) { return kTriplePoint / (1 + w) - kOffset; };
     // First without the factor, which costs most, then with it in what is left.
     constexpr double kRounding = 1e-6;  // K
-    const double start =
-        temperature(Root(VariableAt(kLowest - kRounding),
-                         VariableAt(kRealAirHighest + kMostLower + kRounding), excess(pure)));
-    const double found = temperature(
-        Root(VariableAt(start - kMostLower), VariableAt(start + kRounding), excess(humid)));
+    const double start = temperature(RootOfFalling(
+        VariableAt(kLowest - kRounding), VariableAt(kRealAirHighest + kMostLower + kRounding),
+        kCloseEnough, excess(pure)));
+    const double found =
+        temperature(RootOfFalling(VariableAt(start - kMostLower), VariableAt(start + kRounding),
+                                  kCloseEnough, excess(humid)));
     if (found > kRealAirHighest) return std::nullopt;
     return found;
 }

@@ -18,6 +18,12 @@ inline void ShowNumber(Control& control, double value, std::string_view unit) {
     if (std::isfinite(value)) control.text = NumberText(value).append(unit);
 }
 
+// Enthalpies in kJ/kg are rounded to tenths, not cut.
+inline void ShowEnthalpy(Control& control, double enthalpy) {
+    constexpr double kHalfOfLastDecimal = 0.05;
+    ShowNumber(control, Cut(enthalpy + kHalfOfLastDecimal, 10));
+}
+
 // Without the leading blank of the number.
 inline void ShowTrimmedNumber(Control& control, double value, std::string_view unit) {
     if (std::isfinite(value)) control.text = TrimmedNumberText(value).append(unit);

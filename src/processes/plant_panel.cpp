@@ -11,14 +11,14 @@ namespace zandrell {
 namespace {
 
 constexpr double kMarkSize = 14;  // canvas units
-constexpr std::string_view kPowerUnit = " kW", kWaterUnit = " kg/h";
+constexpr std::string_view kPowerUnit = " kW";
 static_assert(kPowerUnit.substr(1) == UnitKW);
 
-double ReadHumidity(const TextField& field) {
+}  // namespace
+
+double PlantPanel::ReadHumidity(const TextField& field) {
     return field.text == kInTheFog ? 100 : ParsedNumber(field.text);
 }
-
-}  // namespace
 
 void PlantPanel::ListControls(Form& form) {
     form.Add({&Frame1, &Panel3D10, &Panel3D2, &Label16, &tool_name});
@@ -44,9 +44,9 @@ void PlantPanel::TakeBarsFromFields() {
     }
     taScroll.ShowTenths(ParsedNumber(Taus.text));
     tzuScroll.ShowTenths(ParsedNumber(TZuluft.text));
-    // Converted plainly, so that a decimal comma ends the number here, as in every plant that the
-    // suite has opened; Return in the field reads the comma.
-    tabScroll.ShowTenths(ToDouble(tabLuft.text));
+    // Under the suite converted plainly, so that a decimal comma ends the number here, as in every
+    // plant that the suite has opened; Return in the field reads the comma.
+    tabScroll.ShowTenths(IsExact() ? ParsedNumber(tabLuft.text) : ToDouble(tabLuft.text));
     Phiaussenscroll.ShowTenths(ParsedNumber(PhiAussen.text));
     PHIAbscroll.ShowTenths(ParsedNumber(PHIAbluft.text));
     PhiZuscroll.ShowTenths(ParsedNumber(PHIZuluft.text));
@@ -70,6 +70,10 @@ bool PlantPanel::TakeFlowFromShares() {
 }
 
 void PlantPanel::AnlageBerechnen() {
+    if (settling_) {  // by a bar that an exact run moves: it reads the fields again itself
+        asked_again_ = true;
+        return;
+    }
     refused_rise_ = nullptr;
     figures_of_.Forget();
     if (Compute()) figures_of_.Take(Basis());
@@ -78,6 +82,10 @@ void PlantPanel::AnlageBerechnen() {
 
 bool PlantPanel::Compute() {
     for (Mark* mark : context_.overlay.Marks()) mark->width = mark->height = kMarkSize;
+    return IsExact() ? RunBySettledInputs() : RunByTheSuite();
+}
+
+bool PlantPanel::RunByTheSuite() {
     PlantRun run;
     if (!ReadInputs(run.inputs)) return false;
     const std::string given = PHIAbluft.text;
@@ -226,9 +234,7 @@ bool PlantPanel::HeatOnly(const PlantRun& run) {
 void PlantPanel::ShowCoolerFigures(const PlantRun& run, const CoolerWay& way) {
     const AirPoint &mixed = run.mixing.mixed, &coil = run.coil.air;
     const double mL = run.mixing.mL, factor = run.Anzeigefaktor;
-    const double cooler_kw = Cut(CapacityKw(mL, way.hKaus, coil.x, mixed.h, mixed.x), factor);
-    ShowTrimmedNumber(Kuehl, cooler_kw, kPowerUnit);
-    if (std::isfinite(cooler_kw)) context_.figures.KuehlLeistText = NumberText(cooler_kw);
+    ShowCooler(Cut(CapacityKw(mL, way.hKaus, coil.x, mixed.h, mixed.x), factor));
     humidifier_shown_ = way.BefeuchterNoetig;
     if (!way.BefeuchterNoetig) {
         // Counted with the saturation humidity in front of the fan, not with that of the supply:
@@ -238,30 +244,40 @@ void PlantPanel::ShowCoolerFigures(const PlantRun& run, const CoolerWay& way) {
         return;
     }
     ShowHeaterBehindCooler(mL * way.hDiff / kSecondsPerHour, factor);
-    const double water = Cut(HumidifierWater(mL, coil.x, run.supply.x), 100);
-    ShowTrimmedNumber(Bef, water, kWaterUnit);
-    AssignFinite(context_.figures.BefeuchterLeist, water);
+    ShowHumidifier(Cut(HumidifierWater(mL, coil.x, run.supply.x), 100), kWaterUnit);
 }
 
 void PlantPanel::ShowHeaterBehindCooler(double capacity_kw, double factor) {
-    const double shown = Cut(capacity_kw, factor);
-    ShowTrimmedNumber(Heiz2, shown, " kW\r\n\r\n");
-    AssignFinite(context_.figures.HeizLeist, shown);
+    ShowHeater(Cut(capacity_kw, factor), kUnitBehindCooler);
+}
+
+void PlantPanel::ShowCooler(double shown_kw) {
+    ShowTrimmedNumber(Kuehl, shown_kw, kPowerUnit);
+    if (std::isfinite(shown_kw)) context_.figures.KuehlLeistText = NumberText(shown_kw);
+}
+
+void PlantPanel::ShowNoCooler() {
+    Kuehl.text = std::string(" - ").append(UnitKW);
+    context_.figures.KuehlLeistText.clear();
+}
+
+void PlantPanel::ShowHeater(double shown_kw, std::string_view unit) {
+    ShowTrimmedNumber(Heiz2, shown_kw, unit);
+    AssignFinite(context_.figures.HeizLeist, shown_kw);
+}
+
+void PlantPanel::ShowHumidifier(double shown_kg_per_h, std::string_view unit) {
+    ShowTrimmedNumber(Bef, shown_kg_per_h, unit);
+    AssignFinite(context_.figures.BefeuchterLeist, shown_kg_per_h);
 }
 
 // The units follow without a blank: wide figures have to fit the labels.
 void PlantPanel::ShowHeaterFigures(const PlantRun& run, const AirPoint& heated) {
     const AirPoint& mixed = run.mixing.mixed;
     const double mL = run.mixing.mL, factor = run.Anzeigefaktor;
-    ProcessFigures& figures = context_.figures;
-    Kuehl.text = std::string(" - ").append(UnitKW);
-    figures.KuehlLeistText.clear();
-    const double heater_kw = Cut(CapacityKw(mL, mixed.h, mixed.x, heated.h, mixed.x), factor);
-    ShowTrimmedNumber(Heiz2, heater_kw, UnitKW);
-    AssignFinite(figures.HeizLeist, heater_kw);
-    const double water = Cut(HumidifierWater(mL, mixed.x, run.supply.x), factor);
-    ShowTrimmedNumber(Bef, water, "kg/h");
-    AssignFinite(figures.BefeuchterLeist, water);
+    ShowNoCooler();
+    ShowHeater(Cut(CapacityKw(mL, mixed.h, mixed.x, heated.h, mixed.x), factor), UnitKW);
+    ShowHumidifier(Cut(HumidifierWater(mL, mixed.x, run.supply.x), factor), kNarrowWaterUnit);
 }
 
 PlantDrawing PlantPanel::Drawing() const {

@@ -6,8 +6,8 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
+#include "processes/exact_plant.h"
 #include "processes/field_notes.h"
-#include "processes/plant.h"
 #include "processes/plant_drawing.h"
 #include "processes/process_context.h"
 
@@ -89,7 +89,15 @@ class PlantPanel {
     bool IsInForce() const { return context_.Rechenmodus == Calculation::Plant; }
 
     bool Compute();
+    bool IsExact() const { return context_.settings.convention == Convention::Exact; }
+    bool RunByTheSuite();
+    bool RunBySettledInputs();
+    bool SettleInputs(PlantInputs& inputs, ExactHumidities& humidities);
+    bool CorrectExactly(PlantInputs& inputs, ExactHumidities& humidities);
+    void ShowExactly(const ExactPlantRun& run);
+
     bool ReadInputs(PlantInputs& inputs);
+    static double ReadHumidity(const TextField& field);
     double ReadFanRise(TextField& field);
     bool CorrectHumidities(PlantRun& run);
     void HoldSupplyAboveCoil(const PlantInputs& inputs);
@@ -104,6 +112,14 @@ class PlantPanel {
     void ShowCoolerFigures(const PlantRun& run, const CoolerWay& way);
     void ShowHeaterFigures(const PlantRun& run, const AirPoint& heated);
     void ShowHeaterBehindCooler(double capacity_kw, double factor);
+    // Figures that are cut already. The unit follows a number without a blank where wide figures
+    // have to fit the labels.
+    static constexpr std::string_view kUnitBehindCooler = " kW\r\n\r\n", kWaterUnit = " kg/h",
+                                      kNarrowWaterUnit = "kg/h";
+    void ShowCooler(double shown_kw);
+    void ShowNoCooler();
+    void ShowHeater(double shown_kw, std::string_view unit);
+    void ShowHumidifier(double shown_kg_per_h, std::string_view unit);
     PlantDrawing Drawing() const;
     std::string Basis() const;
     std::optional<Refusal> RefusalOf(const TextField& field) const;
@@ -116,6 +132,7 @@ class PlantPanel {
     TakenTexts figures_of_ = taken_;
     bool humidifier_shown_ = false;  // its figure is of the last run
     const TextField* refused_rise_ = nullptr;  // a typed fan rise that the last run replaced
+    bool settling_ = false, asked_again_ = false;
 };
 
 }  // namespace zandrell

@@ -17,7 +17,9 @@ bool IsOneOf(const TextField& field, const std::array<const TextField*, Count>& 
 
 // What the figures rest on besides the fields.
 std::string PlantPanel::Basis() const {
-    return (Option3D3.on ? "steam " : "water ") + NumberText(context_.solver.ChartDruckBar);
+    return std::string(Option3D3.on ? "steam" : "water")
+        .append(IsExact() ? " exact" : "")
+        .append(NumberText(context_.solver.ChartDruckBar));
 }
 
 void PlantPanel::NoteFields() {

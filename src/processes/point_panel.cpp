@@ -15,9 +15,8 @@ namespace {
 constexpr double kMarkCorner = 6;  // canvas units from a state up and left to its mark's corner
 constexpr int kFlowBarEnd = 200, kFlowBarMiddle = 100;
 constexpr double kKgPerHourOfGramPerSecond = 3.6;
-constexpr double kTrialFlow = 1000;          // m3/h
-constexpr double kHalf = 0.5;                // m3/h; flows are rounded to whole ones
-constexpr double kHalfOfLastDecimal = 0.05;  // kJ/kg; enthalpies are rounded, not cut
+constexpr double kTrialFlow = 1000;  // m3/h
+constexpr double kHalf = 0.5;        // m3/h; flows are rounded to whole ones
 
 bool HasCapacity(Calculation mode) { return mode == Calculation::Capacity || IsTool(mode); }
 bool IsHumidityInput(double percent) { return percent > 0 && percent <= 100; }
@@ -36,7 +35,7 @@ void CentreFlowBar(ScrollBar& bar, double& step, double flow) {
 
 void ShowStateTexts(const AirState& state, Label& absolute, Label& enthalpy) {
     ShowNumber(absolute, Cut(state.ZustandX, 100));
-    ShowNumber(enthalpy, Cut(state.ZustandH + kHalfOfLastDecimal, 10));
+    ShowEnthalpy(enthalpy, state.ZustandH);
 }
 
 }  // namespace
@@ -116,9 +115,9 @@ void PointPanel::Compute(Calculation mode, MarkPlacing marke) {
     Inputs inputs = ReadInputs();
     bool states_known = IsTool(mode) ? EvaluateGivenState(mode, inputs) : EvaluateStates(inputs);
     if (IsTool(mode)) {
-        FillInSecondState(mode, inputs);
+        states_known =
+            (IsExact() ? FillInExactly(mode, inputs) : FillInByTexts(mode, inputs)) && states_known;
         inputs = ReadInputs();
-        states_known = EvaluateFilledInState(mode, inputs) && states_known;
     }
     if (!(ParsedNumber(absF1.text) > 0 && ParsedNumber(absF2.text) > 0)) return;
     MarkenSetzen(mode, marke);
@@ -127,6 +126,11 @@ void PointPanel::Compute(Calculation mode, MarkPlacing marke) {
     states_of_.Take(Basis(mode));
     if (mode == Calculation::Mixing) ShowMixture(mode, inputs);
     if (HasCapacity(mode)) ShowCapacity(mode, inputs);
+}
+
+bool PointPanel::FillInByTexts(Calculation mode, const Inputs& inputs) {
+    FillInSecondState(mode, inputs);
+    return EvaluateFilledInState(mode, ReadInputs());
 }
 
 // False, with everything as it was, when an input is outside the limits.
@@ -139,9 +143,10 @@ bool PointPanel::EvaluateStates(const Inputs& inputs) {
     const AirState second = solver;
     ZustandX1 = first.ZustandX;
     enthalpy1_ = first.ZustandH;
-    density1_ = first.ZustandDichte;
+    density1_ = FlowDensity(first, inputs.t1);
     ZustandX2 = second.ZustandX;
     enthalpy2_ = second.ZustandH;
+    density2_ = FlowDensity(second, inputs.t2);
     ShowStateTexts(first, absF1, enth1);
     ShowStateTexts(second, absF2, enth2);
     return true;
@@ -157,7 +162,7 @@ bool PointPanel::EvaluateGivenState(Calculation mode, const Inputs& inputs) {
     if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
     ZustandX1 = solver.ZustandX;
     enthalpy1_ = solver.ZustandH;
-    density1_ = solver.ZustandDichte;
+    density1_ = FlowDensity(solver, inputs.t1);
     ShowStateTexts(solver, absF1, enth1);
     return true;
 }
@@ -170,8 +175,7 @@ bool PointPanel::EvaluateFilledInState(Calculation mode, const Inputs& inputs) {
     if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
     ZustandX2 = solver.ZustandX;
     enthalpy2_ = solver.ZustandH;
-    if (mode != Calculation::WaterHumidifier)
-        ShowNumber(enth2, Cut(enthalpy2_ + kHalfOfLastDecimal, 10));
+    if (mode != Calculation::WaterHumidifier) ShowEnthalpy(enth2, enthalpy2_);
     return true;
 }
 
@@ -209,7 +213,7 @@ void PointPanel::HumidifyWithWater(const Inputs& inputs) {
     relF2.background = air->impossible ? kLightRed : kWhite;
     ShowNumber(relF2, Cut(air->rel_percent, 10));
     ShowNumber(absF2, Cut(air->x, 100));
-    ShowNumber(enth2, Cut(enthalpy1_ + kHalfOfLastDecimal, 10));
+    ShowEnthalpy(enth2, enthalpy1_);
 }
 
 void PointPanel::HumidifyWithSteam(const Inputs& inputs) {
@@ -219,15 +223,20 @@ void PointPanel::HumidifyWithSteam(const Inputs& inputs) {
     Temp2.text = Temp1.text;
 }
 
+std::optional<Mixture> PointPanel::MixByVolume(const Inputs& inputs) {
+    return MixtureOf(context_.solver, FirstState(inputs.t1), inputs.LuftM1, SecondState(inputs.t2),
+                     inputs.LuftM2);
+}
+
 void PointPanel::ShowMixture(Calculation mode, const Inputs& inputs) {
     if (!(inputs.LuftM1 > 0 && inputs.LuftM2 > 0)) return;
-    const Mixture mixture = MixtureOf(context_.solver, FirstState(inputs.t1), inputs.LuftM1,
-                                      SecondState(inputs.t2), inputs.LuftM2);
-    AssignFinite(context_.figures.MischTemp, mixture.MischTemp);
-    AssignFinite(context_.figures.MischX, mixture.MischX);
-    ShowNumber(TempM, Cut(mixture.MischTemp, 100));
-    ShowNumber(relFM, Cut(mixture.rel_percent, 100));
-    ShowNumber(absFM, Cut(mixture.MischX, 100));
+    const auto mixture = IsExact() ? MixExactly(inputs) : MixByVolume(inputs);
+    if (!mixture) return;
+    AssignFinite(context_.figures.MischTemp, mixture->MischTemp);
+    AssignFinite(context_.figures.MischX, mixture->MischX);
+    ShowNumber(TempM, Cut(mixture->MischTemp, 100));
+    ShowNumber(relFM, Cut(mixture->rel_percent, 100));
+    ShowNumber(absFM, Cut(mixture->MischX, 100));
     MarkenSetzen(mode, MarkPlacing::WithMixture);
     outcome_of_.Take(Basis(mode));
 }
@@ -236,8 +245,8 @@ void PointPanel::ShowCapacity(Calculation mode, const Inputs& inputs) {
     if (!(inputs.LuftM1 > 0)) return;
     // The density of state 1 holds for the whole change.
     const double air_kg_per_s = inputs.LuftM1 * density1_ / kSecondsPerHour;
-    const auto signed_loads =
-        LoadsBetween(context_.solver, FirstState(inputs.t1), SecondState(inputs.t2), air_kg_per_s);
+    const auto signed_loads = (IsExact() ? ExactLoadsBetween : LoadsBetween)(
+        context_.solver, FirstState(inputs.t1), SecondState(inputs.t2), air_kg_per_s);
     if (!signed_loads) return;
     const Decimals decimals = DecimalsOf(*signed_loads);  // of the signed load also for the tools
     const Loads loads = LoadsOfTool(mode, *signed_loads);
@@ -281,7 +290,7 @@ void PointPanel::MarkenSetzen(Calculation mode, MarkPlacing marke) {
     CanvasPoint point2 = context_.scale.PointOf(ZustandX2, ParsedNumber(t2));
     // Heating keeps x, which on the Mollier chart is a vertical line; the Carrier chart of the
     // suite draws it vertically too.
-    if (mode == Calculation::Heater) point2.x = point1.x;
+    if (mode == Calculation::Heater && !IsExact()) point2.x = point1.x;
 
     Overlay& overlay = context_.overlay;
     overlay.ZAeLine.Run(point1, point2);

@@ -7,8 +7,10 @@
 #include "forms/form.h"
 #include "forms/scroll_bar.h"
 #include "processes/air_point.h"
+#include "processes/exact_tools.h"
 #include "processes/field_notes.h"
 #include "processes/process_context.h"
+#include "processes/state_change.h"
 
 namespace zandrell {
 
@@ -106,11 +108,24 @@ class PointPanel {
     AirPoint FirstState(double t1) const { return {t1, ZustandX1, enthalpy1_}; }
     AirPoint SecondState(double t2) const { return {t2, ZustandX2, enthalpy2_}; }
 
+    bool IsExact() const { return context_.settings.convention == Convention::Exact; }
+    // What a cubic metre counts in the balances, kg/m3: the suite takes the humid air for dry.
+    double FlowDensity(const AirState& state, double t) const {
+        return IsExact() ? DryAirInAir(state, t) : state.ZustandDichte;
+    }
+
+    // State 2 of a tool by each convention; false when it is outside the limits.
+    bool FillInByTexts(Calculation mode, const Inputs& inputs);
+    bool FillInExactly(Calculation mode, const Inputs& inputs);
+    std::optional<ToolOutlet> OutletOf(Calculation mode, const Inputs& inputs);
+
     void FillInSecondState(Calculation mode, const Inputs& inputs);
     void KeepHumidity(std::optional<double> fraction);
     void HumidifyWithWater(const Inputs& inputs);
     void HumidifyWithSteam(const Inputs& inputs);
 
+    std::optional<Mixture> MixByVolume(const Inputs& inputs);
+    std::optional<Mixture> MixExactly(const Inputs& inputs);
     void ShowMixture(Calculation mode, const Inputs& inputs);
     void ShowCapacity(Calculation mode, const Inputs& inputs);
     void ShowBothMarks();
@@ -128,7 +143,7 @@ class PointPanel {
     bool capacity_refused_ = false;  // no flow gives what was asked for
     // Of the two states; kept while the inputs are outside the limits, and so are the figures.
     double enthalpy1_ = 0, enthalpy2_ = 0;  // kJ/kg
-    double density1_ = 0;                   // kg/m3
+    double density1_ = 0, density2_ = 0;    // kg/m3, of FlowDensity
 };
 
 }  // namespace zandrell

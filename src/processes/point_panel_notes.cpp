@@ -6,7 +6,9 @@ namespace zandrell {
 
 // What the figures rest on besides the fields.
 std::string PointPanel::Basis(Calculation mode) const {
-    return NumberText(static_cast<int>(mode)) + " " + NumberText(context_.solver.ChartDruckBar);
+    return NumberText(static_cast<int>(mode))
+        .append(IsExact() ? " exact" : "")
+        .append(NumberText(context_.solver.ChartDruckBar));
 }
 
 void PointPanel::NoteFields() {

@@ -1,11 +1,29 @@
 #include "processes/state_change.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "kernel/air_from_x.h"
 #include "kernel/inverse_state.h"
 #include "processes/process_context.h"
 
 namespace zandrell {
+namespace {
+
+Loads SplitLoads(const AirPoint& first, const AirPoint& second, double auxiliary_h,
+                 double kg_per_s) {
+    Loads loads;
+    loads.total_kw = kg_per_s * (first.h - second.h);
+    const bool first_is_warmer = first.t >= second.t;
+    const AirPoint& warmer = first_is_warmer ? first : second;
+    const AirPoint& colder = first_is_warmer ? second : first;
+    loads.latent_kw = kg_per_s * (warmer.h - auxiliary_h);
+    loads.sensible_kw = kg_per_s * (auxiliary_h - colder.h);
+    loads.water_g_per_s = kg_per_s * (first.x - second.x);
+    return loads;
+}
+
+}  // namespace
 
 std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
                                   const AirPoint& second, double air_kg_per_s) {
@@ -13,19 +31,24 @@ std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
     const double t = first_is_warmer ? first.t : second.t;
     const double x = first_is_warmer ? second.x : first.x;
     if (!solver.Evaluate(RelFeuchteAusX(solver, t, x).value / 100, t)) return std::nullopt;
-    const double auxiliary_h = solver.ZustandH;
+    return SplitLoads(first, second, solver.ZustandH, air_kg_per_s);
+}
 
-    Loads loads;
-    loads.total_kw = air_kg_per_s * (first.h - second.h);
-    if (first_is_warmer) {
-        loads.latent_kw = air_kg_per_s * (first.h - auxiliary_h);
-        loads.sensible_kw = air_kg_per_s * (auxiliary_h - second.h);
-    } else {
-        loads.latent_kw = air_kg_per_s * (second.h - auxiliary_h);
-        loads.sensible_kw = air_kg_per_s * (auxiliary_h - first.h);
+std::optional<Loads> ExactLoadsBetween(StateSolver& solver, const AirPoint& first,
+                                       const AirPoint& second, double dry_air_kg_per_s) {
+    const bool first_is_warmer = first.t >= second.t;
+    const AirPoint& warmer = first_is_warmer ? first : second;
+    const AirPoint& colder = first_is_warmer ? second : first;
+    // Where the auxiliary point is one of the two states its enthalpy is theirs to the last digit:
+    // a difference of 1E-14 would be cut to a hundredth.
+    std::optional<double> auxiliary_h = warmer.h;
+    if (colder.t == warmer.t) {
+        auxiliary_h = colder.h;
+    } else if (colder.x != warmer.x) {
+        auxiliary_h = EnthalpyFromX(solver, warmer.t, colder.x);
     }
-    loads.water_g_per_s = air_kg_per_s * (first.x - second.x);
-    return loads;
+    if (!auxiliary_h) return std::nullopt;
+    return SplitLoads(first, second, *auxiliary_h, dry_air_kg_per_s);
 }
 
 Loads LoadsOfTool(Calculation mode, const Loads& loads) {
@@ -69,6 +92,23 @@ Mixture MixtureOf(StateSolver& solver, const AirPoint& first, double flow1_m3_pe
     mixture.rel_percent = RelFeuchteAusX(solver, mixture.MischTemp, mixture.MischX).value;
     // Leaves the mixture as the solver's current state.
     solver.Evaluate(mixture.rel_percent / 100, mixture.MischTemp);
+    return mixture;
+}
+
+std::optional<Mixture> ExactMixtureOf(StateSolver& solver, const AirFlow& first,
+                                      const AirFlow& second) {
+    const double weight =
+        first.dry_air_kg_per_h / (first.dry_air_kg_per_h + second.dry_air_kg_per_h);
+    Mixture mixture;
+    mixture.MischX = second.air.x + weight * (first.air.x - second.air.x);
+    const double h = second.air.h + weight * (first.air.h - second.air.h);
+    const auto t = TemperatureFromEnthalpy(solver, h, mixture.MischX);
+    if (!t) return std::nullopt;
+    const auto fraction = FractionFromX(solver, *t, mixture.MischX);
+    if (!fraction) return std::nullopt;
+    mixture.MischTemp = *t;
+    mixture.rel_percent = 100 * std::min(*fraction, 1.0);
+    solver.Evaluate(std::min(*fraction, 1.0), *t);
     return mixture;
 }
 

@@ -26,6 +26,11 @@ struct Loads {
 std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
                                   const AirPoint& second, double air_kg_per_s);
 
+// The same for a flow of dry air, the auxiliary point at exactly the other x: where x is kept there
+// is no latent load, where t is kept no sensible one.
+std::optional<Loads> ExactLoadsBetween(StateSolver& solver, const AirPoint& first,
+                                       const AirPoint& second, double dry_air_kg_per_s);
+
 // The loads as the tool of that mode reports them: without sign, and with the share that cannot
 // occur in the apparatus set to 0. The other modes keep the signed values.
 Loads LoadsOfTool(Calculation mode, const Loads& loads);
@@ -45,9 +50,19 @@ struct Mixture {
     double rel_percent = 0;  // close to 100 for a mixture that would lie in the fog
 };
 
-// The mixture of two flows in m3/h, both positive. The weights are volume flows, as they are
-// measured in ducts; with mass flows the mixture would lie nearer to the colder, denser air.
+// The mixture of two flows, both positive. The weights are volume flows, as they are measured in
+// ducts; with mass flows the mixture would lie nearer to the colder, denser air.
 Mixture MixtureOf(StateSolver& solver, const AirPoint& first, double flow1_m3_per_h,
                   const AirPoint& second, double flow2_m3_per_h);
+
+struct AirFlow {
+    AirPoint air;
+    double dry_air_kg_per_h = 0;
+};
+
+// The mixture by the dry air of both flows: x and h lie between those of the two states, and t is
+// the temperature that belongs to them. Empty when there is none.
+std::optional<Mixture> ExactMixtureOf(StateSolver& solver, const AirFlow& first,
+                                      const AirFlow& second);
 
 }  // namespace zandrell

@@ -6,8 +6,6 @@
 namespace zandrell {
 namespace {
 
-constexpr double kWettestBehindCooler = 0.9;
-constexpr double kShownForImpossible = 99;  // per cent
 constexpr double kNearlyDryFraction = 0.0001;
 
 std::optional<double> WhenFinite(double value) {

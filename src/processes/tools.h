@@ -9,6 +9,9 @@
 // second. All answer empty when a state that they need is outside the limits.
 namespace zandrell {
 
+inline constexpr double kWettestBehindCooler = 0.9;
+inline constexpr double kShownForImpossible = 99;  // per cent, for a state that does not exist
+
 // Relative humidity as a fraction behind a cooler that leaves at t2 (degC) with the humidity x1
 // (g/kg) of the entering air. Capped at 0.9: a coil does not leave saturated air.
 std::optional<double> HumidityBehindCooler(StateSolver& solver, double x1, double t2);

@@ -221,9 +221,11 @@ double HumidityAt(PaintedChart& chart, const ChartState& state) {
     return 100 * low;
 }
 
+// What both gases weigh at their partial pressures.
 double DensityAt(PaintedChart& chart, const ChartState& state) {
     HumidityAt(chart, state);
-    return chart.solver.ZustandDichte;
+    return (chart.solver.ZustandPLuft / 287.04 + chart.solver.ZustandPDampf / 461.5) /
+           (state.t + 273.15);
 }
 
 TEST(Exact, ADensityLineLiesWhereItsDensityIs) {

@@ -1,0 +1,73 @@
+#include "base/number_text.h"
+#include "base/unit_texts.h"
+#include "processes/exact_plant.h"
+#include "processes/figure_text.h"
+#include "processes/plant_panel.h"
+
+// What the plant's panel does under Exact in place of its way by the suite.
+namespace zandrell {
+
+// Bars that move write their fields and ask for a run. It is not nested here: the fields are read
+// again until nothing moves, so that the figures are those of what the fields show at the end.
+bool PlantPanel::SettleInputs(PlantInputs& inputs, ExactHumidities& humidities) {
+    constexpr int kMostRounds = 10;
+    for (int round = 0; round < kMostRounds; ++round) {
+        asked_again_ = false;
+        settling_ = true;
+        const bool possible = CorrectExactly(inputs, humidities);
+        settling_ = false;
+        if (!possible) return false;
+        if (!asked_again_) break;
+    }
+    return true;
+}
+
+bool PlantPanel::CorrectExactly(PlantInputs& inputs, ExactHumidities& humidities) {
+    if (!ReadInputs(inputs)) return false;
+    HoldSupplyAboveCoil(inputs);
+    if (asked_again_) return true;
+    const double phiAb = inputs.phiAb, phiZu = inputs.phiZu;
+    const auto found = RaiseExactly(context_.solver, inputs);
+    if (!found) return false;
+    humidities = *found;
+    // A raised humidity is shown cut: read again it lies a little lower, and is raised to the same.
+    if (inputs.phiZu != phiZu) ShowNumber(PHIZuluft, Cut(inputs.phiZu, kBarUnitsPerField));
+    if (inputs.phiAb != phiAb) ShowNumber(PHIAbluft, Cut(inputs.phiAb, kBarUnitsPerField));
+    Phiaussenscroll.ShowTenths(ReadHumidity(PhiAussen));
+    PhiZuscroll.ShowTenths(ParsedNumber(PHIZuluft.text));
+    PHIAbscroll.ShowTenths(ParsedNumber(PHIAbluft.text));
+    return true;
+}
+
+bool PlantPanel::RunBySettledInputs() {
+    PlantInputs inputs;
+    ExactHumidities humidities;
+    if (!SettleInputs(inputs, humidities)) return false;
+    const auto run = RunExactly(context_.solver, inputs, humidities);
+    if (!run) return false;
+    ShowExactly(*run);
+    return true;
+}
+
+void PlantPanel::ShowExactly(const ExactPlantRun& run) {
+    const double factor = run.Anzeigefaktor;
+    AssignFinite(context_.figures.MischTemp, run.mixing.mixed.t);
+    Drawing().DrawMixing(run.mixing);
+    ShowRoomLoads(run.room, factor);
+    StartWay(run.OhneKuehler);
+    humidifier_shown_ = true;
+    const double heater_kw = Cut(run.heater_kw, factor);
+    if (run.OhneKuehler) {
+        Drawing().DrawHeaterWay(run, run.heated);
+        ShowNoCooler();
+        ShowHeater(heater_kw, UnitKW);
+        ShowHumidifier(Cut(run.humidifier_kg_per_h, factor), kNarrowWaterUnit);
+    } else {
+        Drawing().DrawCoolerWay(run, run.heated);
+        ShowCooler(Cut(run.cooler_kw, factor));
+        ShowHeater(heater_kw, kUnitBehindCooler);
+        ShowHumidifier(Cut(run.humidifier_kg_per_h, 100), kWaterUnit);
+    }
+}
+
+}  // namespace zandrell
