@@ -256,7 +256,7 @@ void AddCapacity(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     });
 }
 
-void AddPrint(CLI::App& app, CommandLine& line) {
+void AddPrint(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     auto* verb = app.add_subcommand("print", "Writes the printed page of a process to a PDF");
     verb->add_option("-o,--output", line.print.output, "the file, .pdf")->required();
     verb->add_option("--form", line.print.script,
@@ -267,8 +267,10 @@ void AddPrint(CLI::App& app, CommandLine& line) {
     verb->add_flag("--landscape", line.print.landscape, "without it as in the settings");
     verb->add_option("--style", line.print.header_style, "of the page header: 0 framed, 1 short")
         ->check(CLI::IsMember({0, 1}));
+    AddConvention(*verb, typed);
     verb->callback([&] {
         line.verb = Verb::Print;
+        TakeConvention(typed, line);
         if (!HasEnding(line.print.output, ".pdf")) {
             Refuse(line.print.output + ": a printed page ends in .pdf");
         }
@@ -302,7 +304,7 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     AddChart(app, typed, line);
     AddCatalogue(app, line);
     AddCapacity(app, typed, line);
-    AddPrint(app, line);
+    AddPrint(app, typed, line);
     try {
         app.parse(count, arguments);
     } catch (const CLI::ParseError& stop) {

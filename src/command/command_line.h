@@ -45,7 +45,7 @@ struct CommandLine {
     std::string search;       // of the verb invert
     std::optional<StateOptions> state;
     ChartRequest chart;
-    std::optional<Convention> convention;  // of the verbs form and chart; empty as in the settings
+    std::optional<Convention> convention;  // of form, chart and print; empty as in the settings
     CatalogueRequest catalogue;
     CapacityRequest capacity;
     PrintRequest print;
