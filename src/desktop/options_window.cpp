@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -96,6 +97,9 @@ OptionsWindow::OptionsWindow(OptionsForm& form, const Captions& captions,
     layout->addWidget(MakeFields());
     layout->addWidget(MakeKinds(ShownText(captions[Caption::ChartKind])));
     layout->addWidget(MakeSchemes(ShownText(captions[Caption::Colours]), picture));
+    auto* exact = new QCheckBox(this);
+    mirror_.Bind(exact, form.ExactBox);
+    layout->addWidget(exact);
     layout->addWidget(MakeButtons());
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -44,7 +44,7 @@ OptionsForm::OptionsForm(const DataFiles& files, SharedValues& shared, const Cap
 void OptionsForm::ListControls() {
     form.Add({&OptPNUeb, &absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi});
     form.Add({&pressure_label, &height_label, &tmin_label, &tmax_label, &xmin_label, &xmax_label});
-    form.Add({&Option3d1, &Option3d2, &Black, &white, &Panel3D12, &Panel3D13});
+    form.Add({&Option3d1, &Option3d2, &Black, &white, &Panel3D12, &Panel3D13, &ExactBox});
     form.Add({&Command3D1, &Command3D1_l, &Command3D5, &Command3D5_l});
 }
 
@@ -79,6 +79,8 @@ void OptionsForm::SetCaptions() {
     Option3d2.text = "Carrier ";
     Black.text = words[Caption::DarkGround];
     white.text = words[Caption::LightGround];
+    ExactBox.text = words[Caption::ExactBox];
+    ExactBox.tool_tip = words[Caption::ExactBoxTip];
     pressure_label.text = words[Caption::Pressure] + " /[" + std::string(UnitBar) + "]:";
     height_label.text = words[Caption::Altitude] + " /[" + std::string(UnitM) + "]:";
     tmin_label.text = temperature + " min. :";
@@ -106,6 +108,7 @@ void OptionsForm::Open() {
     } else {
         Choose(Option3d2, Option3d1);
     }
+    ExactBox.on = settings.convention == Convention::Exact;
     if (settings.Helligkeit == kWhiteGround) {
         Choose(white, Black);
     } else {
@@ -163,6 +166,7 @@ void OptionsForm::Opt_speich() {
     typed.DiagrammArt = Option3d2.on ? kCarrier : kMollier;
     if (!PassesTests(typed)) return;
     typed.Helligkeit = white.on ? kWhiteGround : kBlackGround;
+    typed.convention = ExactBox.on ? Convention::Exact : Convention::Suite;
     std::string reason;
     if (WriteChartSettings(files_, typed, &reason) != FileStatus::Ok) {
         const std::string path = files_.Resolve(kChartSettingsFile).string();

@@ -25,6 +25,7 @@ class OptionsForm : public ModalForm {
     OptionButton Option3d1{"Option3d1", true}, Option3d2{"Option3d2"};  // Mollier, Carrier
     OptionButton Black{"Black"}, white{"white", true};
     Panel Panel3D12{"Panel3D12"}, Panel3D13{"Panel3D13"};  // sample pictures of the two schemes
+    CheckBox ExactBox{"ExactBox"};                         // Convention::Exact instead of Suite
     Button Command3D1{"Command3D1", "OKcap.bmp"}, Command3D1_l{"Command3D1_l"};
     Button Command3D5{"Command3D5", "abcap.bmp"}, Command3D5_l{"Command3D5_l"};
 

@@ -37,6 +37,31 @@ TEST(Options, ShowTheSettingsAndKeepThem) {
     EXPECT_TRUE(session.folder.Read("qv_wert.dat").starts_with(".95,-10,50,0,60,1,"));
 }
 
+TEST(Options, TheBoxChoosesTheConventionAndTheNinthItem) {
+    ScriptSession session;
+    const std::string eight = "1.013\r\n-20\r\n40\r\n0\r\n40\r\n0\r\n0\r\n1\r\n";
+    // A heater of 1000 m3/h from 20 degC, 50 % to 30 degC: 3.366 kW in an exact balance.
+    const std::string heater =
+        "click Heiz_start\nset Temp1 20\nset relF1 50\nset Temp2 30\nset LuftM1 1000\n"
+        "return LuftM1\ndump Kleist\nclick abbcom\nclick optButt\ndump qvopt.ExactBox\n";
+    const struct {
+        const char *act, *capacity;
+        bool on;
+    } rows[] = {{"", " 3.18", false},
+                {"check qvopt.ExactBox on\nclick qvopt.Command3D1\n", " 3.36", true},
+                {"click qvopt.Command3D1\n", " 3.36", true},
+                {"check qvopt.ExactBox off\nclick qvopt.Command3D5\n", " 3.36", true},
+                {"check qvopt.ExactBox off\nclick qvopt.Command3D1\n", " 3.18", false}};
+    for (const auto& row : rows) {
+        const std::string script = *row.act == 0 ? "" : std::string("click optButt\n") + row.act;
+        const auto dumps = session.Run(script + heater);
+        ASSERT_EQ(dumps.size(), 2U);
+        EXPECT_EQ(TextOf(dumps[0], "Kleist"), row.capacity) << row.act;
+        EXPECT_EQ(dumps[1]["qvopt.ExactBox"]["value"], row.on) << row.act;
+        EXPECT_EQ(session.folder.Read("qv_par.dat"), row.on ? eight + "1\r\n" : eight) << row.act;
+    }
+}
+
 TEST(Options, TestsOfTheRanges) {
     const struct {
         const char* tmin;

@@ -29,10 +29,12 @@ class TestFolder {
     void CopyStaged(const std::string& name) const {
         std::filesystem::copy(std::filesystem::path(ZANDRELL_STAGED_DATA) / name, path_ / name);
     }
+    // With the settings of an older installation: those of the suite's convention.
     void CopyWholeSet() const {
         std::filesystem::copy(ZANDRELL_STAGED_DATA, path_,
                               std::filesystem::copy_options::recursive |
                                   std::filesystem::copy_options::overwrite_existing);
+        Write("qv_par.dat", "1.013\r\n-20\r\n40\r\n0\r\n40\r\n0\r\n0\r\n1\r\n");
     }
     void Write(const std::string& name, const std::string& bytes) const {
         std::ofstream(path_ / name, std::ios::binary) << bytes;
