@@ -1,5 +1,5 @@
 // The help tells figures. Each is compared with what the program gives after the acts in front of
-// it, so that no example goes stale.
+// it under the delivered settings, so that no example goes stale.
 
 #include "base/text_encoding.h"
 #include "script_session.h"
@@ -25,6 +25,9 @@ void CompareFigures(const std::string& tag, const help_source::TopicSource& topi
         script += "dump " + figure.control + "\n";
     }
     ScriptSession session;
+    std::filesystem::copy(std::filesystem::path(ZANDRELL_SOURCE_DATA) / "qv_par.dat",
+                          session.folder / "qv_par.dat",
+                          std::filesystem::copy_options::overwrite_existing);
     const auto dumps = session.Run(script);
     ASSERT_EQ(dumps.size(), topic.figures.size()) << tag << " from line " << topic.line;
     for (std::size_t i = 0; i < dumps.size(); ++i) {
