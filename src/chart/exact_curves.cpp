@@ -137,8 +137,26 @@ void LabelDensityLine(const ChartPainting& painting, CanvasPoint end, double den
     }
 }
 
+// The Carrier chart ends with its range; the Mollier chart has room above it.
+void EndWithTheRange(const ChartPainting& painting, Polyline& line) {
+    if (painting.Mollier()) return;
+    const double end = painting.scale.Ym(painting.settings.ChartTMax);
+    // From dry to saturated air it gets colder, so what is too warm comes first.
+    const auto inside = std::find_if(line.begin(), line.end(),
+                                     [end](const CanvasPoint& point) { return point.y >= end; });
+    if (inside == line.begin() || inside == line.end()) {
+        if (inside == line.end()) line.clear();
+        return;
+    }
+    CanvasPoint& last = *std::prev(inside);
+    const double share = (end - inside->y) / (last.y - inside->y);
+    last = {inside->x + share * (last.x - inside->x), end};
+    line.erase(line.begin(), std::prev(inside));
+}
+
 void PaintDensityLine(const ChartPainting& painting, double density) {
-    const Polyline line = DensityLine(painting, density);
+    Polyline line = DensityLine(painting, density);
+    EndWithTheRange(painting, line);
     const LabelBox canvas{-10, 0, painting.width, painting.height};
     std::optional<CanvasPoint> end;
     for (std::size_t i = 1; i < line.size(); ++i) {

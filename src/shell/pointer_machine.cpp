@@ -66,6 +66,8 @@ void PointerMachine::Press(CanvasPoint place) {
             DropFrame();
             break;
         case PointerOwner::Zoomed:
+            // The suite keeps the pointer until a panel has been opened and closed.
+            if (chart_.settings.convention == Convention::Exact) StartFrame(place);
             break;
         case PointerOwner::Nobody:
         case PointerOwner::FrameDrawing:

@@ -72,6 +72,27 @@ TEST(Pointer, UnderExactTheNextFrameFollowsTheZoomOutAndTheAspectTheWindow) {
     }
 }
 
+// 20 g/kg fill the frame of the whole chart, 45 % of 1.09 * 20 that of the zoomed one.
+TEST(Pointer, UnderExactAFrameOnAZoomedChartGoesDeeper) {
+    for (const bool exact : {false, true}) {
+        ScriptSession session;
+        session.folder.Write("qv_par.dat",
+                             exact ? "1.013,-20,40,0,40,0,0,1,1" : "1.013,-20,40,0,40,0,0,1");
+        const std::string zoom =
+            "pointer press 500 100\npointer move 1400 390\npointer release 1400 390\n"
+            "pointer move 1000 200\npointer press 1000 200\npointer release 1000 200\n"
+            "dump spanX\n";
+        const auto dumps = session.Run(zoom + zoom);
+        const double first = dumps[0]["spanX"], second = dumps[1]["spanX"];
+        if (exact) {
+            EXPECT_NEAR(first, 20, 0.01);
+            EXPECT_NEAR(second, 900 / 2010.0 * 1.09 * 20, 0.01);
+        } else {
+            EXPECT_EQ(first, second);
+        }
+    }
+}
+
 TEST(Pointer, AFrameMayBeDrawnInAnyDirection) {
     const struct {
         double x1, y1, x2, y2;
