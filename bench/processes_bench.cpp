@@ -40,8 +40,10 @@ struct Processes {
     }
 };
 
-void RunPlant(benchmark::State& state, const std::array<const char*, 12>& texts, bool water) {
+void RunPlant(benchmark::State& state, const std::array<const char*, 12>& texts, bool water,
+              Convention convention = Convention::Suite) {
     Processes processes;
+    processes.settings.convention = convention;
     processes.SetPlant(texts);
     if (water) Choose(processes.plant.Option3D4, processes.plant.Option3D3);
     // Dragging: the outside temperature changes with every run.
@@ -71,6 +73,13 @@ void PlantWinterWater(benchmark::State& state) {
              true);
 }
 BENCHMARK(PlantWinterWater);
+
+// Outside air of tenths moves no bar; what is computed is one exact run.
+void ExactPlantWinterWater(benchmark::State& state) {
+    RunPlant(state, {"10000", "1", "20", "50", "-10", "100", "25", "35", "12", "95", "1", "1"},
+             true, Convention::Exact);
+}
+BENCHMARK(ExactPlantWinterWater);
 
 void PointMode(benchmark::State& state, Calculation mode) {
     Processes processes;
