@@ -32,7 +32,11 @@ bool PlantPanel::CorrectExactly(PlantInputs& inputs, ExactHumidities& humidities
     humidities = *found;
     // A raised humidity is shown cut: read again it lies a little lower, and is raised to the same.
     if (inputs.phiZu != phiZu) ShowNumber(PHIZuluft, Cut(inputs.phiZu, kBarUnitsPerField));
-    if (inputs.phiAb != phiAb) ShowNumber(PHIAbluft, Cut(inputs.phiAb, kBarUnitsPerField));
+    if (inputs.phiAb != phiAb) {
+        const std::string given = PHIAbluft.text;
+        ShowNumber(PHIAbluft, Cut(inputs.phiAb, kBarUnitsPerField));
+        exhaust_raised = exhaust_raised || PHIAbluft.text != given;
+    }
     Phiaussenscroll.ShowTenths(ReadHumidity(PhiAussen));
     PhiZuscroll.ShowTenths(ParsedNumber(PHIZuluft.text));
     PHIAbscroll.ShowTenths(ParsedNumber(PHIAbluft.text));
