@@ -115,8 +115,7 @@ bool WorkingStateKeeper::KeepUnread(std::string_view name) {
     }
     std::string reason;
     if (context_.files.Rename(name, kPreviousStateFile, reason)) return true;
-    Complain(context_, SavingFailedText(
-                           context_, context_.files.Resolve(kPreviousStateFile).string(), reason));
+    Complain(context_, SavingFailedText(context_, context_.files.Resolve(name).string(), reason));
     return false;
 }
 
