@@ -1,23 +1,23 @@
 #include "desktop/pictures.h"
 
 #include <QImage>
-#include <QImageReader>
-#include <QString>
 #include <algorithm>
 
 #include "desktop/look_colours.h"
+#include "painter/picture_file.h"
 
 namespace zandrell {
 namespace {
 
-constexpr int kLargestSide = 8000;  // pixels; what claims to be larger is no picture of the suite
+// Pixels of a side: a drawing for a button or the logo is kept no larger than the largest screen
+// shows it.
+constexpr int kLargestDrawing = 1024;
 
-QImage ReadPicture(const DataFiles& files, std::string_view file_name) {
-    QImageReader reader(QString::fromStdString(files.Resolve(file_name).string()));
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.width() > kLargestSide || size.height() > kLargestSide) return {};
-    return reader.read();
+QImage ReadDrawing(const DataFiles& files, std::string_view file_name) {
+    const QImage image = ReadPicture(files, file_name);
+    if (std::max(image.width(), image.height()) <= kLargestDrawing) return image;
+    return image.scaled(kLargestDrawing, kLargestDrawing, Qt::KeepAspectRatio,
+                        Qt::SmoothTransformation);
 }
 
 // Undoes the blending with white: the darkest channel says how much of the ink covers the ground.
@@ -60,7 +60,7 @@ QPixmap Pictures::OnGround(std::string_view file_name) {
     if (file_name.empty()) return {};
     const auto found = on_ground_.find(file_name);
     if (found != on_ground_.end()) return found->second;
-    const QImage image = ReadPicture(files_, file_name);
+    const QImage image = ReadDrawing(files_, file_name);
     const QPixmap picture =
         QPixmap::fromImage(image.isNull() ? image : Changed(image, WithoutWhite));
     return on_ground_.emplace(file_name, picture).first->second;

@@ -1,10 +1,11 @@
 #include "painter/sheet_painter.h"
 
 #include <QFontMetricsF>
-#include <QImageReader>
 #include <QPen>
 #include <algorithm>
+#include <filesystem>
 
+#include "painter/picture_file.h"
 #include "painter/qt_canvas.h"
 #include "painter/text_layout.h"
 
@@ -20,7 +21,6 @@ constexpr double kWidthUnit = 0.22 * kUnitsPerPoint;  // of a line of width 1
 constexpr double kLeastLine = 0.32 * kUnitsPerPoint;  // thinner ones break up on paper
 constexpr double kRim = 0.9 * kUnitsPerPoint;
 constexpr double kSmallestShrink = 0.5;
-constexpr int kLargestPicture = 8000;  // pixels
 // The chart's frame on the page, in canvas units. It ends where the paper's edge would cut it.
 constexpr QRectF kFrame{kCanvasLeft, kCanvasTop, 1980, kCanvasBottom - kCanvasTop};
 // Its scales stand outside the frame, to the left, above and below.
@@ -130,11 +130,7 @@ void PaintCircle(QPainter& painter, const SheetItem& item, const PagePlaces& pla
 
 // A picture that cannot be read leaves its corner blank.
 void PaintLogo(QPainter& painter, const SheetItem& item, const PagePlaces& places) {
-    QImageReader reader(QString::fromStdString(item.text));
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.width() > kLargestPicture || size.height() > kLargestPicture) return;
-    const QImage picture = reader.read();
+    const QImage picture = ReadPicture(DataFiles(std::filesystem::path()), item.text);
     if (picture.isNull()) return;
     const QRectF room(places.At(item.x1, item.y1), places.At(item.x2, item.y2));
     QSizeF natural = QSizeF(picture.size()) * kPointsPerDot * kUnitsPerPoint;
