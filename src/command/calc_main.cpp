@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "base/process_signals.h"
 #include "command/command_line.h"
 #include "command/process_ends.h"
 #include "command/sibling_printer.h"
@@ -64,6 +65,7 @@ bool Run(const CommandLine& line, std::string& error) {
 }  // namespace
 
 int main(int count, char** arguments) {
+    TakeFileLimitAsError();
     CommandLine line;
     std::string error;
     if (const auto status = ReadCommandLine(count, arguments, line, std::cout, error)) {

@@ -1,6 +1,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "base/process_signals.h"
 #include "command/process_ends.h"
 #include "command/scripted_chart.h"
 #include "command/sheet_text.h"
@@ -47,6 +48,7 @@ int Draw(const CommandLine& line, const std::string& script) {
 // The verbs `chart` and `print` of zandrell-calc, which starts this program with its own arguments;
 // and what scripts of the other verbs print.
 int main(int count, char** arguments) {
+    TakeFileLimitAsError();
     const std::string_view option = count > 1 ? arguments[1] : "";
     if (option == kFontsOption || (option == kPageOption && count == 3)) {
         const OffscreenToolkit toolkit(arguments);

@@ -9,8 +9,10 @@
 #include <filesystem>
 #include <string>
 
+#include "base/process_signals.h"
 #include "canvas/canvas.h"
 #include "desktop/accessible.h"
+#include "desktop/end_signals.h"
 #include "desktop/look.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_user.h"
@@ -112,6 +114,7 @@ int Run(const Arguments& arguments, QApplication& application) {
     window.resize(size);
     window.show();
     window.Start();
+    const EndSignals end_signals(form, user);
     if (!arguments.project.empty()) {
         window.OpenProject(QString::fromStdString(Whole(arguments.project).string()));
     }
@@ -143,6 +146,7 @@ int main(int argc, char** argv) {
     if (!zandrell::ReadSize(arguments)) {
         return zandrell::Fail("--size takes a width and a height in pixels, such as 1280x800");
     }
+    zandrell::TakeFileLimitAsError();
     if (!zandrell::HasDisplay()) {
         return zandrell::Fail(zandrell::kNoDisplay);
     }

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QThread>
 #include <algorithm>
+#include <cstdio>
 
 #include "desktop/help_window.h"
 #include "desktop/options_window.h"
@@ -31,6 +32,10 @@ void QtUser::Refresh() const {
 }
 
 void QtUser::ShowMessage(const Message& message) {
+    if (nobody_answers) {
+        std::fprintf(stderr, "zandrell: %s\n", message.text.c_str());
+        return;
+    }
     Refresh();
     if (on_message) on_message(message);
     const auto icon =
@@ -45,6 +50,7 @@ void QtUser::ShowMessage(const Message& message) {
 }
 
 bool QtUser::Confirm(const Message& question) {
+    if (nobody_answers) return false;
     Refresh();
     if (on_message) on_message(question);
     QWidget* active = QApplication::activeModalWidget();

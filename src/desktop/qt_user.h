@@ -38,6 +38,9 @@ class QtUser : public UserInterface {
     void CopyChart() override;
     bool ChoosePrinter(const std::string& title) override;
 
+    // While the system ends the program: messages go to the standard error, questions are declined.
+    bool nobody_answers = false;
+
     // A PDF that takes the pages in place of a printer; empty: none. No printer is asked for then.
     std::string print_file;
 

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -52,11 +53,13 @@ ScriptRunner::ScriptRunner(MainForm& form, MainWindow& window, QtUser& user)
 }
 
 bool ScriptRunner::Start(const std::string& path) {
+    std::error_code error;
     std::ifstream file(path);
-    if (!file) return false;
+    if (!file || std::filesystem::is_directory(path, error)) return false;
     int number = 0;
-    for (std::string line; std::getline(file, line);) {
+    for (std::string line; ReadScriptLine(file, line);) {
         ++number;
+        if (line.size() > kLongestScriptLine) return false;
         for (std::string& act : ActsOf(line)) lines_.emplace_back(number, std::move(act));
     }
     Schedule();

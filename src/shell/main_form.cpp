@@ -253,6 +253,12 @@ void MainForm::ende_qv() {
     if (projects_.SaveAtEnd()) CloseWindow();
 }
 
+void MainForm::EndForSystem() {
+    if (ended) return;
+    projects_.SaveAtEnd();
+    CloseWindow();
+}
+
 void MainForm::ExitWithoutSaving() {
     const Message question{shared.AppTitle, captions[Caption::UnsavedInputsQuestion],
                            MessageIcon::Question};

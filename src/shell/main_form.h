@@ -78,6 +78,8 @@ class MainForm : public WindowForm {
     // When the inputs cannot be saved the window stays, so that nothing is lost unseen; a second
     // try closes it.
     void ende_qv();
+    // The system ends the program: saves what can be saved, and leaves whatever window is open.
+    void EndForSystem();
     // Ends without saving; asks first when inputs would be lost.
     void ExitWithoutSaving();
 
