@@ -42,6 +42,7 @@ void PaintDialog(QPixmap& picture, QWidget& dialog, QWidget& window) {
 
 ScriptRunner::ScriptRunner(MainForm& form, MainWindow& window, QtUser& user)
     : window_(window), script_(form, std::cout) {
+    std::cout << std::unitbuf;  // who reads the dumps acts on them
     user.on_window = [this](ModalForm* opened) {
         if (opened) {
             script_.WindowOpened(*opened);

@@ -1,0 +1,36 @@
+// The real program, ended by the system.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "support/test_folder.h"
+
+namespace zandrell {
+namespace {
+
+TEST(EndBySystem, SavesTheInputsAlsoFromWithinADialog) {
+    for (const char* signal : {"TERM", "HUP"}) {
+        for (const char* dialog : {"", "click optButt\n", "click ProLad\n"}) {
+            const TestFolder folder;
+            folder.CopyWholeSet();
+            // What the script writes last tells that the program has come so far.
+            folder.Write("script.txt", std::string("set Taus 31\n") + dialog + "dump Taus\n");
+            const std::string path = "'" + folder.Path().string() + "'";
+            folder.Write("run.sh", "cd " + path + "\n'" ZANDRELL_WINDOW "' --data " + path +
+                                       " --script script.txt >said 2>errors & program=$!\n"
+                                       "for i in $(seq 200); do\n"
+                                       "  grep -q Taus said && break; sleep 0.05\n"
+                                       "done\nkill -" +
+                                       signal + " $program; wait $program\n");
+            const int status = std::system(("bash '" + (folder / "run.sh").string() + "'").c_str());
+            EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0)
+                << signal << dialog << status;
+            EXPECT_NE(folder.Read("QV_ACT.dat").find("31"), std::string::npos) << signal << dialog;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace zandrell
