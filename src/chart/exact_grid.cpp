@@ -21,7 +21,9 @@ template <class Draw>
 void ForMultiples(double from, double to, double step, const Draw& draw) {
     constexpr double kSlack = 1e-9;  // so that a limit that is a multiple counts
     const double first = std::ceil(from / step - kSlack), last = std::floor(to / step + kSlack);
-    for (double i = first; i <= std::min(last, first + kMostLines); ++i) draw(i * step);
+    // Counted from 0: a number beyond 2 to the 53rd does not grow by 1.
+    const double count = std::min(last - first, kMostLines);
+    for (double i = 0; i <= count; ++i) draw((first + i) * step);
 }
 
 void PaintMollierPressure(const ChartPainting& painting, const VisibleRanges& visible) {
