@@ -8,6 +8,8 @@
 #include "kernel/humid_air_state.h"
 #include "kernel/inverse_state.h"
 #include "kernel/real_air.h"
+#include "kernel/real_air_pair.h"
+#include "kernel/real_air_wet_bulb.h"
 #include "kernel/state_solver.h"
 #include "kernel/steam.h"
 #include "kernel/water_air_tables.h"
@@ -86,6 +88,24 @@ void RealAirWithDewPoint(benchmark::State& rounds) {
     });
 }
 BENCHMARK(RealAirWithDewPoint);
+
+void RealAirWithDewPointAndWetBulb(benchmark::State& rounds) {
+    PerHour(rounds, [](double relF, double t) {
+        const auto state = EvaluateRealAir(relF, t, kPressureBar);
+        const auto dew = RealDewPoint(state->vapour_pressure, kPressureBar);
+        const auto bulb = RealWetBulb(t, state->x, state->enthalpy, kPressureBar);
+        return dew.value_or(0) + (bulb ? bulb->t : 0);
+    });
+}
+BENCHMARK(RealAirWithDewPointAndWetBulb);
+
+void RealAirFromWetBulb(benchmark::State& rounds) {
+    PerHour(rounds, [](double, double t) {
+        return RealAirFromPair({AirFigure::Temperature, t}, {AirFigure::WetBulb, t - 1},
+                               kPressureBar);
+    });
+}
+BENCHMARK(RealAirFromWetBulb);
 
 void StateInTwoSteps(benchmark::State& rounds) {
     const PressurePoint pressure = EvaluatePressure(Tables(), kPressureBar);

@@ -1,6 +1,6 @@
 // Makes the fits of the real-air model from tabulated virial coefficients and the equation of the
-// sublimation pressure: make_real_air SOURCE_TABLE OUTPUT_HEADER. The largest deviations are
-// printed, and stand beside each fit.
+// sublimation pressure: make_real_air SOURCE_TABLE LIQUID_TABLE OUTPUT_HEADER. The largest
+// deviations are printed, and stand beside each fit.
 
 #include <Eigen/Dense>
 #include <cmath>
@@ -111,6 +111,23 @@ double LogSublimation(double t) {
            s;
 }
 
+// Enthalpy of ice at saturation, kJ/kg: that of its vapour, less the heat of sublimation by
+// Clapeyron's equation, T (v'' - v) dp/dT.
+double IceEnthalpy(double t, const Fit& ideal, const Fit& B, const Fit& volume) {
+    constexpr double kGasConstant = 8.314472, kMolarMass = 18.015268, kNear = 1e-3;
+    constexpr double kTriplePressure = 611.657, kCubicMetrePerCm3 = 1e-6;
+    const double T = t + kKelvinOffset, p = kTriplePressure * std::exp(LogSublimation(t));
+    const double slope = p * (LogSublimation(t + kNear) - LogSublimation(t - kNear)) / (2 * kNear);
+    const double b = Evaluate(B.coefficients, t) * kCubicMetrePerCm3;
+    const double b_slope =
+        (Evaluate(B.coefficients, t + kNear) - Evaluate(B.coefficients, t - kNear)) / (2 * kNear) *
+        kCubicMetrePerCm3;
+    const double vapour = kGasConstant * T / p + b;
+    const double ice = Evaluate(volume.coefficients, t) * kCubicMetrePerCm3;
+    return Evaluate(ideal.coefficients, t) +
+           (p * (b - T * b_slope) - T * (vapour - ice) * slope) / kMolarMass;
+}
+
 Samples OfEquation(const std::function<double(double)>& equation, double low, double high) {
     Samples samples;
     for (double t = low; t <= high; t += 0.5) {
@@ -148,15 +165,17 @@ void WriteFit(std::ostream& header, const char* name, const char* what, const Fi
     std::printf("%-16s %.2e\n", name, fit.residual);
 }
 
-void MakeHeader(const std::string& source, const std::string& output) {
-    const Columns table = ReadTable(source);
+void MakeHeader(const std::string& source, const std::string& liquid_source,
+                const std::string& output) {
+    const Columns table = ReadTable(source), liquid = ReadTable(liquid_source);
     std::ofstream header(output, std::ios::binary);
     header
         << "#pragma once\n\n#include <array>\n\n"
            "// Fits of the real-air model, made by tools/make_real_air.cpp from\n"
-           "// data/properties/real-air.csv and the equation of the sublimation pressure:\n"
-           "// polynomials in 273.16 K / T - 1. The figure behind each is the largest deviation\n"
-           "// relative to the value.\n"
+           "// data/properties/real-air.csv, data/properties/saturated-water.csv and the equation\n"
+           "// of the sublimation pressure: polynomials in 273.16 K / T - 1. The figure behind "
+           "each is\n"
+           "// the largest deviation relative to the value.\n"
            "namespace zandrell::real_air {\n\n// clang-format off\n";
     const auto virial = [&](const char* name, const char* column, int degree, const char* what) {
         const auto samples = OfTable(table, column, std::string("T") + column);
@@ -179,6 +198,15 @@ void MakeHeader(const std::string& source, const std::string& output) {
              Polynomial(OfTable(table, "V_c", {}, 10, 100), 4));
     WriteFit(header, "kHenry", "Henry's constant of air in water, 1/GPa, 10..100 degC",
              Polynomial(OfTable(table, "beta", {}, 10, 100), 6));
+    WriteFit(header, "kLiquidEnthalpy",
+             "Enthalpy of liquid water at saturation, kJ/kg, of 10 kJ/kg and more, 0.01..100 degC",
+             Polynomial(OfTable(liquid, "h", {}, 0, 100), 5, 10));
+    const Fit ideal = Polynomial(OfTable(table, "h0_w"), 7);
+    const Fit B = Polynomial(OfTable(table, "B_ww", "TB_ww"), 9);
+    const Fit volume = Polynomial(OfTable(table, "V_c", {}, -60, 0), 3);
+    const auto ice = [&](double t) { return IceEnthalpy(t, ideal, B, volume); };
+    WriteFit(header, "kIceEnthalpy", "of ice, -60..0.01 degC",
+             Polynomial(OfEquation(ice, -60, 0.01), 4));
     // The logarithm is 0 at the triple point, where its deviation counts as it stands.
     WriteFit(header, "kSublimation",
              "ln of the sublimation pressure over 611.657 Pa, -100..0.01 degC",
@@ -190,12 +218,12 @@ void MakeHeader(const std::string& source, const std::string& output) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-    if (argument_count != 3) {
-        std::cerr << "usage: make_real_air SOURCE_TABLE OUTPUT_HEADER\n";
+    if (argument_count != 4) {
+        std::cerr << "usage: make_real_air SOURCE_TABLE LIQUID_TABLE OUTPUT_HEADER\n";
         return 2;
     }
     try {
-        MakeHeader(arguments[1], arguments[2]);
+        MakeHeader(arguments[1], arguments[2], arguments[3]);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "make_real_air: " << error.what() << '\n';

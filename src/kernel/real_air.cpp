@@ -157,6 +157,23 @@ bool PressureWithinLimits(double p_bar) {
     return p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar;
 }
 
+// The dew point from the equation of Magnus (coefficients of Sonntag, Z. Meteorol. 40, 1990), which
+// is off by some tenths of a kelvin, on one side of the triple point.
+template <typename Saturation>
+std::optional<double> NearDewPoint(double vapour_pressure, const Saturation& saturation) {
+    constexpr double kPressure = 611.2;  // Pa
+    constexpr double kAway = 0.5;        // K, off which the branches are not mixed up
+    constexpr double kClose = 1e-6;      // K, of a step; what is left is a thousandth of it
+    const double l = std::log(vapour_pressure / kPressure);
+    const bool ice = l < 0;
+    const double a = ice ? 22.46 : 17.62, b = ice ? 272.62 : 243.12;
+    const double start = b * l / (a - l);
+    if (std::abs(start) < 2 * kAway) return std::nullopt;
+    const double slope = a * b / ((b + start) * (b + start));
+    return RootBySlope(start, -slope, ice ? -100 : kAway, ice ? -kAway : 105, kClose,
+                       [&](double t) { return std::log(vapour_pressure / saturation(t)); });
+}
+
 }  // namespace
 
 double RealSaturationPressure(double t) {
@@ -175,6 +192,11 @@ double RealSaturationPressure(double t) {
     return 1e6 * root * root * root * root;
 }
 
+double RealSaturatedVapour(double t, double p_bar) {
+    const double saturation = RealSaturationPressure(t);
+    return EnhancementAt(t, p_bar * kPascalPerBar, saturation) * saturation;
+}
+
 std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar) {
     if (!(relF >= 0 && relF <= 1 && t >= kRealAirLowest && t <= kRealAirHighest) ||
         !PressureWithinLimits(p_bar)) {
@@ -189,6 +211,15 @@ std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar)
     RealAirState state = StateOf(virials, w, t + kOffset, p, psi);
     state.enhancement = factor;
     return state;
+}
+
+void EvaluateRealAirs(std::span<const double> relF, std::span<const double> t,
+                      std::span<const double> p_bar,
+                      std::span<std::optional<RealAirState>> states) {
+    const bool one_pressure = p_bar.size() == 1;
+    for (std::size_t i = 0; i < states.size(); ++i) {
+        states[i] = EvaluateRealAir(relF[i], t[i], p_bar[one_pressure ? 0 : i]);
+    }
 }
 
 std::optional<double> RealDewPoint(double vapour_pressure, double p_bar) {
@@ -211,6 +242,9 @@ std::optional<double> RealDewPoint(double vapour_pressure, double p_bar) {
         };
     };
     const auto temperature = [](double w) { return kTriplePoint / (1 + w) - kOffset; };
+    if (const auto near = NearDewPoint(vapour_pressure, humid)) {
+        return *near > kRealAirHighest ? std::nullopt : near;
+    }
     // First without the factor, which costs most, then with it in what is left.
     constexpr double kRounding = 1e-6;  // K
     const double start = temperature(RootOfFalling(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 namespace zandrell {
 
@@ -30,10 +31,19 @@ struct RealAirState {
 // from -100), over liquid water above (IAPWS-IF97, equation 30, to 373 degC).
 double RealSaturationPressure(double t);
 
+// The pressure in Pa of vapour that saturates air at t and p_bar, from -100 degC: that of pure
+// water, raised by the enhancement factor; above boiling without it.
+double RealSaturatedVapour(double t, double p_bar);
+
 // The state at relative humidity relF (0..1, over ice up to 0.01 degC), t in degC and p_bar. Above
 // the boiling temperature relF is that of the saturation pressure without enhancement. Empty
 // outside the limits, for a humidity outside 0..1 and for more than 10 kg of water per kg.
 std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar);
+
+// The same for arrays: state i from relF[i], t[i] and p_bar[i], or p_bar[0] for all. Requires: as
+// many states and temperatures as humidities, as many pressures or one.
+void EvaluateRealAirs(std::span<const double> relF, std::span<const double> t,
+                      std::span<const double> p_bar, std::span<std::optional<RealAirState>> states);
 
 // The dew point in degC, up to 0.01 degC the frost point, of air with this vapour pressure in Pa.
 // Empty for pressures that are not reached between -100 degC and the highest temperature, and

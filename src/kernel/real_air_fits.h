@@ -3,9 +3,9 @@
 #include <array>
 
 // Fits of the real-air model, made by tools/make_real_air.cpp from
-// data/properties/real-air.csv and the equation of the sublimation pressure:
-// polynomials in 273.16 K / T - 1. The figure behind each is the largest deviation
-// relative to the value.
+// data/properties/real-air.csv, data/properties/saturated-water.csv and the equation
+// of the sublimation pressure: polynomials in 273.16 K / T - 1. The figure behind each is
+// the largest deviation relative to the value.
 namespace zandrell::real_air {
 
 // clang-format off
@@ -137,6 +137,23 @@ inline constexpr std::array<double, 7> kHenry{
     6.32541154897e+01,
     9.98443529713e+01,
     8.30507617077e+01,
+};
+// Enthalpy of liquid water at saturation, kJ/kg, of 10 kJ/kg and more, 0.01..100 degC; off by 3.6e-05.
+inline constexpr std::array<double, 6> kLiquidEnthalpy{
+    -3.19461168287e-06,
+    -1.15284079662e+03,
+    1.01793529363e+03,
+    -1.83153256421e+03,
+    -1.08358862417e+03,
+    -5.42947665880e+03,
+};
+// of ice, -60..0.01 degC; off by 3.3e-05.
+inline constexpr std::array<double, 5> kIceEnthalpy{
+    -3.33420900210e+02,
+    -5.77742765628e+02,
+    8.99185637548e+02,
+    -1.23726385220e+03,
+    1.01786773112e+03,
 };
 // ln of the sublimation pressure over 611.657 Pa, -100..0.01 degC; off by 3.8e-09.
 inline constexpr std::array<double, 9> kSublimation{

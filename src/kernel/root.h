@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <optional>
 
 namespace zandrell {
 
@@ -30,6 +31,30 @@ double RootOfFalling(double low, double high, double close_enough, const Functio
         }
     }
     return (low + high) / 2;
+}
+
+// The root of a function that falls, found by its slope from `start`: `slope` tells it about right,
+// to a tenth, so that each step leaves a small part of the distance; steps behind the first take it
+// from the two values before. Empty when a step leads out of `low` to `high` or the steps do not
+// get small, which leaves it to the bracketing.
+template <typename Function>
+std::optional<double> RootBySlope(double start, double slope, double low, double high,
+                                  double close_enough, const Function& function) {
+    constexpr int kMostSteps = 6;
+    double at = start, value = function(at);
+    for (int i = 0; i < kMostSteps; ++i) {
+        const double step = -value / slope;
+        const double next = at + step;
+        if (!(next >= low && next <= high)) return std::nullopt;
+        at = next;
+        if (std::abs(step) < close_enough) return at;
+        const double found = function(at);
+        if (std::abs(found) > std::abs(value)) return std::nullopt;
+        const double secant = (found - value) / step;
+        if (secant < 0 && std::isfinite(secant)) slope = secant;
+        value = found;
+    }
+    return std::nullopt;
 }
 
 }  // namespace zandrell

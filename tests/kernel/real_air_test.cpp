@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <fstream>
 #include <limits>
@@ -95,6 +96,16 @@ TEST(RealAir, SaysWhereItsModelEnds) {
         EXPECT_EQ(found.has_value(), row.answered) << row.p_vapour << " " << row.p_bar;
         EXPECT_TRUE(!found || std::isfinite(*found));
     }
+}
+
+TEST(RealAir, AnArrayHasTheSameStates) {
+    const std::array<double, 3> relF{0.2, 0.9, 2}, t{-20, 30, 20}, p{0.9, 1.5, 1};
+    std::array<std::optional<RealAirState>, 3> states;
+    EvaluateRealAirs(relF, t, p, states);
+    EXPECT_EQ(states[1]->x, EvaluateRealAir(0.9, 30, 1.5)->x);
+    EXPECT_FALSE(states[2]);
+    EvaluateRealAirs(relF, t, std::span(p).first(1), states);
+    EXPECT_EQ(states[1]->density, EvaluateRealAir(0.9, 30, 0.9)->density);
 }
 
 // At saturation the dew point is the temperature itself, on either side of the triple point.

@@ -1,0 +1,308 @@
+#include "kernel/real_air_pair.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include "kernel/real_air_wet_bulb.h"
+#include "kernel/root.h"
+
+namespace zandrell {
+namespace {
+
+constexpr double kRatio = 1000 * 18.015268 / 28.966;  // g/kg
+constexpr double kPascalPerBar = 100000;
+constexpr double kMostX = 10000;          // g/kg
+constexpr double kLowestDewPoint = -100;  // degC
+constexpr double kCloseEnough = 1e-12;    // of what is bracketed
+constexpr double kRounding = 1e-9;        // by which an end may be missed, relative to 1 + its size
+
+bool TellsVapour(AirFigure figure) {
+    return figure == AirFigure::HumidityRatio || figure == AirFigure::DewPoint ||
+           figure == AirFigure::VapourPressure;
+}
+
+double VapourPressureOf(GivenFigure given, double p_bar) {
+    const double p = p_bar * kPascalPerBar;
+    switch (given.figure) {
+        case AirFigure::HumidityRatio:
+            return p * given.value / (kRatio + given.value);
+        case AirFigure::DewPoint:
+            return RealSaturatedVapour(given.value, p_bar);
+        default:
+            return given.value;
+    }
+}
+
+// Relative humidity of a vapour pressure at t: above 1 in the fog.
+double FractionOf(double vapour_pressure, double t, double p_bar) {
+    return vapour_pressure / RealSaturatedVapour(t, p_bar);
+}
+
+double HighestTemperature(double relF, double p_bar) {
+    if (EvaluateRealAir(relF, kRealAirHighest, p_bar)) return kRealAirHighest;
+    double low = kRealAirLowest, high = kRealAirHighest;
+    for (int i = 0; i < 60; ++i) {
+        const double middle = (low + high) / 2;
+        (EvaluateRealAir(relF, middle, p_bar) ? low : high) = middle;
+    }
+    return low;
+}
+
+// The highest relative humidity at t that the model knows.
+double HighestHumidity(double t, double p_bar) {
+    if (EvaluateRealAir(1, t, p_bar)) return 1;
+    double low = 0, high = 1;
+    for (int i = 0; i < 60; ++i) {
+        const double middle = (low + high) / 2;
+        (EvaluateRealAir(middle, t, p_bar) ? low : high) = middle;
+    }
+    return low;
+}
+
+PairAnswer Found(RealAirPoint point) { return {PairEnd::Found, point}; }
+
+class PairSearch {
+  public:
+    explicit PairSearch(double p_bar) : p_bar_(p_bar) {}
+
+    PairAnswer Answer(GivenFigure first, GivenFigure second) const {
+        if (TellsVapour(first.figure) && TellsVapour(second.figure)) {
+            return {PairEnd::NotIndependent};
+        }
+        if (first.figure == second.figure) return {PairEnd::NotIndependent};
+        if (const auto fault = AloneOutside(first)) return *fault;
+        if (auto fault = AloneOutside(second)) {
+            fault->end = PairEnd::SecondOutside;
+            return *fault;
+        }
+        // The kept figure comes first in the order of how plainly it leaves a line.
+        const bool keep_first = Rank(first.figure) <= Rank(second.figure);
+        const GivenFigure kept = keep_first ? first : second, other = keep_first ? second : first;
+        if (kept.figure == AirFigure::WetBulb && other.figure == AirFigure::Enthalpy) {
+            return FromWetBulbAndEnthalpy(kept.value, other.value);
+        }
+        return Along(kept, other, first, second);
+    }
+
+  private:
+    static int Rank(AirFigure figure) {
+        if (figure == AirFigure::Temperature) return 0;
+        if (figure == AirFigure::RelativeHumidity) return 1;
+        if (TellsVapour(figure)) return 2;
+        return figure == AirFigure::WetBulb ? 3 : figure == AirFigure::Enthalpy ? 4 : 5;
+    }
+
+    std::optional<PairAnswer> AloneOutside(GivenFigure given) const {
+        double least = -std::numeric_limits<double>::infinity();
+        double most = std::numeric_limits<double>::infinity();
+        switch (given.figure) {
+            case AirFigure::Temperature:
+                least = kRealAirLowest, most = kRealAirHighest;
+                break;
+            case AirFigure::RelativeHumidity:
+                least = 0, most = 1;
+                break;
+            case AirFigure::HumidityRatio:
+                least = 0, most = kMostX;
+                break;
+            case AirFigure::DewPoint:
+                least = kLowestDewPoint, most = HighestTemperature(1, p_bar_);
+                break;
+            case AirFigure::WetBulb:
+                least = kRealAirLowest, most = HighestTemperature(1, p_bar_);
+                break;
+            case AirFigure::VapourPressure:
+                least = 0, most = kRealAirMostWater * kPascalPerBar * p_bar_;
+                break;
+            case AirFigure::Enthalpy:
+            case AirFigure::Density:
+                break;
+        }
+        if (given.value >= least && given.value <= most && std::isfinite(given.value)) {
+            return std::nullopt;
+        }
+        return PairAnswer{PairEnd::FirstOutside, {}, least, most};
+    }
+
+    // The states that keep a figure, by temperature (by humidity where it is the temperature that
+    // is kept), and the ends of that way.
+    struct Way {
+        double low = 0, high = 0;
+        bool known = false;
+    };
+    Way WayOf(GivenFigure kept) const {
+        switch (kept.figure) {
+            case AirFigure::Temperature:
+                return {0, HighestHumidity(kept.value, p_bar_), true};
+            case AirFigure::RelativeHumidity:
+                return {kRealAirLowest, HighestTemperature(kept.value, p_bar_), true};
+            case AirFigure::HumidityRatio:
+            case AirFigure::DewPoint:
+            case AirFigure::VapourPressure:
+                return WayOfVapour(kept);
+            case AirFigure::Enthalpy:
+            case AirFigure::WetBulb:
+            case AirFigure::Density:
+                return WayFromSaturationToDryAir(kept);
+        }
+        return {};
+    }
+
+    Way WayOfVapour(GivenFigure kept) const {
+        const double vapour = VapourPressureOf(kept, p_bar_);
+        if (FractionOf(vapour, kRealAirHighest, p_bar_) > 1) return {};
+        if (FractionOf(vapour, kRealAirLowest, p_bar_) <= 1) {
+            return {kRealAirLowest, kRealAirHighest, true};
+        }
+        const auto dew = RealDewPoint(vapour, p_bar_);
+        if (!dew) return {};
+        return {*dew, kRealAirHighest, true};
+    }
+
+    // From the temperature at which saturated air has the figure to that of dry air.
+    Way WayFromSaturationToDryAir(GivenFigure kept) const {
+        Way way{kRealAirLowest, kRealAirHighest, true};
+        const auto saturated = Along({AirFigure::RelativeHumidity, 1}, kept, {}, {});
+        const auto dry = Along({AirFigure::RelativeHumidity, 0}, kept, {}, {});
+        if (saturated.point) way.low = saturated.point->t;
+        if (dry.point) way.high = dry.point->t;
+        way.known = saturated.point.has_value();
+        return way;
+    }
+
+    std::optional<RealAirPoint> PointOn(GivenFigure kept, double at) const {
+        switch (kept.figure) {
+            case AirFigure::Temperature:
+                return RealAirPoint{kept.value, at};
+            case AirFigure::RelativeHumidity:
+                return RealAirPoint{at, kept.value};
+            case AirFigure::HumidityRatio:
+            case AirFigure::DewPoint:
+            case AirFigure::VapourPressure:
+                return RealAirPoint{
+                    at, std::min(FractionOf(VapourPressureOf(kept, p_bar_), at, p_bar_), 1.0)};
+            default:
+                return Along({AirFigure::Temperature, at}, kept, {}, {}).point;
+        }
+    }
+
+    // What a point has more than is asked for, in a figure that rises along every way.
+    std::optional<double> Above(GivenFigure wanted, const RealAirPoint& point) const {
+        const auto state = EvaluateRealAir(point.relF, point.t, p_bar_);
+        if (!state) return std::nullopt;
+        switch (wanted.figure) {
+            case AirFigure::WetBulb:
+                return AboveWetBulb(wanted.value, state->x, state->enthalpy, p_bar_);
+            case AirFigure::Enthalpy:
+                return state->enthalpy - wanted.value;
+            case AirFigure::Density:
+                return wanted.value - state->density;
+            case AirFigure::RelativeHumidity:
+                return point.relF - wanted.value;
+            case AirFigure::Temperature:
+                return point.t - wanted.value;
+            default:
+                return state->vapour_pressure - VapourPressureOf(wanted, p_bar_);
+        }
+    }
+
+    PairAnswer Along(GivenFigure kept, GivenFigure other, GivenFigure first,
+                     GivenFigure second) const {
+        const Way way = WayOf(kept);
+        if (!way.known) return {PairEnd::OutsideModel};
+        bool known = true;
+        const auto missing = [&](double at) {
+            const auto point = PointOn(kept, at);
+            const auto above = point ? Above(other, *point) : std::nullopt;
+            known = known && above;
+            return -above.value_or(0);
+        };
+        const double slack = kRounding * (1 + std::abs(other.value));
+        const double at_low = missing(way.low), at_high = missing(way.high);
+        if (!known) return {PairEnd::OutsideModel};
+        if (at_low < -slack || at_high > slack) return Outside(kept, other, way, first, second);
+        const double at = at_low <= 0    ? way.low
+                          : at_high >= 0 ? way.high
+                                         : RootOfFalling(way.low, way.high, kCloseEnough, missing);
+        const auto point = PointOn(kept, at);
+        if (!known || !point) return {PairEnd::OutsideModel};
+        return Found(*point);
+    }
+
+    // Between which values the second figure would lie with the first as it is.
+    PairAnswer Outside(GivenFigure kept, GivenFigure other, const Way& way, GivenFigure first,
+                       GivenFigure second) const {
+        PairAnswer answer{PairEnd::SecondOutside};
+        if (kept.figure == first.figure) {
+            const auto low = PointOn(kept, way.low), high = PointOn(kept, way.high);
+            if (!low || !high) return {PairEnd::OutsideModel};
+            const auto one = FigureOf(other.figure, *low, p_bar_);
+            const auto two = FigureOf(other.figure, *high, p_bar_);
+            answer.least = std::min(one.value_or(kLowestDewPoint), two.value_or(kLowestDewPoint));
+            answer.most = std::max(one.value_or(kLowestDewPoint), two.value_or(kLowestDewPoint));
+            return answer;
+        }
+        const Way other_way = WayOf(first);
+        if (!other_way.known) return {PairEnd::OutsideModel};
+        return Outside(first, second, other_way, first, second);
+    }
+
+    // x follows from the balance of the bulb, and the temperature from it.
+    PairAnswer FromWetBulbAndEnthalpy(double t_wet, double enthalpy) const {
+        constexpr double kNextToNothing = 1;  // kJ/kg
+        const double water = CondensedEnthalpy(t_wet, p_bar_);
+        if (std::abs(water) < kNextToNothing) return {PairEnd::NotIndependent};
+        const auto saturated = EvaluateRealAir(1, t_wet, p_bar_);
+        if (!saturated) return {PairEnd::OutsideModel};
+        const double x = saturated->x + 1000 * (enthalpy - saturated->enthalpy) / water;
+        const double dry = saturated->enthalpy - saturated->x / 1000 * water;
+        if (!(x >= -kRounding && x <= saturated->x * (1 + kRounding))) {
+            return {PairEnd::SecondOutside,
+                    {},
+                    std::min(dry, saturated->enthalpy),
+                    std::max(dry, saturated->enthalpy)};
+        }
+        return Along({AirFigure::HumidityRatio, std::max(x, 0.0)}, {AirFigure::Enthalpy, enthalpy},
+                     {}, {});
+    }
+
+    double p_bar_;
+};
+
+}  // namespace
+
+std::optional<double> FigureOf(AirFigure figure, const RealAirPoint& point, double p_bar) {
+    const auto state = EvaluateRealAir(point.relF, point.t, p_bar);
+    if (!state) return std::nullopt;
+    switch (figure) {
+        case AirFigure::Temperature:
+            return point.t;
+        case AirFigure::RelativeHumidity:
+            return point.relF;
+        case AirFigure::HumidityRatio:
+            return state->x;
+        case AirFigure::Enthalpy:
+            return state->enthalpy;
+        case AirFigure::DewPoint:
+            return RealDewPoint(state->vapour_pressure, p_bar);
+        case AirFigure::WetBulb: {
+            const auto bulb = RealWetBulb(point.t, state->x, state->enthalpy, p_bar);
+            if (!bulb) return std::nullopt;
+            return bulb->t;
+        }
+        case AirFigure::VapourPressure:
+            return state->vapour_pressure;
+        case AirFigure::Density:
+            return state->density;
+    }
+    return std::nullopt;
+}
+
+PairAnswer RealAirFromPair(GivenFigure first, GivenFigure second, double p_bar) {
+    if (!(p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar)) return {};
+    return PairSearch(p_bar).Answer(first, second);
+}
+
+}  // namespace zandrell

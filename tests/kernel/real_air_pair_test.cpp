@@ -1,0 +1,120 @@
+#include "kernel/real_air_pair.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <limits>
+#include <random>
+#include <sstream>
+#include <string>
+
+#include "kernel/real_air_wet_bulb.h"
+
+namespace zandrell {
+namespace {
+
+using enum AirFigure;
+
+constexpr AirFigure kFigures[] = {Temperature, RelativeHumidity, HumidityRatio,  Enthalpy,
+                                  DewPoint,    WetBulb,          VapourPressure, Density};
+
+// An independent calculation of the same model has them; the second column where an iced and a wet
+// bulb are both solutions.
+TEST(RealWetBulb, MeetsTheReferenceStates) {
+    std::ifstream file(std::string(ZANDRELL_SOURCE) + "/tests/kernel/real_air_wet_bulbs.csv");
+    int bulbs = 0, both = 0;
+    for (std::string line; std::getline(file, line);) {
+        double t, rh, p, t_wet, other;
+        for (char& c : line) c = c == ',' ? ' ' : c;
+        std::istringstream cells(line);
+        if (!(cells >> t >> rh >> p >> t_wet)) continue;
+        const auto state = EvaluateRealAir(rh / 100, t, p / 1e5);
+        ASSERT_TRUE(state) << line;
+        const auto bulb = RealWetBulb(t, state->x, state->enthalpy, p / 1e5);
+        if (cells >> other) {
+            ++both;
+            ASSERT_TRUE(bulb && bulb->liquid) << line;
+            EXPECT_NEAR(bulb->t, std::min(t_wet, other), 0.005) << line;
+            EXPECT_NEAR(*bulb->liquid, std::max(t_wet, other), 0.005) << line;
+            continue;
+        }
+        ASSERT_TRUE(bulb) << line;
+        ++bulbs;
+        EXPECT_NEAR(bulb->t, t_wet, 0.005) << line;
+    }
+    EXPECT_GT(bulbs, 1400);
+    EXPECT_EQ(both, 7);
+}
+
+// Steam tables (IAPWS-IF97) have 83.91 and 209.34 kJ/kg at saturation, and 0.1 more at 1 bar; ice
+// melts at 333.44 kJ/kg (IAPWS R10-06).
+TEST(RealWetBulb, CondensedWaterByTheTables) {
+    EXPECT_NEAR(CondensedEnthalpy(20, 1.01325), 84.01, 0.03);
+    EXPECT_NEAR(CondensedEnthalpy(50, 1.01325), 209.42, 0.03);
+    EXPECT_NEAR(CondensedEnthalpy(0.01, 1.01325), -333.34, 0.2);
+}
+
+TEST(RealAirPair, EveryPairLeadsBackToItsFigures) {
+    std::mt19937 random(15);
+    const auto between = [&](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    int closed = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const RealAirPoint point{between(-50, 90), between(0.01, 1)};
+        const double p = between(0.6, 1.9);
+        const AirFigure one = kFigures[i % 8], two = kFigures[i / 8 % 8];
+        const auto first = FigureOf(one, point, p), second = FigureOf(two, point, p);
+        if (!first || !second) continue;
+        const auto answer = RealAirFromPair({one, *first}, {two, *second}, p);
+        if (answer.end == PairEnd::NotIndependent) continue;
+        ASSERT_EQ(answer.end, PairEnd::Found)
+            << i % 8 << " " << i / 8 % 8 << " " << point.t << " " << point.relF << " " << p;
+        ++closed;
+        for (const auto& [figure, value] : {std::pair{one, *first}, {two, *second}}) {
+            const auto again = FigureOf(figure, *answer.point, p);
+            ASSERT_TRUE(again);
+            ASSERT_NEAR(*again, value, 1e-8 * std::max(1.0, std::abs(value)))
+                << i % 8 << " " << i / 8 % 8 << " " << point.t << " " << point.relF << " " << p;
+        }
+    }
+    EXPECT_GT(closed, 14000);
+}
+
+// Saturated air of 25 degC holds 20.17 g/kg. Dry air of 25 degC cools at a wet bulb to where it
+// takes up (25.15 - 8.3) / 2.48 = 6.8 g/kg, which saturates 8.2 degC; air with a wet bulb of 26
+// degC and its 21.4 g/kg has 26 + 21.4 * 2.44 = 78 degC when it is dry.
+TEST(RealAirPair, SaysWhatContradictsItself) {
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    const struct {
+        GivenFigure first, second;
+        PairEnd end;
+        double least, most;  // of the figure at fault
+    } rows[] = {
+        {{Temperature, 25}, {WetBulb, 26}, PairEnd::SecondOutside, 8.24, 25},
+        {{Temperature, 25}, {DewPoint, 25.5}, PairEnd::SecondOutside, -100, 25},
+        {{Temperature, 25}, {HumidityRatio, -1}, PairEnd::SecondOutside, 0, 10000},
+        {{Temperature, 25}, {HumidityRatio, 21}, PairEnd::SecondOutside, 0, 20.17},
+        {{WetBulb, 26}, {Temperature, 25}, PairEnd::SecondOutside, 26, 77.9},
+        {{Temperature, 25}, {RelativeHumidity, 1.2}, PairEnd::SecondOutside, 0, 1},
+        {{Temperature, 101}, {Enthalpy, 50}, PairEnd::FirstOutside, -60, 100},
+        {{HumidityRatio, 5}, {DewPoint, 4}, PairEnd::NotIndependent, 0, 0},
+        {{Enthalpy, 50}, {Enthalpy, 50}, PairEnd::NotIndependent, 0, 0},
+        {{Temperature, kNan}, {Enthalpy, 50}, PairEnd::FirstOutside, -60, 100},
+        {{Temperature, 20}, {Enthalpy, kNan}, PairEnd::SecondOutside, -1e300, 1e300},
+        {{Enthalpy, 50}, {Density, 3}, PairEnd::SecondOutside, 1.0, 1.3},
+    };
+    for (const auto& row : rows) {
+        const auto answer = RealAirFromPair(row.first, row.second, 1.01325);
+        EXPECT_EQ(answer.end, row.end) << row.first.value << " " << row.second.value;
+        EXPECT_FALSE(answer.point);
+        if (row.most > 1e299 || row.first.figure == Enthalpy) continue;
+        EXPECT_NEAR(answer.least, row.least, 0.6) << row.first.value << " " << row.second.value;
+        EXPECT_NEAR(answer.most, row.most, 0.6) << row.first.value << " " << row.second.value;
+    }
+    EXPECT_EQ(RealAirFromPair({Temperature, 20}, {Enthalpy, 40}, 3).end, PairEnd::OutsideModel);
+}
+
+}  // namespace
+}  // namespace zandrell
