@@ -29,7 +29,12 @@ constexpr const char* kTableHelp =
 constexpr const char* kStateHelp =
     "Columns in:    t (degC), rh (per cent), p (bar)\n"
     "Columns added: x_g_per_kg, h_kj_per_kg, h_dry_air_kj_per_kg, p_dry_air_pa, p_vapour_pa,\n"
-    "               density_kg_per_m3, density_dry_air_kg_per_m3, t_boiling_k\n";
+    "               density_kg_per_m3, density_dry_air_kg_per_m3, t_boiling_k\n"
+    "With --air real two of the columns t, rh, x (g/kg), h (kJ/kg), t_dew, t_wet (degC), p_vapour\n"
+    "(Pa) and density (kg/m3) hold a number in each row, and all the others are worked out, over\n"
+    "ice up to 0.01 degC, from -60 to 100 degC and 0.5 to 2 bar. One state takes two of the "
+    "options\n"
+    "of the same names.\n";
 
 constexpr const char* kInvertHelp =
     "rh-from-x       in: t, x (g/kg), p                             added: rh (per cent)\n"
@@ -74,7 +79,8 @@ constexpr const char* kExamples =
 
 // The options as they were typed; a decimal comma is as good as a point in them.
 struct TypedOptions {
-    std::string data, t, rh, p, kind, size, zoom, convention, duties;
+    std::string data, t, rh, p, air, kind, size, zoom, convention, duties;
+    std::array<std::string, kPairFigures> figures;  // t and rh stand in their own
     std::vector<std::string> inputs;
 };
 
@@ -103,6 +109,37 @@ void TakeState(const TypedOptions& typed, CommandLine& line) {
     state.rh = NumberOf("--rh", typed.rh);
     if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
     line.state = state;
+}
+
+std::string OptionOf(std::string_view figure) {
+    std::string option = "--" + std::string(figure);
+    std::replace(option.begin(), option.end(), '_', '-');
+    return option;
+}
+
+// Two of the figures, or none for a table.
+void TakeRealState(const TypedOptions& typed, CommandLine& line) {
+    RealStateOptions state;
+    std::size_t given = 0;
+    for (std::size_t i = 0; i < kPairFigures; ++i) {
+        const std::string& text = i == 0 ? typed.t : i == 1 ? typed.rh : typed.figures[i];
+        if (text.empty()) continue;
+        state.given[i] = NumberOf(OptionOf(kPairFigureNames[i].name), text);
+        ++given;
+    }
+    if (given == 0 && typed.p.empty()) return;
+    if (given != 2) Refuse("one state needs two figures");
+    if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
+    line.real_state = state;
+}
+
+void TakeSuiteState(const TypedOptions& typed, CommandLine& line) {
+    for (std::size_t i = 2; i < kPairFigures; ++i) {
+        if (!typed.figures[i].empty()) {
+            Refuse(OptionOf(kPairFigureNames[i].name) + " needs --air real");
+        }
+    }
+    TakeState(typed, line);
 }
 
 int SideOf(double pixels) {
@@ -153,12 +190,21 @@ void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->add_option("--t", typed.t, "one state instead of a table: temperature in degC");
     verb->add_option("--rh", typed.rh, "its relative humidity in per cent");
     verb->add_option("--p", typed.p, "its total pressure in bar; without it that of the settings");
+    verb->add_option("--air", typed.air, "suite, also without it, or real")
+        ->check(CLI::IsMember({"suite", "real"}));
+    for (std::size_t i = 2; i < kPairFigures; ++i) {
+        verb->add_option(OptionOf(kPairFigureNames[i].name), typed.figures[i],
+                         "of one state of real air, in " + std::string(kPairFigureNames[i].unit));
+    }
     verb->add_flag("--json", line.json, "one JSON object a line");
     verb->footer(std::string(kStateHelp) + kTableHelp);
     verb->callback([&] {
         line.verb = Verb::State;
-        TakeState(typed, line);
-        if (line.state && line.input != "-") Refuse("either --t and --rh or a table, not both");
+        line.real_air = typed.air == "real";
+        (line.real_air ? TakeRealState : TakeSuiteState)(typed, line);
+        if ((line.state || line.real_state) && line.input != "-") {
+            Refuse("either one state or a table, not both");
+        }
     });
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "chart/chart_scale.h"
+#include "command/real_air_calculation.h"
 #include "command/selection_verbs.h"
 #include "command/single_state.h"
 #include "shell/start_up.h"
@@ -26,6 +27,12 @@ struct StateOptions {
     std::optional<double> p;
 };
 
+// One state of real air by two of its figures, in the order of kPairFigureNames.
+struct RealStateOptions {
+    GivenFigures given;
+    std::optional<double> p;
+};
+
 // The page to print, and where to.
 struct PrintRequest {
     std::string output;
@@ -44,6 +51,8 @@ struct CommandLine {
     std::string input = "-";  // the table or script; "-" is the standard input
     std::string search;       // of the verb invert
     std::optional<StateOptions> state;
+    bool real_air = false;  // of the verb state
+    std::optional<RealStateOptions> real_state;
     ChartRequest chart;
     std::optional<Convention> convention;  // of form, chart and print; empty as in the settings
     CatalogueRequest catalogue;

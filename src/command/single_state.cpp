@@ -103,4 +103,31 @@ bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, st
     return true;
 }
 
+bool RealStateAsTable(const GivenFigures& given, double p_bar, std::string& text,
+                      std::string& reason) {
+    RealAirResults results;
+    if (!FindRealAir(given, p_bar, results, reason)) return false;
+    AppendRow(text, kGiven.back(), p_bar);
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        const auto& [column, words, unit] = kRealAirResultNames[i];
+        if (results[i]) AppendRow(text, {words, unit}, results[i]);
+    }
+    return true;
+}
+
+bool RealStateAsJson(const GivenFigures& given, double p_bar, std::string& text,
+                     std::string& reason) {
+    RealAirResults results;
+    if (!FindRealAir(given, p_bar, results, reason)) return false;
+    text += "{\"p\":";
+    AppendNumber(text, p_bar);
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        if (!results[i]) continue;
+        text.append(",\"").append(kRealAirResultNames[i].column).append("\":");
+        AppendNumber(text, *results[i]);
+    }
+    text += "}\n";
+    return true;
+}
+
 }  // namespace zandrell

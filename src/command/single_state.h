@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "command/real_air_calculation.h"
+
 namespace zandrell {
 
 struct WaterAirTables;
@@ -16,6 +18,12 @@ struct StateQuestion {
 // reason, where there is no state.
 bool StateAsTable(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
                   std::string& reason);
+
+// Of a state of real air; a figure that it does not have is left out.
+bool RealStateAsTable(const GivenFigures& given, double p_bar, std::string& text,
+                      std::string& reason);
+bool RealStateAsJson(const GivenFigures& given, double p_bar, std::string& text,
+                     std::string& reason);
 
 // The same as one JSON object with the question's own figures and full digits.
 bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, std::string& text,

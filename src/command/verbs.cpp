@@ -45,13 +45,21 @@ struct CalculationData {
     }
 };
 
+bool AskOneState(const CalculationData& data, const CommandLine& line, std::string& text,
+                 std::string& error) {
+    const double usual_bar = data.settings.pressure_bar;
+    if (line.real_state) {
+        const auto show = line.json ? RealStateAsJson : RealStateAsTable;
+        return show(line.real_state->given, line.real_state->p.value_or(usual_bar), text, error);
+    }
+    const StateQuestion question{line.state->t, line.state->rh, line.state->p.value_or(usual_bar)};
+    return (line.json ? StateAsJson : StateAsTable)(data.tables, question, text, error);
+}
+
 bool ShowOneState(const CalculationData& data, const CommandLine& line, const ByteSink& output,
                   std::string& error) {
-    const StateQuestion question{line.state->t, line.state->rh,
-                                 line.state->p.value_or(data.settings.pressure_bar)};
     std::string text;
-    const auto show = line.json ? StateAsJson : StateAsTable;
-    if (!show(data.tables, question, text, error)) return false;
+    if (!AskOneState(data, line, text, error)) return false;
     if (output(text)) return true;
     error = "the output cannot be written";
     return false;
@@ -63,9 +71,11 @@ RowFormat FormatOf(const CommandLine& line) { return line.json ? RowFormat::Json
 
 bool RunState(const CommandLine& line, const RowStreams& streams, std::string& error) {
     CalculationData data(line.data);
-    if (!data.ReadTables(error)) return false;
-    if (line.state) return ShowOneState(data, line, streams.output, error);
-    const auto calculation = MakeStateCalculation(data.tables, data.settings.pressure_bar);
+    if (!line.real_air && !data.ReadTables(error)) return false;
+    if (line.state || line.real_state) return ShowOneState(data, line, streams.output, error);
+    const auto calculation = line.real_air
+                                 ? MakeRealAirCalculation(data.settings.pressure_bar)
+                                 : MakeStateCalculation(data.tables, data.settings.pressure_bar);
     return RunRows(*calculation, FormatOf(line), streams, error);
 }
 
