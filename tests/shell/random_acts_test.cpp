@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <random>
+#include <set>
 #include <sstream>
 
 #include "forms/choice_list.h"
@@ -113,12 +114,30 @@ int WantedActs() {
     return wanted != nullptr ? std::atoi(wanted) : kUsualActs;
 }
 
+// No figure is no number, and the pointer is always owned by somebody.
+void ExpectSound(MainForm& main, const std::string& when) {
+    static const std::set<int> owners = {0, 1, 2, 4, 5, 33, 44, 77};
+    EXPECT_TRUE(owners.contains(static_cast<int>(main.Pointer().PanelZustand()))) << when;
+    const std::string dump = DumpForm(main).dump(-1, ' ', false, Json::error_handler_t::replace);
+    EXPECT_EQ(dump.find("null"), std::string::npos) << when;
+    for (const Control* control : main.form.Controls()) {
+        if (control->kind != ControlKind::Label) continue;
+        EXPECT_EQ(control->text.find("nan"), std::string::npos) << control->name << when;
+        EXPECT_EQ(control->text.find("inf"), std::string::npos) << control->name << when;
+    }
+}
+
 TEST(RandomActs, LeaveAProgramThatCounts) {
     const int acts = WantedActs();
     for (int done = 0, seed = 1; done < acts; done += kActsOfARun, ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         TestFolder folder;
         folder.CopyWholeSet();
+        if (seed % 2 == 0) {  // under the convention of a new installation
+            std::filesystem::copy(std::filesystem::path(ZANDRELL_SOURCE_DATA) / "qv_par.dat",
+                                  folder / "qv_par.dat",
+                                  std::filesystem::copy_options::overwrite_existing);
+        }
         RandomHand hand(static_cast<unsigned>(seed));
         DataFiles files(folder.Path());
         MainForm main(hand, files, NamedFolder(folder.Path()));
@@ -126,12 +145,10 @@ TEST(RandomActs, LeaveAProgramThatCounts) {
         main.shared.ProjectFolder = folder.Path().string();
         main.Resize(1280, 800);
         main.Activate();
-        for (int i = 0; i < kActsOfARun && !main.ended; ++i) {
+        for (int i = 0; i < kActsOfARun && !main.ended && !HasFailure(); ++i) {
             hand.Act(main);
             if (i % 20 == 0) {
-                const std::string dump =
-                    DumpForm(main).dump(-1, ' ', false, Json::error_handler_t::replace);
-                ASSERT_EQ(dump.find("null"), std::string::npos) << "act " << i;
+                ExpectSound(main, "act " + std::to_string(i));
             }
         }
         main.ende_qv();
