@@ -41,17 +41,19 @@ bool RunSelection(const CommandLine& line, std::string& error) {
 }
 
 bool RunScript(const CommandLine& line, std::string& error) {
-    if (line.input == "-") return RunForm(line, std::cin, std::cout, error);
+    const auto run = line.verb == Verb::Selection ? RunSelectionScript : RunForm;
+    if (line.input == "-") return run(line, std::cin, std::cout, error);
     const int file = OpenInput(line.input, error);
     if (file < 0) return false;
     ::close(file);
     std::ifstream script(line.input);
-    return NamingTheFile(RunForm(line, script, std::cout, error), line, error);
+    return NamingTheFile(run(line, script, std::cout, error), line, error);
 }
 
 bool Run(const CommandLine& line, std::string& error) {
     switch (line.verb) {
         case Verb::Form:
+        case Verb::Selection:
             return RunScript(line, error);
         case Verb::Catalogue:
         case Verb::Capacity:
