@@ -272,9 +272,8 @@ void VentZeigForm::Leave() {
     closed = true;
 }
 
-void VentZeigForm::PrintSheet() {
+bool VentZeigForm::BT_file_create() {
     constexpr int kSheetOfSelection = 55;
-    pointer_busy = true;
     context_.selection.Rueckkehr = 1;
     context_.selection.PrintOwner = kSheetOfSelection;
     const std::string date = host.date_text ? host.date_text() : "";
@@ -282,14 +281,17 @@ void VentZeigForm::PrintSheet() {
     std::string reason;
     const FileStatus status = context_.files.OpenForOutput(
         name, DataSheetText(context_, controls, date), Durability::Flushed, &reason);
-    if (status != FileStatus::Ok) {
-        context_.user.ShowMessage({context_.shared.AppTitle,
-                                   FilledIn(context_.captions[Caption::SavingFailed],
-                                            {context_.files.Resolve(name).string(), reason}),
-                                   MessageIcon::Stop});
-    } else if (host.open_print_setup) {
-        host.open_print_setup();
-    }
+    if (status == FileStatus::Ok) return true;
+    context_.user.ShowMessage({context_.shared.AppTitle,
+                               FilledIn(context_.captions[Caption::SavingFailed],
+                                        {context_.files.Resolve(name).string(), reason}),
+                               MessageIcon::Stop});
+    return false;
+}
+
+void VentZeigForm::PrintSheet() {
+    pointer_busy = true;
+    if (BT_file_create() && host.open_print_setup) host.open_print_setup();
     pointer_busy = false;
 }
 

@@ -27,6 +27,9 @@ class VentZeigForm : public ModalForm {
     // Shows the window and gives it its activation; loads it first when it was left for good.
     void Open();
 
+    // Writes the data sheet of the chosen unit; false, and a message says so, when it cannot be
+    // written.
+    bool BT_file_create();
     // The figures of the compressor in hand at the frequency in force.
     void FollowFrequency() { frequency_.inverter_rech(); }
 

@@ -21,7 +21,7 @@ struct SheetLine {
 // Of the page; the header of the suite ends above kTop.
 constexpr double kTop = 0.15, kBottom = 0.975, kLeft = 0.06, kRight = 0.94, kTab = 0.48;
 constexpr double kLargestPitch = 4.6;  // mm
-constexpr double kPictureSide = 34;    // mm
+constexpr double kPictureSide = 25;    // mm
 
 // In pitches.
 double HeightOf(LineKind kind) {
@@ -43,10 +43,11 @@ double HeightOf(LineKind kind) {
     return 1;
 }
 
-// Points and blanks in front of a word only place it on the print module's page.
+// A point with blanks behind it only places a word on the print module's page; the point of a
+// figure below 1 has none.
 std::string WithoutPlacing(std::string_view text) {
-    const auto first = text.find_first_not_of(". ");
-    return first == std::string_view::npos ? std::string() : Trimmed(text.substr(first));
+    if (text.starts_with(". ")) text.remove_prefix(1);
+    return Trimmed(text);
 }
 
 SheetLine LineOf(std::string_view text) {

@@ -74,6 +74,7 @@ void MainForm::BindMenuActs() {
     on_menu(controls.Ende, [this] { ende_qv(); });
     on_menu(controls.qveinst, [this] { OpenOptions(); });
     on_menu(controls.wrgEinst, [this] { AuswahlOeffnen(); });
+    on_menu(controls.KompAusw, [this] { StartSelection(); });
     on_menu(controls.ZustAe, opens(Calculation::StateChange));
     on_menu(controls.Misch, opens(Calculation::Mixing));
     on_menu(controls.Kleis, opens(Calculation::Capacity));

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "base/captions.h"
 #include "base/data_files.h"
 #include "base/shared_values.h"
@@ -42,6 +46,8 @@ class MainForm : public WindowForm {
     OptionsForm options;
     ChartPrinting printing;
     HelpForm help;
+    // Starts the program of the component selection with these arguments; false when there is none.
+    std::function<bool(const std::vector<std::string>& arguments)> start_selection;
     bool ended = false;  // the window has closed and the program ends
 
     // The events of the window. Sizes are device-independent pixels.
@@ -95,6 +101,7 @@ class MainForm : public WindowForm {
     void Print();
     void PaintAgain();
     void AuswahlOeffnen();
+    void StartSelection();
     void CloseWindow();
 
     UserInterface& user_;

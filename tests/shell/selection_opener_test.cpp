@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/number_text.h"
+#include "selection/planner_form.h"
 #include "selection_session.h"
 
 namespace zandrell {
@@ -151,6 +152,73 @@ TEST_F(OpenerTest, AnswersTheOtherRequests) {
     EXPECT_EQ(c.ventlabel.text, "AW 01 7 mm");
     desk.window.UserClick("Abbrech");
     EXPECT_EQ(opener.React(), SelectionEnd::WithoutResult);
+}
+
+TEST_F(OpenerTest, PlannerHidesSortsAndCompares) {
+    PlannerForm planner(context, desk.window, opener);
+    planner.SetCaptions();
+    SelectionDuty duty;
+    duty.capacity = 12;
+    planner.Start(duty);
+    planner.UserCheck("HideUnfit", true);
+    // 12 kW: only the quiet series up to 11 kW and the single unit of .62 kW cannot do it.
+    for (int row = 1; row <= 10; ++row) {
+        EXPECT_EQ(c.KatalogSpread.Height(row) == 0, row == 2 || row == 10) << row;
+    }
+    desk.window.UserPickCell("KatalogSpread", 3, 3);
+    planner.Follow();
+    EXPECT_EQ(c.Venttab.Height(20), 0) << "11.9 kW";
+    EXPECT_NE(c.Venttab.Height(21), 0) << "12.8 kW";
+    EXPECT_EQ(c.Venttab.row, 21);
+    const auto plot = planner.lists.Plot();
+    ASSERT_TRUE(plot);
+    EXPECT_EQ(plot->duty, 12);
+    EXPECT_EQ(plot->points.front().figure, "12.8 kW");
+    EXPECT_TRUE(plot->points.front().chosen);
+    EXPECT_GE(plot->top, plot->points.back().capacity);
+    EXPECT_EQ(plot->ticks.front().text, "0");
+    planner.UserCheck("HideUnfit", false);
+    planner.Follow();
+    EXPECT_EQ(c.Venttab.Height(20), 240);
+    desk.window.UserSort("Venttab", kUnitFigure);
+    desk.window.UserSort("Venttab", kUnitFigure);
+    EXPECT_EQ(c.Venttab.Text(1, kUnitFigure), " 85");
+    EXPECT_EQ(c.Venttab.Back(1, kUnitName), 7) << "the stripes stay where they were";
+    EXPECT_FALSE(c.Venttab.Back(2, kUnitName));
+    for (const int row : {1, 2, 3, 4, 5}) {
+        desk.window.UserPickCell("Venttab", row, 1);
+        planner.UserClick("Compare");
+    }
+    const Grid& comparison = planner.lists.Comparison;
+    ASSERT_EQ(comparison.ColumnCount(), 1 + PlannerLists::kMostCompared);
+    EXPECT_EQ(comparison.Text(0, 1), c.Venttab.Text(2, kUnitName)) << "the first one has gone";
+    EXPECT_EQ(comparison.Text(1, 4), c.Venttab.Text(5, kUnitFigure));
+}
+
+TEST_F(OpenerTest, PlannerRefusesFiguresThatAreNone) {
+    PlannerForm planner(context, desk.window, opener);
+    planner.SetCaptions();
+    planner.Start({});
+    planner.UserSetText("Capacity", "abc");
+    planner.UserSetText("Hours", "");
+    planner.UserReturn("Capacity");
+    EXPECT_EQ(planner.form.Find("Capacity")->background, 12);
+    EXPECT_NE(planner.form.Find("Hours")->tool_tip, "");
+    EXPECT_NE(planner.Message.text.find("Refrigerating Capacity /[kW]"), std::string::npos);
+    EXPECT_EQ(desk.selection.inputs.QoSoll, 10) << "nothing is computed";
+    planner.UserSetText("Hours", "4000");
+    planner.UserSetText("Capacity", "-3");
+    planner.UserReturn("Capacity");
+    EXPECT_EQ(planner.Message.text, "Refrigerating Capacity must be a number above 0");
+    EXPECT_EQ(desk.selection.inputs.QoSoll, 10);
+    planner.UserSetText("Capacity", "7,5");
+    planner.UserReturn("Capacity");
+    EXPECT_EQ(planner.Message.text, "");
+    EXPECT_EQ(desk.selection.inputs.QoSoll, 7.5);
+    SelectionDuty kept;
+    ReadDuty(files, kept);
+    EXPECT_EQ(kept.capacity, 7.5);
+    EXPECT_EQ(kept.hours, 4000);
 }
 
 }  // namespace

@@ -145,7 +145,7 @@ TEST(SelectionSheet, FitsOnItsPage) {
             if (item.kind == SheetItem::Kind::Text) texts.push_back(item.text);
         }
         for (const char* word :
-             {"tL1 =  0°C", "dtM =  8K", "to = -10°C", "A++", "R22 / GWP =  1810"}) {
+             {"tL1 =  0°C", "dtM =  8K", "to = -10°C", "A++", ".066", ".234", "R22 / GWP =  1810"}) {
             EXPECT_EQ(std::count(texts.begin(), texts.end(), word), 1) << word;
         }
         const auto picture = [](const SheetItem& item) {
