@@ -26,7 +26,8 @@ constexpr double kShareOfScreen = 0.88;
 constexpr QSize kFrameAllowance{16, 48};
 
 struct Arguments {
-    std::string data_folder, script, size;
+    std::string data_folder, script;
+    std::vector<int> size;
     double duty = 0, flow = 0;  // kW, m3/h; 0: as the last time
     int width = 0, height = 0;  // pixels; 0: as the screen allows
 };
@@ -48,9 +49,10 @@ bool HasDisplay() {
 
 bool ReadSize(Arguments& arguments) {
     if (arguments.size.empty()) return true;
-    const int read =
-        std::sscanf(arguments.size.c_str(), "%5dx%5d", &arguments.width, &arguments.height);
-    return read == 2 && arguments.width >= 400 && arguments.width <= kLargestPictureSide &&
+    if (arguments.size.size() != 2) return false;
+    arguments.width = arguments.size[0];
+    arguments.height = arguments.size[1];
+    return arguments.width >= 400 && arguments.width <= kLargestPictureSide &&
            arguments.height >= 300 && arguments.height <= kLargestPictureSide;
 }
 
@@ -121,7 +123,9 @@ int main(int argc, char** argv) {
     command_line.add_option("--flow", arguments.flow, "Air flow in m3/h");
     command_line.add_option("--script", arguments.script, "Acts to perform after the start")
         ->type_name("FILE");
-    command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");
+    command_line.add_option("--size", arguments.size, "Size of the window")
+        ->delimiter('x')
+        ->type_name("WxH");
     CLI11_PARSE(command_line, argc, argv);
     if (!zandrell::ReadSize(arguments)) {
         return zandrell::Fail("--size takes a width and a height in pixels, such as 1280x800");

@@ -26,10 +26,8 @@ SelectionScript::SelectionScript(SelectionDesk& desk, PlannerForm& planner, Sele
 bool SelectionScript::Start(const std::string& path) {
     std::ifstream file(path);
     if (!file) return false;
-    int number = 0;
     for (std::string line; std::getline(file, line);) {
-        ++number;
-        for (std::string& act : ActsOf(line)) lines_.emplace_back(number, std::move(act));
+        for (std::string& act : ActsOf(line)) lines_.push_back(std::move(act));
     }
     Schedule();
     return true;
@@ -42,13 +40,12 @@ void SelectionScript::Schedule() {
 void SelectionScript::RunNextLine() {
     if (window_.IsFilling()) return Schedule();
     if (lines_.empty()) return QApplication::exit(failed_ ? EXIT_FAILURE : EXIT_SUCCESS);
-    const auto [number, line] = lines_.front();
+    const std::string line = lines_.front();
     lines_.pop_front();
     Schedule();
     std::string error;
     if (!RunLine(line, error)) {
-        std::fprintf(stderr, "zandrell-selection: line %s: %s\n", std::to_string(number).c_str(),
-                     error.c_str());
+        std::fprintf(stderr, "zandrell-selection: %s: %s\n", line.c_str(), error.c_str());
         failed_ = true;
         lines_.clear();
     }

@@ -36,7 +36,7 @@ class SelectionScript {
     SelectionStage stage_;
     FormScript script_;
     QObject context_;  // calls that are still to come die with it
-    std::deque<std::pair<int, std::string>> lines_;
+    std::deque<std::string> lines_;
     bool failed_ = false;
 };
 

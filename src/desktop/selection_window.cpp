@@ -91,7 +91,7 @@ QWidget* SelectionWindow::MakeDuty() {
                                      {&planner_.RefrigerantLabel, &planner_.RefrigerantBox}}) {
         auto* combo = new QComboBox(panel);
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        combo->setMinimumContentsLength(8);
+        combo->setMinimumContentsLength(5);
         planner_mirror_.Bind(combo, *box);
         planner_mirror_.Describe(combo, *label);
         grid->addWidget(build.Caption(*label), row, 0);
@@ -102,7 +102,7 @@ QWidget* SelectionWindow::MakeDuty() {
         auto* caption = build.Caption(field->label);
         caption->setWordWrap(true);
         grid->addWidget(caption, row, 0);
-        auto* edit = build.Field(field->field, field->label, {}, 7);
+        auto* edit = build.Field(field->field, field->label, {}, 6);
         edit->setFixedWidth(edit->sizeHint().width());
         grid->addWidget(edit, row++, 1, Qt::AlignRight);
         if (field->value == &SelectionDuty::capacity) first_field_ = edit;
@@ -192,7 +192,8 @@ QWidget* SelectionWindow::MakeUnits() {
     units_ = new GridView(c.Venttab, mirror_, panel);
     mirror_.Describe(units_, c.SerienPN);
     layout->addWidget(units_, 1);
-    cell_box_ = new QLineEdit(units_->viewport());
+    // Paints its ground itself: the figure below would shine through.
+    cell_box_ = new FigureField(6, units_->viewport());
     mirror_.Bind(cell_box_, c.venttabText);
     cell_box_->setAccessibleName(ShownText(desk_.captions[Caption::TakeOver]));
     return panel;
@@ -252,7 +253,7 @@ QWidget* SelectionWindow::MakeUnitPanel() {
         auto* caption = build.Caption(*label);
         caption->setWordWrap(true);
         grid->addWidget(caption, line, 0);
-        grid->addWidget(build.Figure(*figure, *label, {}, 7), line++, 1);
+        grid->addWidget(build.Figure(*figure, *label, {}, 6), line++, 1);
     }
     grid->setColumnStretch(0, 1);
     layout->addLayout(grid);
@@ -299,7 +300,7 @@ QWidget* SelectionWindow::MakeEnergy() {
     int line = 0;
     for (const auto& row : rows) {
         grid->addWidget(build.Caption(*row.caption), line, 0);
-        grid->addWidget(build.Figure(*row.figure, *row.caption, {}, 7), line, 1);
+        grid->addWidget(build.Figure(*row.figure, *row.caption, {}, 5), line, 1);
         if (row.unit) grid->addWidget(build.Caption(*row.unit), line, 2);
         ++line;
     }
