@@ -41,11 +41,12 @@ bool RunSelection(const CommandLine& line, std::string& error) {
 }
 
 bool RunScript(const CommandLine& line, std::string& error) {
+    const auto run = line.verb == Verb::Selection ? RunSelectionScript : RunForm;
     const int file = OpenInput(line.input, error);
     if (file < 0) return false;
     SourceBuffer source(SourceOf(file));
     std::istream script(&source);
-    if (!NamingTheFile(RunForm(line, script, std::cout, error), line, error)) return false;
+    if (!NamingTheFile(run(line, script, std::cout, error), line, error)) return false;
     if (source.Failed()) error = NameOfInput(line.input) + ": cannot be read";
     return !source.Failed();
 }
@@ -53,6 +54,7 @@ bool RunScript(const CommandLine& line, std::string& error) {
 bool Run(const CommandLine& line, std::string& error) {
     switch (line.verb) {
         case Verb::Form:
+        case Verb::Selection:
             return RunScript(line, error);
         case Verb::Catalogue:
         case Verb::Capacity:

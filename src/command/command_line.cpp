@@ -46,6 +46,18 @@ constexpr const char* kInvertHelp =
     "t-from-density  in: t_start, density (kg/m3), kind, p          added: t, x_last\n"
     "                kind 1: dry edge (1 %), kind 2: saturation line\n";
 
+constexpr const char* kSelectionHelp =
+    "Acts beside those of the verb form:\n"
+    "  share NAME VALUE          a shared input, or the text of a label; \\n is a line end\n"
+    "  show NAME on|off          whether a control is seen, where the opener decides that\n"
+    "  open                      shows the window, first and after each time that it hid itself\n"
+    "  pick GRID ROW COLUMN      a click into a cell\n"
+    "  key GRID Return|Up|Down|i, wheel GRID up|down, move GRID ROW, leave GRID\n"
+    "  edit TEXT                 types into the box over the chosen cell\n"
+    "Example:\n"
+    "  printf 'share KatalogArt 600\\nshare QoSoll 12\\nshare LeistFaktor 1\\nopen\\n"
+    "dump title\\n' | zandrell-calc selection -\n";
+
 constexpr const char* kFormHelp =
     "One act a line; # begins a comment, a value runs to the end of the line.\n"
     "  window WIDTH HEIGHT   set NAME TEXT   return NAME   click NAME   choose NAME\n"
@@ -231,6 +243,14 @@ void TakeConvention(const TypedOptions& typed, CommandLine& line) {
     line.convention = typed.convention == "exact" ? Convention::Exact : Convention::Suite;
 }
 
+void AddSelection(CLI::App& app, CommandLine& line) {
+    auto* verb = app.add_subcommand("selection",
+                                    "Drives the selection window as a user and its opener would");
+    verb->add_option("SCRIPT", line.input, "the script; - is the standard input")->required();
+    verb->footer(kSelectionHelp);
+    verb->callback([&line] { line.verb = Verb::Selection; });
+}
+
 void AddForm(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     auto* verb = app.add_subcommand("form", "Drives the main form as a user would");
     verb->add_option("SCRIPT", line.input, "the script; - is the standard input")->required();
@@ -347,6 +367,7 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     AddState(app, typed, line);
     AddInvert(app, line);
     AddForm(app, typed, line);
+    AddSelection(app, line);
     AddChart(app, typed, line);
     AddCatalogue(app, line);
     AddCapacity(app, typed, line);
@@ -363,7 +384,8 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     }
     if (app.get_subcommands().empty()) {
         error =
-            "a verb is needed: state, invert, form, chart, print, catalogue or capacity; --help "
+            "a verb is needed: state, invert, form, selection, chart, print, catalogue or "
+            "capacity; --help "
             "says "
             "more";
         return kWrongUse;

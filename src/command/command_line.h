@@ -42,7 +42,7 @@ struct PrintRequest {
     std::optional<int> header_style;  // 0 or 1; empty as in the settings
 };
 
-enum class Verb { State, Invert, Form, Chart, Print, Catalogue, Capacity };
+enum class Verb { State, Invert, Form, Selection, Chart, Print, Catalogue, Capacity };
 
 struct CommandLine {
     Verb verb = Verb::State;

@@ -10,6 +10,7 @@
 #include "command/single_state.h"
 #include "kernel/water_air_tables.h"
 #include "shell/form_script.h"
+#include "shell/selection_stage.h"
 
 namespace zandrell {
 namespace {
@@ -98,6 +99,20 @@ bool RunForm(const CommandLine& line, std::istream& script, std::ostream& dumps,
     SiblingPrinter printer;
     form.printing.SetDevice(&printer);
     if (!user.Run(form, error)) return false;
+    if (dumps.flush()) return true;
+    error = "the output cannot be written";
+    return false;
+}
+
+bool RunSelectionScript(const CommandLine& line, std::istream& script, std::ostream& dumps,
+                        std::string& error) {
+    DataFiles files(PrepareDataFolder(line.data, false));
+    ScriptedUser user(script, dumps);
+    SelectionDesk desk(user, files, line.data);
+    SiblingPrinter printer;
+    desk.SetDevice(&printer);
+    SelectionStage stage(desk);
+    if (!user.Run(stage, error, [&] { desk.Load(); })) return false;
     if (dumps.flush()) return true;
     error = "the output cannot be written";
     return false;

@@ -17,4 +17,8 @@ bool RunInvert(const CommandLine& line, const RowStreams& streams, std::string& 
 bool RunForm(const CommandLine& line, std::istream& script, std::ostream& dumps,
              std::string& error);
 
+// The verb `selection`: the same for the selection window, whose opener the script plays.
+bool RunSelectionScript(const CommandLine& line, std::istream& script, std::ostream& dumps,
+                        std::string& error);
+
 }  // namespace zandrell

@@ -166,9 +166,11 @@ void MakeBold(QWidget* widget) {
 // Full black and not the ink: the pictures of the skins leave no room for less.
 QColor TextColour(int palette_number) { return QColor(QRgb{PaletteRgb(palette_number)}); }
 
-// The loud red of a palette would hide the figure that stands on it.
+// The loud colours of a palette would hide the figure that stands on them.
 QColor GroundColour(int palette_number) {
     if (palette_number == kLightRed) return ColourOf(LookColour::SoftRed);
+    if (palette_number == kLightGreen) return ColourOf(LookColour::SoftGreen);
+    if (palette_number == kYellow) return ColourOf(LookColour::SoftYellow);
     return QColor(QRgb{PaletteRgb(palette_number)});
 }
 

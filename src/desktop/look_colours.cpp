@@ -12,7 +12,7 @@ namespace {
 // Texts have at least four and a half times the contrast of nothing on each ground they stand on,
 // borders of what takes input three times. What takes no input and hairlines between groups are
 // free: they carry no information.
-constexpr std::array<LookRow, 18> kColours = {{
+constexpr std::array<LookRow, 21> kColours = {{
     {LookColour::Ink, "ink", 0x1F2D37, 0xE4EAEE},
     {LookColour::MutedInk, "muted", 0x5F6C76, 0xA9B5BD},
     {LookColour::DisabledInk, "disabled", 0x8A97A0, 0x74828C},
@@ -31,6 +31,9 @@ constexpr std::array<LookRow, 18> kColours = {{
     {LookColour::Hovered, "hovered", 0xF2F8FA, 0x263640},
     {LookColour::DisabledEdge, "disabled-edge", 0xC3CCD2, 0x3C4952},
     {LookColour::SoftRed, "soft-red", 0xF4A39B, 0x86382F},
+    {LookColour::SoftGreen, "soft-green", 0xB5DFB0, 0x2C5E34},
+    {LookColour::SoftYellow, "soft-yellow", 0xF3E29A, 0x6B5A17},
+    {LookColour::Stripe, "stripe", 0xEDF1F4, 0x232E36},
 }};
 
 }  // namespace

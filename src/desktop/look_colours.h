@@ -31,6 +31,9 @@ enum class LookColour {
     Hovered,       // ground of a button under the pointer
     DisabledEdge,  // border of what takes no input
     SoftRed,       // ground of a field or figure that is out of its range
+    SoftGreen,     // ground of a figure that fits
+    SoftYellow,    // ground of a figure that nearly fits
+    Stripe,        // ground of every second row of a table
 };
 
 struct LookRow {

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QProcess>
 #include <QTimer>
 #include <QUrl>
 
@@ -30,6 +32,15 @@ QString ProjectIn(const QMimeData& dragged) {
     return {};
 }
 
+// The program beside this one.
+bool StartSelectionProgram(const std::vector<std::string>& arguments) {
+    QStringList list;
+    for (const std::string& argument : arguments) list << QString::fromStdString(argument);
+    const QString program =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/zandrell-selection");
+    return QProcess::startDetached(program, list);
+}
+
 }  // namespace
 
 MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
@@ -40,6 +51,7 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
       keys_(*this) {
     form.printing.SetDevice(&printing_);
     form.help.viewer = &viewer_;
+    form.start_selection = StartSelectionProgram;
     mirror_.skinned = !form.controls.FunktButtPn.picture.empty();
     auto* centre = new QWidget(this);
     auto* layout = new QHBoxLayout(centre);

@@ -64,10 +64,11 @@ bool QtUser::Confirm(const Message& question) {
 
 void QtUser::ShowModal(ModalForm& window) {
     Refresh();
-    if (!opener_.form) return Refuse(window);
+    if (!opener_.window) return Refuse(window);
     QWidget* active = QApplication::activeModalWidget();
     QWidget* parent = active ? active : opener_.window;
-    if (auto* options = dynamic_cast<OptionsForm*>(&window)) {
+    auto* options = dynamic_cast<OptionsForm*>(&window);
+    if (options && opener_.form) {
         OptionsWindow dialog(*options, opener_.form->captions, opener_.form->chart.picture,
                              *opener_.pictures, parent);
         return Run(dialog, window);
@@ -89,7 +90,9 @@ void QtUser::ShowModal(ModalForm& window) {
 
 void QtUser::Run(ModalWindow& dialog, ModalForm& window) const {
     // Help on the help would only open it again.
-    if (&window != &opener_.form->help) {
+    if (opener_.form == nullptr) {
+        if (&window != opener_.help) dialog.on_help = opener_.open_help;
+    } else if (&window != &opener_.form->help) {
         dialog.on_help = [form = opener_.form, name = window.form.Name()] {
             form->OpenHelp(TopicInHand(*form, name));
         };

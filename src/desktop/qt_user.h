@@ -23,6 +23,9 @@ class QtUser : public UserInterface {
         MainForm* form = nullptr;
         Pictures* pictures = nullptr;
         std::function<void()> refresh;
+        // Of a window without a main form: the help to what is open, and its own form.
+        std::function<void()> open_help = {};
+        ModalForm* help = nullptr;
     };
     void Attach(Opener opener) { opener_ = std::move(opener); }
 

@@ -20,7 +20,16 @@ enum class ActKind {
     Change,
     Select,
     DoubleClick,
-    Scroll
+    Scroll,
+    // In a grid: the pointer let go over a cell, keys and wheel, the letter that asks where a row
+    // comes from, the pointer over another row or away, and a head that sorts.
+    Pick,
+    RowsUp,
+    RowsDown,
+    Tell,
+    Hover,
+    Leave,
+    Sort
 };
 
 // The one list of what happens when a user acts in a window. Every act of a widget, a script or a

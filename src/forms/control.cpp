@@ -21,6 +21,8 @@ std::string_view KindWord(ControlKind kind) {
             return "list";
         case ControlKind::ComboBox:
             return "combo";
+        case ControlKind::Grid:
+            return "grid";
         case ControlKind::Panel:
             return "panel";
         case ControlKind::Picture:

@@ -15,6 +15,7 @@ enum class ControlKind {
     CheckBox,
     List,
     ComboBox,
+    Grid,
     Panel,
     Picture,
     ScrollBar,

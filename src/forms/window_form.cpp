@@ -1,6 +1,9 @@
 #include "forms/window_form.h"
 
+#include <utility>
+
 #include "forms/choice_list.h"
+#include "forms/grid.h"
 
 namespace zandrell {
 namespace {
@@ -15,7 +18,8 @@ bool TakesText(const Control& control) {
 }
 
 bool TakesReturn(const Control& control) {
-    return TakesText(control) || control.kind == ControlKind::List;
+    return TakesText(control) || control.kind == ControlKind::List ||
+           control.kind == ControlKind::Grid;
 }
 
 }  // namespace
@@ -113,6 +117,48 @@ bool WindowForm::UserDoubleClick(std::string_view list) {
     if (!Takes(*choices)) return true;
     acts.Perform(list, ActKind::DoubleClick);
     Done(list, ActKind::DoubleClick);
+    return true;
+}
+
+bool WindowForm::UserPickCell(std::string_view grid_name, int row, int column) {
+    Grid* grid = AsGrid(form.Find(grid_name));
+    if (grid == nullptr) return false;
+    if (row < 0 || row >= grid->RowCount() || column < 0 || column >= grid->ColumnCount()) {
+        return false;
+    }
+    if (!Takes(*grid) || row == 0 || grid->IsEmptyRow(row)) return true;
+    grid->row = row;
+    grid->column = column;
+    acts.Perform(grid_name, ActKind::Pick);
+    Done(grid_name, ActKind::Pick);
+    return true;
+}
+
+bool WindowForm::UserGridAct(std::string_view grid_name, ActKind act) {
+    Grid* grid = AsGrid(form.Find(grid_name));
+    if (grid == nullptr) return false;
+    if (!Takes(*grid)) return true;
+    acts.Perform(grid_name, act);
+    Done(grid_name, act);
+    return true;
+}
+
+bool WindowForm::UserHover(std::string_view grid_name, int row) {
+    Grid* grid = AsGrid(form.Find(grid_name));
+    if (grid == nullptr || row < 0 || row >= grid->RowCount()) return false;
+    if (!Takes(*grid)) return true;
+    const int before = std::exchange(grid->hovered_row, row);
+    if (row != before) acts.Perform(grid_name, row == 0 ? ActKind::Leave : ActKind::Hover);
+    return true;
+}
+
+bool WindowForm::UserSort(std::string_view grid_name, int column) {
+    Grid* grid = AsGrid(form.Find(grid_name));
+    if (grid == nullptr || column < 0 || column >= grid->ColumnCount()) return false;
+    if (!Takes(*grid)) return true;
+    grid->asked_column = column;
+    acts.Perform(grid_name, ActKind::Sort);
+    Done(grid_name, ActKind::Sort);
     return true;
 }
 

@@ -50,6 +50,14 @@ class WindowForm {
     bool UserPick(std::string_view list, std::string_view item);
     bool UserSelect(std::string_view list, int index);
     bool UserDoubleClick(std::string_view list);
+    // In a grid: press and release in a cell. False also when there is no such cell; the head row
+    // and empty rows take the act and do nothing.
+    bool UserPickCell(std::string_view grid, int row, int column);
+    // Keys and the wheel; `act` is RowsUp, RowsDown or Tell.
+    bool UserGridAct(std::string_view grid, ActKind act);
+    // The pointer is over a row; 0: away from the grid.
+    bool UserHover(std::string_view grid, int row);
+    bool UserSort(std::string_view grid, int column);
 
   private:
     bool Takes(const Control& control) const;

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-#include <string>
 #include <string_view>
 #include <vector>
 
+#include "shell/control_dump.h"
 #include "shell/main_form.h"
 
 namespace zandrell {
-
-using Json = nlohmann::ordered_json;
 
 // Every control of the main form, of the windows behind it and every value of the program, by name.
 Json DumpForm(MainForm& main);

@@ -7,56 +7,51 @@
 #include <iterator>
 #include <optional>
 #include <ostream>
-#include <sstream>
 
-#include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/text_helpers.h"
-#include "canvas/canvas.h"
-#include "shell/form_dump.h"
-#include "shell/help_in_hand.h"
+#include "forms/grid.h"
+#include "shell/main_stage.h"
 
 namespace zandrell {
 namespace {
 
-std::vector<std::string> WordsOf(std::string_view line) {
-    std::istringstream stream{std::string(line)};
-    std::vector<std::string> words;
-    for (std::string word; stream >> word;) words.push_back(word);
-    return words;
+// Acts that only grids have.
+bool IsGridAct(const std::string& act) {
+    return act == "wheel" || act == "move" || act == "leave" || act == "sort";
 }
 
-bool ReadNumber(const std::string& word, double& value) {
-    const bool numeric =
-        !word.empty() && word.find_first_not_of("0123456789.+-eE") == std::string::npos;
-    if (numeric) value = ToDouble(word);
-    return numeric;
+std::optional<ActKind> GridKey(const std::string& act, const std::string& word) {
+    if (act == "key" && word == "i") return ActKind::Tell;
+    if (word == (act == "key" ? "Up" : "up")) return ActKind::RowsUp;
+    if (word == (act == "key" ? "Down" : "down")) return ActKind::RowsDown;
+    return std::nullopt;
 }
 
-bool ReadWhole(const std::string& word, int& value) {
-    double number = 0;
-    if (!ReadNumber(word, number)) return false;
-    const auto rounded = RoundToInteger(number);
-    if (!rounded) return false;
-    value = *rounded;
-    return true;
-}
-
-// What stands behind the first two words: the value runs to the end of the line.
-std::string ValueOf(std::string_view line) {
-    const auto act = line.find_first_not_of(" \t");
-    auto place = line.find_first_of(" \t", act);
-    place = line.find_first_not_of(" \t", place);
-    place = line.find_first_of(" \t", place);
-    return place == std::string_view::npos ? std::string() : std::string(line.substr(place + 1));
-}
-
-// What stands behind the first word.
-std::string BehindAct(std::string_view line) {
-    const auto act = line.find_first_not_of(" \t");
-    const auto end = line.find_first_of(" \t", act);
-    const auto value = line.find_first_not_of(" \t", end);
-    return value == std::string_view::npos ? std::string() : std::string(line.substr(value));
+bool RunGridAct(WindowForm& window, const std::string& act, const std::string& grid,
+                const std::vector<std::string>& values, std::string& error) {
+    int first = 0, second = 0;
+    const bool one = !values.empty() && ReadWhole(values[0], first);
+    const bool two = one && values.size() > 1 && ReadWhole(values[1], second);
+    bool done = false;
+    if (act == "pick") {
+        if (!two) return Refused(error, "pick needs a row and a column");
+        done = window.UserPickCell(grid, first, second);
+    }
+    if (act == "move" || act == "sort") {
+        if (!one) return Refused(error, act + " needs a whole number");
+        done = act == "move" ? window.UserHover(grid, first) : window.UserSort(grid, first);
+    }
+    if (act == "leave") done = window.UserHover(grid, 0);
+    if (act == "return") done = window.UserReturn(grid);
+    if (act == "key" || act == "wheel") {
+        const std::string word = values.empty() ? "" : values[0];
+        if (act == "key" && (word == "Return" || word == "Enter")) return window.UserReturn(grid);
+        const auto key = GridKey(act, word);
+        if (!key) return Refused(error, act + " " + Excerpt(word) + " does nothing in " + grid);
+        done = window.UserGridAct(grid, *key);
+    }
+    return done ? true : Refused(error, act + " does not fit " + grid);
 }
 
 // A text for a field; what is larger, or no plain file, is none.
@@ -96,11 +91,6 @@ std::string_view IconWord(MessageIcon icon) {
     return "information";
 }
 
-bool Fail(std::string& error, const std::string& reason) {
-    error = reason;
-    return false;
-}
-
 }  // namespace
 
 bool ReadScriptLine(std::istream& script, std::string& line) {
@@ -118,9 +108,15 @@ bool ReadScriptLine(std::istream& script, std::string& line) {
 
 std::vector<std::string> ActsOf(std::string line) {
     if (line.ends_with('\r')) line.pop_back();
-    if (WordsOf(line).empty() || WordsOf(line)[0] != "print") return {std::move(line)};
-    return {"printer " + BehindAct(line), "click druckbutt", "click DruckEInstell.Okbutt"};
+    const ScriptLine parts(line);
+    if (parts.words.empty() || parts.words[0] != "print") return {std::move(line)};
+    return {"printer " + parts.BehindAct(), "click druckbutt", "click DruckEInstell.Okbutt"};
 }
+
+FormScript::FormScript(MainForm& form, std::ostream& dumps)
+    : own_stage_(std::make_unique<MainStage>(form)), stage_(*own_stage_), dumps_(dumps) {}
+
+FormScript::FormScript(ScriptStage& stage, std::ostream& dumps) : stage_(stage), dumps_(dumps) {}
 
 void FormScript::WindowOpened(ModalForm& window) {
     if (window_ != nullptr) below_.push_back(window_);
@@ -146,7 +142,8 @@ bool FormScript::RunLine(std::string_view written, std::string& error) {
     if (written.ends_with('\r')) written.remove_suffix(1);
     // Each line by itself: a bad byte in one spoils no other.
     const std::string line = DecodeText(written);
-    const Words words = WordsOf(line);
+    const ScriptLine parts(line);
+    const Words& words = parts.words;
     if (words.empty() || words[0].front() == '#') return true;
     const std::string& act = words[0];
     if (act == "dump") return Dump(words, error);
@@ -157,103 +154,41 @@ bool FormScript::RunLine(std::string_view written, std::string& error) {
     }
     if (act == "close" && window_ != nullptr) return window_->UserClick(window_->cancel_control);
     if (act == "clock") return RunClock(words, error);
-    if (act == "printer") return RunPrinter(line, error);
-    if (act == "open") return OpenWindow(words, ValueOf(line), error);
-    if (act == "window" || act == "activate" || act == "close" || act == "pointer") {
-        if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
-        return act == "pointer" ? RunPointer(words, error) : RunWindowAct(words, error);
-    }
-    if (words.size() < 2) return Fail(error, "unknown act or missing name: " + Excerpt(act));
-    return RunControlAct(act, words[1], ValueOf(line), error);
-}
-
-bool FormScript::RunWindowAct(const Words& words, std::string& error) {
-    if (words[0] == "activate") {
-        form_.Activate();
-    } else if (words[0] == "close") {
-        form_.ende_qv();
-    } else {
-        int width = 0, height = 0;
-        const bool sized = words.size() == 3 && ReadWhole(words[1], width) &&
-                           ReadWhole(words[2], height) && width > 0 && height > 0 &&
-                           width <= kLargestPictureSide && height <= kLargestPictureSide;
-        if (!sized) return Fail(error, "window needs a width and a height in pixels");
-        form_.Resize(width, height);
-    }
-    return true;
+    if (act == "printer") return RunPrinter(parts.BehindAct(), error);
+    if (const auto done = stage_.RunAct(parts, window_, error)) return *done;
+    if (words.size() < 2) return Refused(error, "unknown act or missing name: " + Excerpt(act));
+    return RunControlAct(act, words[1], parts.Value(), error);
 }
 
 bool FormScript::RunClock(const Words& words, std::string& error) {
     const auto day = words.size() == 2 ? ReadDay(words[1]) : std::nullopt;
-    if (!day) return Fail(error, "clock needs a day, YYYY-MM-DD");
-    form_.shared.clock_day = day;
+    if (!day) return Refused(error, "clock needs a day, YYYY-MM-DD");
+    stage_.Shared().clock_day = day;
     return true;
 }
 
-bool FormScript::RunPrinter(std::string_view line, std::string& error) {
-    const std::string file = BehindAct(line);
-    if (file.empty()) return Fail(error, "the printer needs a PDF file");
-    if (form_.printing.PrintToFile(file)) return true;
-    return Fail(error, "there is no printer here");
-}
-
-// As another module of the suite would open a window.
-bool FormScript::OpenWindow(const Words& words, const std::string& value, std::string& error) {
-    if (form_.ended) return true;
-    if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
-    const std::string window = words.size() > 1 ? words[1] : "";
-    if (window == "Hilfebox") {
-        form_.shared.DateText = value;
-        form_.help.ShowHelp();
-        return true;
-    }
-    int mode = 0;
-    if (window != "ProjLaden") return Fail(error, "no such window");
-    if (words.size() != 3 || !ReadWhole(words[2], mode)) {
-        return Fail(error, "open ProjLaden needs its DialogMode");
-    }
-    form_.Projects().OpenDialog(mode);
-    return true;
-}
-
-bool FormScript::RunPointer(const Words& words, std::string& error) {
-    CanvasPoint place;
-    const bool placed =
-        words.size() >= 4 && ReadNumber(words[2], place.x) && ReadNumber(words[3], place.y);
-    if (!placed) return Fail(error, "pointer needs move, press or release and a place");
-    if (words.size() > 4 && words[4] != "left" && words[4] != "right") {
-        return Fail(error, "unknown pointer button: " + Excerpt(words[4]));
-    }
-    const bool right = words.size() > 4 && words[4] == "right";
-    const PointerButton button = right ? PointerButton::Right : PointerButton::Left;
-    if (words[1] == "move") {
-        form_.PointerMove(place);
-    } else if (words[1] == "press") {
-        form_.PointerPress(button, place);
-    } else if (words[1] == "release") {
-        form_.PointerRelease(button);
-    } else {
-        return Fail(error, "unknown pointer act: " + Excerpt(words[1]));
-    }
-    return true;
+bool FormScript::RunPrinter(const std::string& file, std::string& error) {
+    if (file.empty()) return Refused(error, "the printer needs a PDF file");
+    if (stage_.PrintToFile(file)) return true;
+    return Refused(error, "there is no printer here");
 }
 
 bool FormScript::Find(const std::string& name, Target& target, std::string& error) {
     const auto dot = name.find('.');
     if (dot == std::string::npos) {
-        target = {&form_, name};
-        if (form_.form.Find(name) == nullptr) return Fail(error, "unknown name: " + Excerpt(name));
-        if (window_ != nullptr) return Fail(error, window_->form.Name() + " is open");
+        target = {&stage_.Window(), name};
+        if (target.window->form.Find(name) == nullptr)
+            return Refused(error, "unknown name: " + Excerpt(name));
+        if (window_ != nullptr) return Refused(error, window_->form.Name() + " is open");
         return true;
     }
     const std::string window = name.substr(0, dot);
     target = {window_, name.substr(dot + 1)};
     if (window_ == nullptr || window_->form.Name() != window) {
-        return Fail(error, "no open window " + Excerpt(window));
+        return Refused(error, "no open window " + Excerpt(window));
     }
-    if (window_->form.Find(target.control) == nullptr) {
-        return Fail(error, "unknown name: " + Excerpt(name));
-    }
+    if (window_->form.Find(target.control) == nullptr)
+        return Refused(error, "unknown name: " + Excerpt(name));
     return true;
 }
 
@@ -262,39 +197,43 @@ bool FormScript::RunControlAct(const std::string& act, const std::string& name,
     Target target;
     const bool known = act == "set" || act == "return" || act == "click" || act == "choose" ||
                        act == "check" || act == "select" || act == "pick" || act == "doubleclick" ||
-                       act == "fill" || act == "scroll" || act == "key";
-    if (!known) return Fail(error, "unknown act: " + Excerpt(act));
+                       act == "fill" || act == "scroll" || act == "key" || IsGridAct(act);
+    if (!known) return Refused(error, "unknown act: " + Excerpt(act));
     if (!Find(name, target, error)) return false;
+    if (window_ == nullptr && !stage_.IsOpen()) return true;
     WindowForm& window = *target.window;
+    if (AsGrid(window.form.Find(target.control)) != nullptr) {
+        return RunGridAct(window, act, target.control, ScriptLine(value).words, error);
+    }
     bool done = false;
     if (act == "set") done = window.UserSetText(target.control, value);
     if (act == "fill") {
         std::string content;
         if (!ReadWholeFile(value, content))
-            return Fail(error, Excerpt(value) + ": can not be read");
+            return Refused(error, Excerpt(value) + ": can not be read");
         done = window.UserSetText(target.control, content);
     }
     if (act == "pick") done = window.UserPick(target.control, value);
     if (act == "doubleclick") done = window.UserDoubleClick(target.control);
     if (act == "select") {
         int index = 0;
-        if (!ReadWhole(value, index)) return Fail(error, "select needs a whole position");
+        if (!ReadWhole(value, index)) return Refused(error, "select needs a whole position");
         done = window.UserSelect(target.control, index);
     }
     if (act == "return") done = window.UserReturn(target.control);
     if (act == "click") done = window.UserClick(target.control);
     if (act == "choose") done = window.UserChoose(target.control);
     if (act == "check") {
-        if (value != "on" && value != "off") return Fail(error, "check needs on or off");
+        if (value != "on" && value != "off") return Refused(error, "check needs on or off");
         done = window.UserCheck(target.control, value == "on");
     }
     if (act == "scroll") {
         int position = 0;
-        if (!ReadWhole(value, position)) return Fail(error, "scroll needs a whole position");
+        if (!ReadWhole(value, position)) return Refused(error, "scroll needs a whole position");
         done = window.UserScroll(target.control, position);
     }
     if (act == "key") return RunKey(target, value, error);
-    return done ? true : Fail(error, act + " does not fit " + name);
+    return done ? true : Refused(error, act + " does not fit " + name);
 }
 
 bool FormScript::RunKey(const Target& target, const std::string& key, std::string& error) {
@@ -302,7 +241,7 @@ bool FormScript::RunKey(const Target& target, const std::string& key, std::strin
     const Control& control = *window.form.Find(target.control);
     const bool confirms = key == "Return" || key == "Enter";
     if (key == "F1") {
-        form_.OpenHelp(TopicInHand(form_, window_ != nullptr ? window_->form.Name() : ""));
+        stage_.OpenHelp(window_ != nullptr ? window_->form.Name() : "");
         return true;
     }
     if (key == "Escape" && window_ != nullptr) {
@@ -316,14 +255,14 @@ bool FormScript::RunKey(const Target& target, const std::string& key, std::strin
         if (position) return window.UserScroll(target.control, *position);
     }
     if (key == "Tab" || key == "Escape") return true;
-    return Fail(error, "key " + Excerpt(key) + " does nothing in " + target.control);
+    return Refused(error, "key " + Excerpt(key) + " does nothing in " + target.control);
 }
 
 bool FormScript::Dump(const Words& words, std::string& error) {
-    Json json = words.size() == 1 ? DumpForm(form_) : Json::object();
+    Json json = words.size() == 1 ? stage_.DumpAll() : Json::object();
     for (std::size_t i = 1; i < words.size(); ++i) {
-        Json one = DumpOne(form_, words[i]);
-        if (one.is_null()) return Fail(error, "unknown name: " + Excerpt(words[i]));
+        Json one = stage_.Dump(words[i]);
+        if (one.is_null()) return Refused(error, "unknown name: " + Excerpt(words[i]));
         json[words[i]] = std::move(one);
     }
     Json dialogs = Json::array();
@@ -338,11 +277,18 @@ bool FormScript::Dump(const Words& words, std::string& error) {
 }
 
 bool ScriptedUser::Run(MainForm& form, std::string& error, WindowSize size) {
-    FormScript acts(form, dumps_);
+    MainStage stage(form);
+    return Run(stage, error, [&] {
+        form.Load();
+        form.Resize(size.width, size.height);
+        form.Activate();
+    });
+}
+
+bool ScriptedUser::Run(ScriptStage& stage, std::string& error, const std::function<void()>& start) {
+    FormScript acts(stage, dumps_);
     acts_ = &acts;
-    form.Load();
-    form.Resize(size.width, size.height);
-    form.Activate();
+    start();
     while (RunNextLine()) {
     }
     acts_ = nullptr;

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "shell/main_form.h"
+#include "shell/script_stage.h"
 
 namespace zandrell {
 
@@ -21,11 +24,12 @@ bool ReadScriptLine(std::istream& script, std::string& line);
 // line for itself.
 std::vector<std::string> ActsOf(std::string line);
 
-// Carries out one act a line on the main form, or on the window that is open, as a user would.
+// Carries out one act a line on a window, or on the one that is open over it, as a user would.
 class FormScript {
   public:
-    // Dumps go to `dumps`. Both outlive the script.
-    FormScript(MainForm& form, std::ostream& dumps) : form_(form), dumps_(dumps) {}
+    // Dumps go to `dumps`. All of it outlives the script.
+    FormScript(MainForm& form, std::ostream& dumps);
+    FormScript(ScriptStage& stage, std::ostream& dumps);
 
     // False when the line cannot be understood, with the reason. Blank lines and comments do
     // nothing.
@@ -47,18 +51,16 @@ class FormScript {
     };
     using Words = std::vector<std::string>;
 
-    bool RunWindowAct(const Words& words, std::string& error);
     bool RunControlAct(const std::string& act, const std::string& name, const std::string& value,
                        std::string& error);
-    bool OpenWindow(const Words& words, const std::string& value, std::string& error);
     bool RunClock(const Words& words, std::string& error);
-    bool RunPrinter(std::string_view line, std::string& error);
-    bool RunPointer(const Words& words, std::string& error);
+    bool RunPrinter(const std::string& file, std::string& error);
     bool RunKey(const Target& target, const std::string& key, std::string& error);
     bool Find(const std::string& name, Target& target, std::string& error);
     bool Dump(const Words& words, std::string& error);
 
-    MainForm& form_;
+    std::unique_ptr<ScriptStage> own_stage_;
+    ScriptStage& stage_;
     std::ostream& dumps_;
     ModalForm* window_ = nullptr;
     std::vector<ModalForm*> below_;  // windows that opened others
@@ -81,6 +83,8 @@ class ScriptedUser : public UserInterface {
     // Starts the form like the program (load, resize, activate) and runs the script. False on the
     // first line that cannot be carried out; `error` says which and why.
     bool Run(MainForm& form, std::string& error, WindowSize size = {});
+    // The same with another stage, which `start` makes ready.
+    bool Run(ScriptStage& stage, std::string& error, const std::function<void()>& start);
 
     void ShowMessage(const Message& message) override;
     void ShowModal(ModalForm& window) override;

@@ -46,6 +46,7 @@ void BindMenuActs(MainForm& main) {
     on_menu(controls.Ende, [&main] { main.ende_qv(); });
     on_menu(controls.qveinst, [&main] { main.OpenOptions(); });
     on_menu(controls.wrgEinst, [&main] { main.AuswahlOeffnen(); });
+    on_menu(controls.KompAusw, [&main] { main.StartSelection(); });
     on_menu(controls.ZustAe, opens(Calculation::StateChange));
     on_menu(controls.Misch, opens(Calculation::Mixing));
     on_menu(controls.Kleis, opens(Calculation::Capacity));

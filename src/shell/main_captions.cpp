@@ -56,6 +56,7 @@ void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& 
     entry(c.Opt, words[Caption::Settings]);
     entry(c.qveinst, words[Caption::ModuleName]);
     entry(c.wrgEinst, HeatRecoveryWord(words));
+    entry(c.KompAusw, words[Caption::ComponentSelection]);
     entry(c.Bearb, words[Caption::Edit]);
     entry(c.ZustAe, words[Caption::StateChange]);
     entry(c.Misch, words[Caption::Mixing]);

@@ -43,7 +43,7 @@ struct MainControls {
     std::array<MenuEntry, 8> recent_entries = {
         MenuEntry("Recent1"), MenuEntry("Recent2"), MenuEntry("Recent3"), MenuEntry("Recent4"),
         MenuEntry("Recent5"), MenuEntry("Recent6"), MenuEntry("Recent7"), MenuEntry("Recent8")};
-    MenuEntry Opt{"Opt"}, qveinst{"qveinst"}, wrgEinst{"wrgEinst"};
+    MenuEntry Opt{"Opt"}, qveinst{"qveinst"}, wrgEinst{"wrgEinst"}, KompAusw{"KompAusw"};
     MenuEntry Bearb{"Bearb"}, ZustAe{"ZustAe"}, Misch{"Misch"}, Kleis{"Kleis"}, AnlageS{"AnlageS"},
         Leist_Ber{"Leist_Ber"}, Heiz_start{"Heiz_start"}, Kuehl_start{"Kuehl_start"},
         Humid_W_Start{"Humid_W_Start"}, Humid_D_Start{"Humid_D_Start"}, kopieren{"kopieren"},
@@ -62,7 +62,7 @@ struct MenuBranch {
     std::string_view entry;
     std::string_view parent;  // empty: in the menu bar
 };
-inline constexpr std::array<MenuBranch, 44> kMenuTree = {{
+inline constexpr std::array<MenuBranch, 45> kMenuTree = {{
     {"proj", ""},
     {"NeuPro", "proj"},
     {"ProLad", "proj"},
@@ -84,6 +84,7 @@ inline constexpr std::array<MenuBranch, 44> kMenuTree = {{
     {"Opt", ""},
     {"qveinst", "Opt"},
     {"wrgEinst", "Opt"},
+    {"KompAusw", "Opt"},
     {"Bearb", ""},
     {"Undo", "Bearb"},
     {"Redo", "Bearb"},

@@ -241,6 +241,20 @@ void MainForm::FollowAct(std::string_view control, ActKind kind) {
     ShowRecentProjects(controls, projects_.store.recent.Paths());
 }
 
+// With what was noted last; where nothing was, the selection has its own duty.
+void MainForm::StartSelection() {
+    std::vector<std::string> arguments = {"--data", files_.DataFolder().string()};
+    const auto add = [&](const char* option, double value) {
+        if (value > 0) arguments.insert(arguments.end(), {option, TrimmedNumberText(value)});
+    };
+    add("--duty", shared.AuswahlLeistung);
+    add("--flow", shared.AuswahlLuftstrom);
+    if (start_selection && start_selection(arguments)) return;
+    user_.ShowMessage({shared.AppTitle,
+                       FilledIn(captions[Caption::CatalogueUnreadable], {"zandrell-selection"}),
+                       MessageIcon::Stop});
+}
+
 void MainForm::SetTitle() {
     const std::string base = shared.AppTitle + " " + shared.VersionText + " : " +
                              captions[Caption::ModuleName] + " " + captions[Caption::Project];

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "base/captions.h"
 #include "base/data_files.h"
 #include "base/shared_values.h"
@@ -44,6 +48,8 @@ class MainForm : public WindowForm {
     ChartPrinting printing;
     HelpForm help;
     StatusLine status;
+    // Starts the program of the component selection with these arguments; false when there is none.
+    std::function<bool(const std::vector<std::string>& arguments)> start_selection;
     bool ended = false;  // the window has closed and the program ends
 
     // The events of the window. Sizes are device-independent pixels.
@@ -71,6 +77,8 @@ class MainForm : public WindowForm {
     void ShowPreview();
     // Notes duty and air flow of the process for the selection of a component.
     void AuswahlOeffnen();
+    // Starts the component selection with the duty and the air flow that were noted last.
+    void StartSelection();
     // Shows a topic of the help over whatever window is open.
     void OpenHelp(HelpTopic topic);
 

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "script_session.h"
+#include "selection_session.h"
 
 namespace zandrell {
 namespace {
@@ -47,6 +48,16 @@ TEST(Names, EveryNameOfADumpIsExplained) {
             EXPECT_TRUE(explained.contains(std::string(control->name)))
                 << window->form.Name() << '.' << control->name;
         }
+    }
+}
+
+TEST(Names, EveryNameOfTheSelectionIsExplained) {
+    const std::set<std::string> explained = ExplainedNames();
+    SelectionSession session;
+    const Json dump = session.RunOnce("dump\n");
+    ASSERT_GT(dump.size(), 100U);
+    for (const auto& [name, value] : dump.items()) {
+        EXPECT_TRUE(name == "dialogs" || explained.contains(name)) << name;
     }
 }
 

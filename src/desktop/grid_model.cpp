@@ -1,0 +1,84 @@
+#include "desktop/grid_model.h"
+
+#include <algorithm>
+
+#include "desktop/form_mirror.h"
+#include "desktop/look.h"
+#include "desktop/look_colours.h"
+
+namespace zandrell {
+namespace {
+
+constexpr int kLightGrey = 7;
+
+// Figures stand at the right, words at the left.
+bool IsFigure(const QString& text) {
+    if (text.isEmpty()) return false;
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c.isDigit() || c == QLatin1Char('.') || c == QLatin1Char(',') ||
+               c == QLatin1Char('-');
+    });
+}
+
+}  // namespace
+
+QColor CellGround(int palette_number) {
+    if (palette_number == kLightGrey) return ColourOf(LookColour::Stripe);
+    return GroundColour(palette_number);
+}
+
+bool GridModel::Refresh() {
+    if (shown_ == grid_.Revision()) return false;
+    const int rows = std::max(grid_.RowCount() - 1, 0);
+    const bool same_shape = rows == rows_ && grid_.ColumnCount() == columns_;
+    shown_ = grid_.Revision();
+    // A table of the same shape keeps its place and its chosen cell.
+    if (same_shape && rows_ > 0) {
+        Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
+        return true;
+    }
+    beginResetModel();
+    rows_ = rows;
+    columns_ = grid_.ColumnCount();
+    endResetModel();
+    return true;
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : columns_;
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const int row = index.row() + 1, column = index.column();
+    switch (role) {
+        case Qt::DisplayRole:
+        case Qt::ToolTipRole:
+            return ShownText(grid_.Text(row, column));
+        case Qt::TextAlignmentRole: {
+            const bool figure = IsFigure(ShownText(grid_.Text(row, column)));
+            return QVariant((figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        }
+        case Qt::BackgroundRole:
+            if (const auto back = grid_.Back(row, column)) return CellGround(*back);
+            return {};
+        // A screen reader says what the colour says to the eye.
+        case Qt::AccessibleDescriptionRole:
+            return ShownText(grid_.Text(0, column));
+        default:
+            return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+        return ShownText(grid_.Text(0, section));
+    }
+    return {};
+}
+
+}  // namespace zandrell

@@ -1,0 +1,207 @@
+#include "desktop/grid_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/look.h"
+
+namespace zandrell {
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+constexpr int kRowHeight = 22, kLeastColumn = 34;  // pixels at scale 1
+constexpr int kPreviewPause = 500;                 // ms until a row under the pointer counts
+constexpr int kWheelStep = 120;
+constexpr int kNarrowColumn = 1000;                 // twips
+constexpr double kNarrowest = 0.45, kWidest = 1.6;  // of the widths as designed
+
+}  // namespace
+
+GridView::GridView(Grid& grid, FormMirror& mirror, QWidget* parent)
+    : QTableView(parent), grid_(grid), mirror_(mirror), model_(grid, this) {
+    setModel(&model_);
+    setObjectName(QString::fromUtf8(grid.name.data(), static_cast<qsizetype>(grid.name.size())));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setMouseTracking(true);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setVerticalScrollMode(ScrollPerItem);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setDefaultSectionSize(Scaled(*this, kRowHeight));
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter |
+                                            static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    horizontalHeader()->setMinimumHeight(2 * Scaled(*this, kRowHeight) - 4);
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    hover_.setSingleShot(true);
+    hover_.setInterval(kPreviewPause);
+    connect(&hover_, &QTimer::timeout, this, [this] {
+        if (is_filling && is_filling()) return hover_.start();
+        mirror_.Perform([this] { mirror_.Window().UserHover(grid_.name, pointed_row_); });
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        mirror_.Perform([&] { mirror_.Window().UserSort(grid_.name, column); });
+    });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { FollowScrolling(); });
+    mirror_.AddWriter([this] { MirrorGrid(); });
+}
+
+void GridView::MirrorGrid() {
+    if (isHidden() == grid_.visible) setVisible(grid_.visible);
+    if (isEnabledTo(parentWidget()) != grid_.enabled) setEnabled(grid_.enabled);
+    const bool refilled = model_.Refresh();
+    if (refilled) {
+        for (int row = 1; row < grid_.RowCount(); ++row) {
+            const bool hidden = grid_.Height(row) == 0;
+            if (isRowHidden(row - 1) != hidden) setRowHidden(row - 1, hidden);
+        }
+        for (int column = 0; column < grid_.ColumnCount(); ++column) {
+            setColumnHidden(column, grid_.Width(column) == 0);
+        }
+        FitColumns();
+        shown_top_ = 0;
+    }
+    if (shown_top_ != grid_.TopRow() && model_.rowCount() > 0) {
+        shown_top_ = grid_.TopRow();
+        scrollTo(model_.index(shown_top_ - 1, 0), PositionAtTop);
+    }
+    const QModelIndex wanted = model_.index(grid_.row - 1, std::max(grid_.column, 0));
+    if (wanted.isValid() && wanted.row() != currentIndex().row()) {
+        // Choosing a row would scroll to it; the form says where the table stands.
+        const int place = verticalScrollBar()->value();
+        setCurrentIndex(wanted);
+        verticalScrollBar()->setValue(place);
+        // The unit that a fill recommends is brought into view.
+        if (refilled && place == 0) scrollTo(wanted, PositionAtCenter);
+    }
+    if (accessibleDescription() != ShownText(grid_.tool_tip)) {
+        setAccessibleDescription(ShownText(grid_.tool_tip));
+    }
+}
+
+QRect GridView::CellRect(int row, int column) const {
+    return visualRect(model_.index(row - 1, column));
+}
+
+void GridView::FitColumns() {
+    const auto designed = [this](int column) {
+        return static_cast<double>(Scaled(*this, grid_.Width(column))) / kTwipsPerPixel;
+    };
+    double narrow = 0, wide = 0;
+    for (int column = 0; column < grid_.ColumnCount(); ++column) {
+        (grid_.Width(column) > kNarrowColumn ? wide : narrow) += designed(column);
+    }
+    if (wide == 0) return;
+    // Columns of short figures keep their width, the others share the rest.
+    const double share = std::clamp((viewport()->width() - narrow) / wide, kNarrowest, kWidest);
+    for (int column = 0; column < grid_.ColumnCount(); ++column) {
+        if (grid_.Width(column) == 0) continue;
+        const double fit = grid_.Width(column) > kNarrowColumn ? share : 1;
+        setColumnWidth(column, std::max(static_cast<int>(fit * designed(column)),
+                                        Scaled(*this, kLeastColumn)));
+    }
+}
+
+void GridView::TakeCurrent() {
+    if (!currentIndex().isValid()) return;
+    grid_.row = currentIndex().row() + 1;
+    grid_.column = currentIndex().column();
+}
+
+void GridView::MoveCurrent(int by) {
+    int row = currentIndex().row() + by;
+    while (row >= 0 && row < model_.rowCount() && isRowHidden(row)) row += by;
+    if (row < 0 || row >= model_.rowCount()) return;
+    setCurrentIndex(model_.index(row, std::max(currentIndex().column(), 0)));
+    TakeCurrent();
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool arrow = key == Qt::Key_Up || key == Qt::Key_Down;
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (arrow && modifiers != Qt::NoModifier) return MoveCurrent(key == Qt::Key_Up ? -1 : 1);
+    if (arrow) {
+        const ActKind act = key == Qt::Key_Up ? ActKind::RowsUp : ActKind::RowsDown;
+        mirror_.Perform([&] { mirror_.Window().UserGridAct(grid_.name, act); });
+        return;
+    }
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        TakeCurrent();
+        mirror_.Perform([&] { mirror_.Window().UserReturn(grid_.name); });
+        return;
+    }
+    if (key == Qt::Key_I && modifiers == Qt::NoModifier) {
+        TakeCurrent();
+        mirror_.Perform([&] { mirror_.Window().UserGridAct(grid_.name, ActKind::Tell); });
+        return;
+    }
+    if (key == Qt::Key_Escape) {
+        event->ignore();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+    TakeCurrent();
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !index.isValid()) return;
+    hover_.stop();
+    mirror_.Perform(
+        [&] { mirror_.Window().UserPickCell(grid_.name, index.row() + 1, index.column()); });
+}
+
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+    QTableView::mouseMoveEvent(event);
+    const int row = rowAt(event->position().toPoint().y()) + 1;
+    if (row == pointed_row_) return;
+    pointed_row_ = row;
+    hover_.start();
+}
+
+void GridView::leaveEvent(QEvent* event) {
+    QTableView::leaveEvent(event);
+    hover_.stop();
+    pointed_row_ = 0;
+    if (grid_.hovered_row == 0) return;
+    mirror_.Perform([&] { mirror_.Window().UserHover(grid_.name, 0); });
+}
+
+void GridView::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers() != Qt::NoModifier || event->angleDelta().y() == 0) {
+        return QTableView::wheelEvent(event);
+    }
+    wheel_ += event->angleDelta().y();
+    event->accept();
+    while (std::abs(wheel_) >= kWheelStep) {
+        const bool up = wheel_ > 0;
+        wheel_ += up ? -kWheelStep : kWheelStep;
+        const ActKind act = up ? ActKind::RowsUp : ActKind::RowsDown;
+        mirror_.Perform([&] { mirror_.Window().UserGridAct(grid_.name, act); });
+    }
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    FitColumns();
+}
+
+// The scroll bar and the page keys scroll by themselves; the form only takes note.
+void GridView::FollowScrolling() {
+    const int row = rowAt(0) + 1;
+    if (row < 1 || !grid_.SetTopRow(row)) return;
+    shown_top_ = row;
+}
+
+}  // namespace zandrell

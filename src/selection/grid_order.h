@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "forms/grid.h"
+
+namespace zandrell {
+
+// The order of a grid that its user asked for.
+struct GridOrder {
+    int column = -1;  // -1: as it was filled
+    bool descending = false;
+
+    // A head was acted on: its column, or the other way round when it is in force already.
+    void Ask(int asked_column);
+};
+
+// Sorts the rows behind the head, numbers by size and in front of texts; rows without contents stay
+// behind. The chosen row stays the same one. Equal rows keep their order.
+void SortRows(Grid& grid, const GridOrder& order);
+
+// The visible columns and rows as comma-separated values, CR LF behind each line. Cells lose the
+// blanks around them; one with a comma, a quote or a line end stands in double quotes.
+std::string GridAsCsv(const Grid& grid);
+
+}  // namespace zandrell

@@ -1,0 +1,114 @@
+#include "selection/selection_opener.h"
+
+#include "base/number_text.h"
+
+namespace zandrell {
+
+void SelectionOpener::Load() { refrigerants_ = ReadRefrigerants(context_.files); }
+
+std::optional<std::string> SelectionOpener::Open() {
+    SelectionShared& selection = context_.selection;
+    if (auto message = ApplyDuty(duty, refrigerants_, context_.captions, selection)) return message;
+    if (duty.KatalogArt != kind_) {
+        position_ = 0;
+        selection.OffeneSerie = 0;
+        selection.AuswahlZeile = 0;
+        selection.BildDatei.clear();
+        window_.loaded = false;
+    }
+    kind_ = duty.KatalogArt;
+    // A new duty gives every series another range.
+    selection.Rueckkehr = 0;
+    selection.inputs.BetriebsFreq = 0;
+    context_.shared.MainsFrequency = duty.mains_frequency;
+    selection.FreqTitel = "Qo";
+    ShowUnit();
+    Show();
+    return std::nullopt;
+}
+
+SelectionEnd SelectionOpener::React() {
+    if (!window_.closed) return SelectionEnd::None;
+    const auto code = static_cast<LeaveCode>(context_.shared.DialogMode);
+    if (!window_.loaded) {
+        return code == LeaveCode::WithResult ? SelectionEnd::WithResult
+                                             : SelectionEnd::WithoutResult;
+    }
+    switch (code) {
+        case LeaveCode::Recalculate:
+            Recalculate();
+            break;
+        case LeaveCode::SmallerUnit:
+            Step(-1);
+            break;
+        case LeaveCode::LargerUnit:
+            Step(1);
+            break;
+        case LeaveCode::UnitTaken:
+            TakeUnit();
+            break;
+        case LeaveCode::Settings:
+            wants_settings = true;
+            break;
+        default:
+            break;
+    }
+    Show();
+    return SelectionEnd::None;
+}
+
+void SelectionOpener::Show() {
+    const std::string status = window_.controls.StatusLab.text;
+    window_.Open();
+    if (!status.empty()) window_.controls.StatusLab.text = status;
+    const bool compressor = FamilyOf(duty.KatalogArt) == KatalogFamilie::Compressors;
+    if (compressor && HasUnit()) window_.FollowFrequency();
+}
+
+// The window has worked out the mass flow; the swept volume that is wanted follows it.
+void SelectionOpener::Recalculate() {
+    ApplyDuty(duty, refrigerants_, context_.captions, context_.selection);
+    ShowUnit();
+}
+
+void SelectionOpener::TakeUnit() {
+    const SelectionShared& selection = context_.selection;
+    place_ = {selection.SerieStart, selection.KatalogDatei};
+    position_ = selection.AuswahlZeile;
+    ShowUnit();
+}
+
+void SelectionOpener::Step(int by) {
+    Label& status = window_.controls.StatusLab;
+    if (position_ == 0) {
+        status.text = context_.captions[Caption::NoUnitChosen];
+        return;
+    }
+    const int before = position_;
+    position_ += by;
+    if (!Unit()) {
+        position_ = before;
+        status.text = context_.captions[Caption::NextUnitMissing];
+        return;
+    }
+    status.text.clear();
+    context_.selection.AuswahlZeile = position_;
+    ShowUnit();
+}
+
+std::optional<ChosenUnit> SelectionOpener::Unit() {
+    if (position_ == 0) return std::nullopt;
+    return ReadChosenUnit(reader_, place_, position_, duty, context_.selection.inputs);
+}
+
+void SelectionOpener::ShowUnit() {
+    const auto unit = Unit();
+    ShowChosenUnit(unit, duty, context_, window_.controls);
+    if (!unit) return;
+    SelectionShared& selection = context_.selection;
+    selection.BildDatei = PictureOf(unit->record.Text(KatalogFeld::KatBild), duty.KatalogArt);
+    window_.controls.Picture1.picture = selection.BildDatei;
+    window_.controls.Picture5.top = ClassMarkTop(window_.controls.R_Label.text);
+}
+
+}  // namespace zandrell
