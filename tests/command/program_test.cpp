@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 
 #include "support/test_folder.h"
@@ -101,6 +102,26 @@ TEST(Program, HostileEndsGetOneShortLine) {
         RunShell("head -c 900000 /dev/zero | tr '\\0' a | '" ZANDRELL_CALC "' form -" + data);
     EXPECT_EQ(act.output.find("zandrell-calc: line 1: unknown act or missing name: aaaa"), 0U);
     EXPECT_LT(act.output.size(), 120U);
+}
+
+// A file limit is an error of the write; a folder may have a name of any bytes.
+TEST(Program, SavesOrSaysWhyInFoldersOfAnyNameAndUnderLimits) {
+    const zandrell::TestFolder folder;
+    folder.CopyWholeSet();
+    const std::string odd = (folder / "caf\xE9").string();
+    std::filesystem::create_directory(odd);
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+        if (entry.is_regular_file()) std::filesystem::copy(entry.path(), odd);
+    }
+    const std::string program = "'" ZANDRELL_CALC "' form - --data '" + odd + "'";
+    const std::string script = "printf 'set Taus 31\\nclick PSButt\\ndump Taus\\n' | ";
+    const Ending limited = RunShell("ulimit -f 0; " + script + program + " | cat");
+    EXPECT_EQ(limited.status, 0);
+    EXPECT_NE(limited.output.find("cannot be saved: File too large"), std::string::npos)
+        << limited.output;
+    EXPECT_EQ(RunShell("grep -c 31 '" + odd + "/QV_ACT.dat'").output, "0\n");
+    EXPECT_EQ(RunShell(script + program).status, 0);
+    EXPECT_EQ(RunShell("grep -c 31 '" + odd + "/QV_ACT.dat'").output, "1\n");
 }
 
 TEST(Program, StartsWithoutTheToolkit) {
