@@ -130,7 +130,7 @@ class PlantPanel {
                       &PHIAbluft, &Taus,      &PhiAussen, &TZuluft,  &PHIZuluft,
                       &tKA,       &phiKanal,  &dtVent1,   &dtVent2};
     TakenTexts figures_of_ = taken_;
-    bool humidifier_shown_ = false;  // its figure is of the last run
+    bool humidifier_shown_ = false;            // its figure is of the last run
     const TextField* refused_rise_ = nullptr;  // a typed fan rise that the last run replaced
     bool settling_ = false, asked_again_ = false;
 };

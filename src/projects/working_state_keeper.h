@@ -36,8 +36,8 @@ class WorkingStateKeeper {
     bool ArbeitsfelderLaden(std::string_view name);
 
     // Saves, and reports to the sibling module. A file that could not be read is kept as QV_ACT.bak
-    // when the user asks for the save, and stays as it is at the end of the program. A user who declines to replace what another program
-    // has written finds the inputs in QV_ACT.bak.
+    // when the user asks for the save, and stays as it is at the end of the program. A user who
+    // declines to replace what another program has written finds the inputs in QV_ACT.bak.
     WriteResult ArbeitsfelderSpeichern(std::string_view name, SaveOccasion occasion);
 
     // Saves to the file of the kind in force. False when the program should stay open, since the

@@ -13,8 +13,8 @@ Grid Table(const std::vector<std::vector<std::string>>& rows) {
     grid.SetRows(static_cast<int>(rows.size()), 240);
     for (int row = 0; row < grid.RowCount(); ++row) {
         for (int column = 0; column < 3; ++column) {
-            grid.SetText(row, column, rows[static_cast<std::size_t>(row)]
-                                          [static_cast<std::size_t>(column)]);
+            grid.SetText(row, column,
+                         rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
             grid.SetWidth(column, 100);
         }
     }
@@ -52,10 +52,8 @@ TEST(GridOrder, SortsNumbersInFrontOfTextsAndKeepsTheChosenRow) {
 }
 
 TEST(GridOrder, WritesWhatIsVisible) {
-    Grid grid = Table({{"", "Q [kW]", "Name"},
-                       {"1", " 1.5", "a, \"b\""},
-                       {"2", " 2", "hidden"},
-                       {"3", "", ""}});
+    Grid grid = Table(
+        {{"", "Q [kW]", "Name"}, {"1", " 1.5", "a, \"b\""}, {"2", " 2", "hidden"}, {"3", "", ""}});
     grid.SetHeight(2, 0);
     grid.SetWidth(0, 0);
     EXPECT_EQ(GridAsCsv(grid), "Q [kW],Name\r\n1.5,\"a, \"\"b\"\"\"\r\n");

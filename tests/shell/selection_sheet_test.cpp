@@ -144,8 +144,8 @@ TEST(SelectionSheet, FitsOnItsPage) {
             EXPECT_EQ(item.text.find("§"), std::string::npos) << item.text;
             if (item.kind == SheetItem::Kind::Text) texts.push_back(item.text);
         }
-        for (const char* word :
-             {"tL1 =  0°C", "dtM =  8K", "to = -10°C", "A++", ".066", ".234", "R22 / GWP =  1810"}) {
+        for (const char* word : {"tL1 =  0°C", "dtM =  8K", "to = -10°C", "A++", ".066", ".234",
+                                 "R22 / GWP =  1810"}) {
             EXPECT_EQ(std::count(texts.begin(), texts.end(), word), 1) << word;
         }
         const auto picture = [](const SheetItem& item) {
