@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -15,6 +16,21 @@ namespace {
 constexpr QSize kNominalSize{720, 560};  // pixels at scale 1
 constexpr int kMargin = 12;              // pixels, of the text
 
+// The middle button would paste what is selected in the text itself, and the toolkit falls over a
+// selection that the paste has just taken away.
+class HelpText : public QPlainTextEdit {
+  public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::MiddleButton) QPlainTextEdit::mousePressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::MiddleButton) QPlainTextEdit::mouseReleaseEvent(event);
+    }
+};
+
 }  // namespace
 
 HelpWindow::HelpWindow(HelpForm& form, Pictures& pictures, QWidget* parent)
@@ -22,7 +38,7 @@ HelpWindow::HelpWindow(HelpForm& form, Pictures& pictures, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 14, 18, 14);
     layout->setSpacing(12);
-    auto* text = new QPlainTextEdit(this);
+    auto* text = new HelpText(this);
     text->setTabChangesFocus(true);
     text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     text->document()->setDocumentMargin(kMargin);
