@@ -116,7 +116,7 @@ int Run(const Arguments& arguments, QApplication& application) {
     window.Start();
     const EndSignals end_signals(form, user);
     if (!arguments.project.empty()) {
-        window.OpenProject(QString::fromStdString(Whole(arguments.project).string()));
+        window.OpenProject(Whole(arguments.project));
     }
     ScriptRunner script(form, window, user);
     if (!arguments.script.empty() && !script.Start(arguments.script)) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -194,8 +195,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(form_.ended);
 }
 
-void MainWindow::OpenProject(const QString& path) {
-    mirror_.Perform([&] { form_.OpenProject(path.toStdString()); });
+void MainWindow::OpenProject(const std::filesystem::path& path) {
+    mirror_.Perform([&] { form_.OpenProject(path); });
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -206,7 +207,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QString path = ProjectIn(*event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    OpenProject(path);
+    OpenProject(QFile::encodeName(path).toStdString());
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

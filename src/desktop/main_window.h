@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <filesystem>
 
 #include "desktop/chart_widget.h"
 #include "desktop/content_scroll.h"
@@ -28,7 +29,7 @@ class MainWindow : public QMainWindow {
     void Start();
 
     // Of the program's arguments or a file manager.
-    void OpenProject(const QString& path);
+    void OpenProject(const std::filesystem::path& path);
 
     FormMirror& Mirror() { return mirror_; }
     ChartWidget& Chart() { return *chart_; }

@@ -32,5 +32,19 @@ TEST(EndBySystem, SavesTheInputsAlsoFromWithinADialog) {
     }
 }
 
+TEST(Start, AScriptThatCannotBeReadIsSaid) {
+    const TestFolder folder;
+    folder.CopyWholeSet();
+    const std::string path = "'" + folder.Path().string() + "'";
+    for (const char* script : {".", "missing.txt", "/dev/zero"}) {
+        folder.Write("run.sh", "cd " + path + "\ntimeout 20 '" ZANDRELL_WINDOW "' --data " + path +
+                                   " --script " + script + " 2>errors\n");
+        const int status = std::system(("bash '" + (folder / "run.sh").string() + "'").c_str());
+        EXPECT_EQ(WEXITSTATUS(status), 1) << script;
+        const std::string said = std::string("zandrell: ") + script + ": can not be read";
+        EXPECT_NE(folder.Read("errors").find(said), std::string::npos) << folder.Read("errors");
+    }
+}
+
 }  // namespace
 }  // namespace zandrell
