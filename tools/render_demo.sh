@@ -36,9 +36,9 @@ plant() { # NAME TITLE
 "$calc" --data "$data" print -o "$demo/plant-sheet.pdf" --form examples/plant-summer.txt
 printf 'Printed %s/plant-sheet.pdf\n\n' "$demo"
 sed "s|selection-sheet.pdf|$demo/selection-sheet.pdf|" examples/selection-cooler.txt |
-    "$calc" --data "$data" selection - | tee "$demo/selection.txt"
+    "$calc" --data "$data" selection - | tools/selection_figures.py | tee "$demo/selection.txt"
 "$calc" --data "$data" capacity 600 LeistFaktor=1 > "$demo/selection.csv"
-printf 'Selected an air cooler: %s/selection-sheet.pdf, all coolers: %s/selection.csv\n\n' "$demo" "$demo"
+printf '\n  Data sheet: %s/selection-sheet.pdf, all coolers: %s/selection.csv\n\n' "$demo" "$demo"
 plant plant-summer "Sample plant in summer"
 plant plant-winter-steam "Sample plant in winter, steam humidifier"
 plant plant-winter-water "Sample plant in winter, water humidifier"
