@@ -1,11 +1,16 @@
 #include <benchmark/benchmark.h>
 #include <stdlib.h>
 
+#include <QApplication>
+#include <QImage>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
+#include "desktop/accessible.h"
+#include "desktop/look.h"
+#include "desktop/selection_window.h"
 #include "selection/catalogue_scan.h"
 #include "selection/unit_figures.h"
 
@@ -125,6 +130,87 @@ void ReadingAlone(benchmark::State& rounds) {
     }
 }
 BENCHMARK(ReadingAlone)->Unit(benchmark::kMillisecond);
+
+constexpr int kWidth = 1920, kHeight = 1080;
+
+// The selection window with all series of a kind in its list, as a planner has it before him.
+struct WindowOverCatalogue {
+    WindowOverCatalogue() : catalogue(600), files(Prepared(catalogue.Folder())) {
+        desk.Load();
+        planner.SetCaptions();
+        window = std::make_unique<SelectionWindow>(desk, planner, user);
+        window->resize(kWidth, kHeight);
+        window->show();
+        planner.Start({});
+        window->Refresh();
+        QApplication::processEvents();
+        series = window->findChild<GridView*>(QStringLiteral("KatalogSpread"));
+        if (series == nullptr || series->model()->rowCount() < kSeries - 1) std::abort();
+    }
+
+    // Settings, words and refrigerants go beside the catalogue.
+    static fs::path Prepared(const fs::path& folder) {
+        fs::copy(ZANDRELL_STAGED_DATA, folder,
+                 fs::copy_options::recursive | fs::copy_options::skip_existing);
+        return folder;
+    }
+
+    LargeCatalogue catalogue;
+    DataFiles files;
+    QtUser user;
+    SelectionDesk desk{user, files, NamedFolder(catalogue.Folder())};
+    SelectionContext context{files, desk.shared, desk.captions, user, desk.selection};
+    SelectionOpener opener{context, desk.window};
+    PlannerForm planner{context, desk.window, opener};
+    std::unique_ptr<SelectionWindow> window;
+    GridView* series = nullptr;
+};
+
+QApplication& TheApplication() {
+    static int count = 1;
+    static char name[] = "selection_bench";
+    static char* arguments[] = {name, nullptr};
+    static QApplication* const application = [] {
+        auto* made = new QApplication(count, arguments);  // outlives all statics
+        ApplyLook(*made, {ScaleFor(kWidth, kHeight)});
+        return made;
+    }();
+    return *application;
+}
+
+// Search for what stands in each name: index, records, ranges, colours, and the list on the screen.
+void FillTheList(benchmark::State& rounds) {
+    TheApplication();
+    WindowOverCatalogue over;
+    for (auto _ : rounds) {
+        over.desk.window.UserSetText("search", "Maker");
+        over.desk.window.UserReturn("search");
+        over.window->Refresh();
+        QApplication::processEvents();
+        if (over.series->model()->rowCount() != kSeries) std::abort();
+    }
+}
+BENCHMARK(FillTheList)->Unit(benchmark::kMillisecond);
+
+// One turn of the wheel in a list of 2,200 series: the act, the comparison, the list painted anew.
+void ScrollFrame(benchmark::State& rounds) {
+    TheApplication();
+    WindowOverCatalogue over;
+    QImage image(over.series->viewport()->size(), QImage::Format_RGB32);
+    bool down = true;
+    for (auto _ : rounds) {
+        const int before = over.desk.window.controls.KatalogSpread.TopRow();
+        over.desk.window.UserGridAct("KatalogSpread", down ? ActKind::RowsDown : ActKind::RowsUp);
+        over.window->Refresh();
+        over.series->viewport()->render(&image);
+        benchmark::DoNotOptimize(image.constBits());
+        const int top = over.desk.window.controls.KatalogSpread.TopRow();
+        if (top == before) std::abort();
+        if (top > kSeries - 200) down = false;
+        if (top < 200) down = true;
+    }
+}
+BENCHMARK(ScrollFrame)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace zandrell

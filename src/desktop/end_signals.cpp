@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <csignal>
 #include <cstdlib>
+#include <utility>
 
 namespace zandrell {
 namespace {
@@ -21,7 +22,8 @@ void TellOfSignal(int) {
 
 }  // namespace
 
-EndSignals::EndSignals(MainForm& form, QtUser& user) : form_(form), user_(user) {
+EndSignals::EndSignals(std::function<void()> save, QtUser& user)
+    : save_(std::move(save)), user_(user) {
     if (::pipe2(ends_.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
     write_end = ends_[1];
     notifier_ = std::make_unique<QSocketNotifier>(ends_[0], QSocketNotifier::Read);
@@ -42,7 +44,7 @@ EndSignals::~EndSignals() {
 void EndSignals::End() {
     notifier_->setEnabled(false);
     user_.nobody_answers = true;
-    form_.EndForSystem();
+    save_();
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (auto* dialog = qobject_cast<QDialog*>(widget)) dialog->done(QDialog::Rejected);
     }

@@ -65,6 +65,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         case Qt::BackgroundRole:
             if (const auto back = grid_.Back(row, column)) return CellGround(*back);
             return {};
+        case kSignalRole:
+            return grid_.Back(row, column).value_or(kLightGrey) != kLightGrey;
         // A screen reader says what the colour says to the eye.
         case Qt::AccessibleDescriptionRole:
             return ShownText(grid_.Text(0, column));

@@ -13,6 +13,9 @@ class GridModel : public QAbstractTableModel {
     // The grid outlives the model.
     GridModel(const Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {}
 
+    // Whether the ground of a cell says something, and is no stripe.
+    static constexpr int kSignalRole = Qt::UserRole;
+
     // Takes over what the grid holds now; answers whether anything had changed.
     bool Refresh();
 

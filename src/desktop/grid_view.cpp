@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -13,17 +14,34 @@ namespace zandrell {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
-constexpr int kRowHeight = 22, kLeastColumn = 34;  // pixels at scale 1
-constexpr int kPreviewPause = 500;                 // ms until a row under the pointer counts
+constexpr int kRowHeight = 22, kLeastColumn = 28, kCellMargin = 9;  // pixels at scale 1
+constexpr int kPreviewPause = 500;  // ms until a row under the pointer counts
 constexpr int kWheelStep = 120;
-constexpr int kNarrowColumn = 1000;                 // twips
-constexpr double kNarrowest = 0.45, kWidest = 1.6;  // of the widths as designed
+constexpr int kNarrowColumn = 1000;  // twips
+constexpr int kNarrowest = 80;       // pixels at scale 1, of a text that gives way
+constexpr double kWidest = 1.6;      // of the width as designed
+
+// A ground that says whether a unit fits stays to be seen in the chosen row.
+class SignalDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.data(GridModel::kSignalRole).toBool()) {
+            option->font.setBold(option->state.testFlag(QStyle::State_Selected));
+            option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        }
+    }
+};
 
 }  // namespace
 
 GridView::GridView(Grid& grid, FormMirror& mirror, QWidget* parent)
     : QTableView(parent), grid_(grid), mirror_(mirror), model_(grid, this) {
     setModel(&model_);
+    setItemDelegate(new SignalDelegate(this));
     setObjectName(QString::fromUtf8(grid.name.data(), static_cast<qsizetype>(grid.name.size())));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -38,7 +56,6 @@ GridView::GridView(Grid& grid, FormMirror& mirror, QWidget* parent)
     verticalHeader()->setDefaultSectionSize(Scaled(*this, kRowHeight));
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter |
                                             static_cast<Qt::Alignment>(Qt::TextWordWrap));
-    horizontalHeader()->setMinimumHeight(2 * Scaled(*this, kRowHeight) - 4);
     horizontalHeader()->setMinimumSectionSize(0);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
@@ -67,6 +84,7 @@ void GridView::MirrorGrid() {
         for (int column = 0; column < grid_.ColumnCount(); ++column) {
             setColumnHidden(column, grid_.Width(column) == 0);
         }
+        MeasureColumns();
         FitColumns();
         shown_top_ = 0;
     }
@@ -92,23 +110,71 @@ QRect GridView::CellRect(int row, int column) const {
     return visualRect(model_.index(row - 1, column));
 }
 
-void GridView::FitColumns() {
-    const auto designed = [this](int column) {
-        return static_cast<double>(Scaled(*this, grid_.Width(column))) / kTwipsPerPixel;
-    };
-    double narrow = 0, wide = 0;
-    for (int column = 0; column < grid_.ColumnCount(); ++column) {
-        (grid_.Width(column) > kNarrowColumn ? wide : narrow) += designed(column);
-    }
-    if (wide == 0) return;
-    // Columns of short figures keep their width, the others share the rest.
-    const double share = std::clamp((viewport()->width() - narrow) / wide, kNarrowest, kWidest);
+// What a column needs: the longest word of its head, and its texts as far as it was designed for
+// them.
+void GridView::MeasureColumns() {
+    needed_.assign(static_cast<std::size_t>(grid_.ColumnCount()), 0);
+    const int margin = Scaled(*this, kCellMargin);
     for (int column = 0; column < grid_.ColumnCount(); ++column) {
         if (grid_.Width(column) == 0) continue;
-        const double fit = grid_.Width(column) > kNarrowColumn ? share : 1;
-        setColumnWidth(column, std::max(static_cast<int>(fit * designed(column)),
-                                        Scaled(*this, kLeastColumn)));
+        int needed = Scaled(*this, kLeastColumn);
+        for (const QString& word :
+             ShownText(grid_.Text(0, column)).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            needed = std::max(needed, fontMetrics().horizontalAdvance(word) + margin);
+        }
+        const int designed = Scaled(*this, grid_.Width(column) / kTwipsPerPixel);
+        if (grid_.Width(column) <= kNarrowColumn) needed = std::max(needed, designed);
+        for (int row = 1; row < grid_.RowCount() && needed < designed; ++row) {
+            const QString text = ShownText(grid_.Text(row, column));
+            needed = std::max(needed,
+                              std::min(fontMetrics().horizontalAdvance(text) + margin, designed));
+        }
+        needed_[static_cast<std::size_t>(column)] = needed;
     }
+}
+
+void GridView::FitColumns() {
+    if (static_cast<int>(needed_.size()) != grid_.ColumnCount()) return;
+    // The names give way where the window leaves no room; a tool tip has them whole.
+    int total = 0, longest = 0, wide = 0;
+    double designed_wide = 0;
+    for (int column = 0; column < grid_.ColumnCount(); ++column) {
+        const int needed = needed_[static_cast<std::size_t>(column)];
+        total += needed;
+        if (grid_.Width(column) > grid_.Width(longest)) longest = column;
+        if (grid_.Width(column) <= kNarrowColumn) continue;
+        designed_wide += grid_.Width(column);
+        ++wide;
+    }
+    const int room = viewport()->width() - total;
+    for (int column = 0; column < grid_.ColumnCount(); ++column) {
+        if (grid_.Width(column) == 0) continue;
+        const int designed = Scaled(*this, grid_.Width(column) / kTwipsPerPixel);
+        int width = needed_[static_cast<std::size_t>(column)];
+        if (room < 0 && column == longest && width + room >= Scaled(*this, kNarrowest)) {
+            width += room;
+        }
+        if (room > 0 && grid_.Width(column) > kNarrowColumn) {
+            width += static_cast<int>(room * grid_.Width(column) / designed_wide);
+            // Beyond that the eye loses the row between two columns.
+            if (wide > 1) width = std::min(width, static_cast<int>(kWidest * designed));
+        }
+        setColumnWidth(column, width);
+    }
+    FitHead();
+}
+
+// High enough for the head of the most lines.
+void GridView::FitHead() {
+    int height = 2 * Scaled(*this, kRowHeight) - 4;
+    for (int column = 0; column < grid_.ColumnCount(); ++column) {
+        if (isColumnHidden(column)) continue;
+        const QRect lines = fontMetrics().boundingRect(
+            QRect(0, 0, columnWidth(column) - Scaled(*this, kCellMargin) / 2, height * 4),
+            Qt::TextWordWrap, ShownText(grid_.Text(0, column)));
+        height = std::max(height, lines.height() + Scaled(*this, 6));
+    }
+    if (horizontalHeader()->height() != height) horizontalHeader()->setFixedHeight(height);
 }
 
 void GridView::TakeCurrent() {

@@ -2,6 +2,7 @@
 
 #include <QTableView>
 #include <QTimer>
+#include <vector>
 
 #include "desktop/form_mirror.h"
 #include "desktop/grid_model.h"
@@ -23,8 +24,6 @@ class GridView : public QTableView {
     void MirrorGrid();
     // The place of a cell, in positions of the viewport.
     QRect CellRect(int row, int column) const;
-    // Columns take the width of the view in their proportions.
-    void FitColumns();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -35,6 +34,10 @@ class GridView : public QTableView {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void MeasureColumns();
+    // No column is narrower than it needs; what is left is shared in their proportions.
+    void FitColumns();
+    void FitHead();
     void TakeCurrent();
     void MoveCurrent(int by);
     void FollowScrolling();
@@ -45,7 +48,8 @@ class GridView : public QTableView {
     QTimer hover_;
     int pointed_row_ = 0;  // of the grid, until the pause is over
     int shown_top_ = 1;
-    int wheel_ = 0;  // eighths of a degree that made no step yet
+    std::vector<int> needed_;  // pixels a column; 0: hidden
+    int wheel_ = 0;            // eighths of a degree that made no step yet
 };
 
 }  // namespace zandrell

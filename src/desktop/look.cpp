@@ -122,6 +122,15 @@ QDialog[skinned="dark texts"] QGroupBox { background: transparent; border-color:
 QDialog[skinned="light texts"] QGroupBox { background: transparent; border-color: white; }
 QDialog[skinned="dark texts"] QGroupBox::title { color: black; }
 QDialog[skinned="light texts"] QGroupBox::title { color: white; }
+QScrollBar { background: transparent; }
+QScrollBar:vertical { width: 0.8em; }
+QScrollBar:horizontal { height: 0.8em; }
+QScrollBar::handle { background: @border; border-radius: 0.2em; margin: 0.2em; }
+QScrollBar::handle:hover { background: @accent; }
+QScrollBar::handle:vertical { min-height: 1.6em; }
+QScrollBar::handle:horizontal { min-width: 1.6em; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: none; }
 )";
 

@@ -14,7 +14,7 @@ namespace {
 constexpr int kLargestDrawing = 1024;
 
 QImage ReadDrawing(const DataFiles& files, std::string_view file_name) {
-    const QImage image = ReadPicture(files, file_name);
+    QImage image = ReadPicture(files, file_name);
     if (std::max(image.width(), image.height()) <= kLargestDrawing) return image;
     return image.scaled(kLargestDrawing, kLargestDrawing, Qt::KeepAspectRatio,
                         Qt::SmoothTransformation);

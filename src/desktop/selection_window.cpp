@@ -2,35 +2,24 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialog>
 #include <QFileDialog>
-#include <QFormLayout>
-#include <QGroupBox>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "desktop/accessible.h"
-#include "desktop/capacity_plot.h"
-#include "desktop/class_scale.h"
 #include "desktop/look.h"
 #include "desktop/panel_builder.h"
+#include "desktop/planner_dialogs.h"
+#include "desktop/selection_parts.h"
 
 namespace zandrell {
 namespace {
 
-constexpr int kDutyWidth = 262, kUnitWidth = 262;     // pixels at scale 1
-constexpr int kPictureSide = 92, kPreviewSide = 120;  // pixels at scale 1
-constexpr int kFrameTime = 16;                        // ms
+constexpr int kDutyWidth = 262, kUnitWidth = 262;  // pixels at scale 1
+constexpr int kPreviewSide = 120;                  // pixels at scale 1
+constexpr int kFrameTime = 16;                     // ms
 constexpr int kTwipsPerPixel = 15;
-
-QPushButton* TextButton(const Button& control, FormMirror& mirror, QWidget* parent) {
-    auto* button = new QPushButton(parent);
-    button->setAutoDefault(false);
-    mirror.Bind(button, control);
-    return button;
-}
 
 // A column that is scrolled where the window leaves it no room.
 QScrollArea* Scrolled(QWidget* content, int width) {
@@ -57,19 +46,29 @@ SelectionWindow::SelectionWindow(SelectionDesk& desk, PlannerForm& planner, QtUs
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 10, 10, 10);
     layout->setSpacing(10);
-    layout->addWidget(Scrolled(MakeDuty(), Scaled(*this, kDutyWidth)));
+    const DutyColumn duty = MakeDutyColumn(planner, planner_mirror_);
+    first_field_ = duty.first_field;
+    layout->addWidget(Scrolled(duty.panel, Scaled(*this, kDutyWidth)));
     auto* middle = new QVBoxLayout;
     middle->addWidget(MakeLists(), 1);
     middle->addWidget(MakeFoot());
     layout->addLayout(middle, 1);
-    layout->addWidget(Scrolled(MakeUnitPanel(), Scaled(*this, kUnitWidth)));
+    auto* right = new QVBoxLayout;
+    QWidget* unit = MakeUnitColumn(desk.window.controls, mirror_, desk.captions);
+    right->addWidget(Scrolled(unit, Scaled(*this, kUnitWidth)), 1);
+    right->addWidget(MakeWishes(planner, planner_mirror_));
+    layout->addLayout(right);
     AddWriters();
     user.Attach({this, nullptr, &pictures_, [this] { mirror_.Mirror(); },
                  [this] { desk_.OpenHelp(); }, &desk.help});
     mirror_.after_act = planner_mirror_.after_act = [this] { Refresh(); };
     desk.window.host.show_progress = [this] { ShowProgress(); };
-    planner.show_comparison = [this] { ShowComparison(); };
-    planner.show_plot = [this](const CapacityPlot& plot) { ShowPlot(plot); };
+    planner.show_comparison = [this] {
+        ShowComparison(planner_.lists.Comparison, ShownText(planner_.Compare.text), this);
+    };
+    planner.show_plot = [this](const CapacityPlot& plot) {
+        ShowCapacityPlot(plot, ShownText(planner_.Plot.text), this);
+    };
     planner.ask_file = [this] {
         return QFileDialog::getSaveFileName(this, ShownText(planner_.Csv.text), {},
                                             QStringLiteral("CSV (*.csv)"))
@@ -78,50 +77,6 @@ SelectionWindow::SelectionWindow(SelectionDesk& desk, PlannerForm& planner, QtUs
     since_progress_.start();
     planner_mirror_.Mirror();
     mirror_.Mirror();
-}
-
-QWidget* SelectionWindow::MakeDuty() {
-    auto* panel = new QWidget;
-    auto* grid = new QGridLayout(panel);
-    grid->setContentsMargins(0, 0, 16, 0);
-    grid->setVerticalSpacing(4);
-    PanelBuilder build(planner_mirror_, panel);
-    int row = 0;
-    for (const auto& [label, box] : {std::pair{&planner_.KindLabel, &planner_.KindBox},
-                                     {&planner_.RefrigerantLabel, &planner_.RefrigerantBox}}) {
-        auto* combo = new QComboBox(panel);
-        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        combo->setMinimumContentsLength(5);
-        planner_mirror_.Bind(combo, *box);
-        planner_mirror_.Describe(combo, *label);
-        grid->addWidget(build.Caption(*label), row, 0);
-        grid->addWidget(combo, row++, 1);
-        if (first_field_ == nullptr) first_field_ = combo;
-    }
-    for (const auto& field : planner_.fields) {
-        auto* caption = build.Caption(field->label);
-        caption->setWordWrap(true);
-        grid->addWidget(caption, row, 0);
-        auto* edit = build.Field(field->field, field->label, {}, 6);
-        edit->setFixedWidth(edit->sizeHint().width());
-        grid->addWidget(edit, row++, 1, Qt::AlignRight);
-        if (field->value == &SelectionDuty::capacity) first_field_ = edit;
-    }
-    auto* message = build.Caption(planner_.Message);
-    message->setWordWrap(true);
-    message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    message->setMinimumHeight(3 * message->fontMetrics().lineSpacing());
-    grid->addWidget(TextButton(planner_.Apply, planner_mirror_, panel), row++, 0, 1, 2);
-    grid->addWidget(message, row++, 0, 1, 2);
-    auto* hide = new QCheckBox(panel);
-    planner_mirror_.Bind(hide, planner_.HideUnfit);
-    grid->addWidget(hide, row++, 0, 1, 2);
-    for (const Button* button : {&planner_.Compare, &planner_.Plot, &planner_.Csv}) {
-        grid->addWidget(TextButton(*button, planner_mirror_, panel), row++, 0, 1, 2);
-    }
-    grid->setColumnStretch(0, 1);
-    grid->setRowStretch(row, 1);
-    return panel;
 }
 
 QWidget* SelectionWindow::MakeLists() {
@@ -136,10 +91,12 @@ QWidget* SelectionWindow::MakeLists() {
     layout->addWidget(series_, 1);
     series_->is_filling = [this] { return filling_; };
     preview_ = new QLabel(series_->viewport());
+    preview_->setObjectName(QStringLiteral("Picture2"));
     preview_->setFrameShape(QFrame::Box);
     preview_->setAttribute(Qt::WA_TransparentForMouseEvents);
     preview_->hide();
     tip_ = new QLabel(series_->viewport());
+    tip_->setObjectName(QStringLiteral("AssitPN"));
     tip_->setFrameShape(QFrame::Box);
     tip_->setAutoFillBackground(true);
     tip_->setMargin(4);
@@ -199,115 +156,6 @@ QWidget* SelectionWindow::MakeUnits() {
     return panel;
 }
 
-void SelectionWindow::BindPicture(QLabel* label, const Panel& picture, int side) {
-    const int pixels = Scaled(*this, side);
-    mirror_.AddWriter([this, label, &picture, pixels, shown = std::string("?")]() mutable {
-        if (shown == picture.picture) return;
-        shown = picture.picture;
-        const QPixmap whole = pictures_.Opaque(shown);
-        label->setPixmap(whole.isNull() ? QPixmap()
-                                        : whole.scaled(pixels, pixels, Qt::KeepAspectRatio,
-                                                       Qt::SmoothTransformation));
-    });
-}
-
-QWidget* SelectionWindow::MakeUnitPanel() {
-    VentZeigControls& c = desk_.window.controls;
-    auto* panel = new QWidget;
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(6, 0, 0, 0);
-    layout->setSpacing(6);
-    PanelBuilder build(mirror_, panel);
-    for (const Label* heading : {&c.PN19, &c.ventlabel}) {
-        auto* label = build.Caption(*heading, true);
-        label->setWordWrap(true);
-        layout->addWidget(label);
-    }
-    auto* row = new QHBoxLayout;
-    auto* picture = new QLabel(panel);
-    picture->setFixedSize(Scaled(*this, kPictureSide), Scaled(*this, kPictureSide));
-    BindPicture(picture, c.Picture1, kPictureSide);
-    row->addWidget(picture);
-    auto* scale = new ClassScale(c.Picture5, c.R_Label, panel);
-    mirror_.AddWriter([this, scale, &c, shown = std::string("?")]() mutable {
-        if (shown == c.R_Label.text) return;
-        shown = c.R_Label.text;
-        scale->setAccessibleName(ShownText(desk_.captions[Caption::EfficiencyClass]) +
-                                 QLatin1Char(' ') + ShownText(shown));
-        scale->setVisible(!shown.empty());
-        scale->update();
-    });
-    row->addWidget(scale);
-    row->addWidget(build.Caption(c.R_Label, true));
-    row->addStretch(1);
-    layout->addLayout(row);
-    auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(4);
-    const std::initializer_list<std::pair<Label*, Label*>> pairs = {
-        {&c.Label13, &c.Label3},  {&c.Label15, &c.Label14}, {&c.Label29, &c.Label25},
-        {&c.Label30, &c.Label26}, {&c.Label24, &c.Label23}, {&c.Label39, &c.relFeuchte},
-        {&c.Label31, &c.Label27}, {&c.Label32, &c.Label28}, {&c.Label6, &c.GewLab},
-        {&c.Label41, &c.RVol}};
-    int line = 0;
-    for (const auto& [label, figure] : pairs) {
-        auto* caption = build.Caption(*label);
-        caption->setWordWrap(true);
-        grid->addWidget(caption, line, 0);
-        grid->addWidget(build.Figure(*figure, *label, {}, 6), line++, 1);
-    }
-    grid->setColumnStretch(0, 1);
-    layout->addLayout(grid);
-    for (const Label* label : {&c.volStrLab, &c.wurfWLab, &c.FlLab, &c.LamALab, &c.DefrLab}) {
-        layout->addWidget(build.Caption(*label));
-    }
-    auto* capacity = new FigureLabel(panel);
-    capacity->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    capacity->setWordWrap(true);
-    mirror_.Bind(capacity, c.Label37_l);
-    layout->addWidget(capacity);
-    layout->addWidget(MakeFrequency());
-    layout->addWidget(MakeEnergy());
-    layout->addStretch(1);
-    return panel;
-}
-
-QWidget* SelectionWindow::MakeFrequency() {
-    VentZeigControls& c = desk_.window.controls;
-    auto* row = new QWidget;
-    auto* grid = new QGridLayout(row);
-    grid->setContentsMargins(0, 0, 0, 0);
-    PanelBuilder build(mirror_, row);
-    grid->addWidget(build.Caption(c.KPFreqLabel), 0, 0);
-    grid->addWidget(build.Field(c.KPFreq, c.KPFreqLabel, {}, 5), 0, 1);
-    grid->addWidget(build.BarOf(c.HScroll1, c.KPFreqLabel), 1, 0, 1, 2);
-    auto* economizer = new QCheckBox(row);
-    mirror_.Bind(economizer, c.EcoCheck);
-    grid->addWidget(economizer, 2, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    return row;
-}
-
-QWidget* SelectionWindow::MakeEnergy() {
-    VentZeigControls& c = desk_.window.controls;
-    auto* group = new QGroupBox;
-    auto* grid = new QGridLayout(group);
-    PanelBuilder build(mirror_, group);
-    const struct {
-        Label *caption, *figure, *unit;
-    } rows[] = {{&c.Label38, &c.BetrKo, &c.Label34},
-                {&c.Label19, &c.LeistZ, nullptr},
-                {&c.Label46, &c.CO2consum, &c.Label33}};
-    int line = 0;
-    for (const auto& row : rows) {
-        grid->addWidget(build.Caption(*row.caption), line, 0);
-        grid->addWidget(build.Figure(*row.figure, *row.caption, {}, 5), line, 1);
-        if (row.unit) grid->addWidget(build.Caption(*row.unit), line, 2);
-        ++line;
-    }
-    grid->setColumnStretch(0, 1);
-    return group;
-}
-
 QWidget* SelectionWindow::MakeFoot() {
     VentZeigControls& c = desk_.window.controls;
     auto* foot = new QWidget;
@@ -337,7 +185,7 @@ QWidget* SelectionWindow::MakeFoot() {
 
 void SelectionWindow::AddWriters() {
     VentZeigControls& c = desk_.window.controls;
-    BindPicture(preview_, c.Picture2, kPreviewSide);
+    BindPicture(preview_, c.Picture2, kPreviewSide, mirror_);
     mirror_.AddWriter([this] { PlaceOverlays(); });
     mirror_.AddWriter([this, &c] {
         const double share = c.Picture3.width > 0 ? c.Shape9.width / c.Picture3.width : 0;
@@ -392,36 +240,6 @@ void SelectionWindow::ShowProgress() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     filling_ = false;
     since_progress_.restart();
-}
-
-void SelectionWindow::ShowComparison() {
-    QDialog dialog(this);
-    dialog.setWindowTitle(ShownText(planner_.Compare.text));
-    auto* layout = new QVBoxLayout(&dialog);
-    auto* table = new QTableView(&dialog);
-    auto* model = new GridModel(planner_.lists.Comparison, table);
-    model->Refresh();
-    table->setModel(model);
-    table->setAccessibleName(dialog.windowTitle());
-    table->verticalHeader()->hide();
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->resizeColumnsToContents();
-    for (int column = 0; column < model->columnCount(); ++column) {
-        table->setColumnWidth(column, table->columnWidth(column) + Scaled(*this, 16));
-    }
-    layout->addWidget(table);
-    dialog.resize(Scaled(*this, 900), Scaled(*this, 360));
-    dialog.exec();
-}
-
-void SelectionWindow::ShowPlot(const CapacityPlot& plot) {
-    QDialog dialog(this);
-    dialog.setWindowTitle(ShownText(planner_.Plot.text));
-    auto* layout = new QVBoxLayout(&dialog);
-    auto* view = new CapacityPlotView(plot, &dialog);
-    view->setAccessibleName(dialog.windowTitle());
-    layout->addWidget(view);
-    dialog.exec();
 }
 
 void SelectionWindow::TakeFocus() {

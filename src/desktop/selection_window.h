@@ -15,8 +15,6 @@
 
 namespace zandrell {
 
-class ClassScale;
-
 // The window of the selection program: the duty at the left, the lists in the middle, the unit in
 // hand at the right.
 class SelectionWindow : public QWidget {
@@ -38,20 +36,13 @@ class SelectionWindow : public QWidget {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    QWidget* MakeDuty();
     QWidget* MakeLists();
     QWidget* MakeSearch();
     QWidget* MakeUnits();
-    QWidget* MakeUnitPanel();
-    QWidget* MakeFrequency();
-    QWidget* MakeEnergy();
     QWidget* MakeFoot();
-    void BindPicture(QLabel* label, const Panel& picture, int side);
     void AddWriters();
     void PlaceOverlays();
     void ShowProgress();
-    void ShowComparison();
-    void ShowPlot(const CapacityPlot& plot);
 
     SelectionDesk& desk_;
     PlannerForm& planner_;

@@ -99,7 +99,8 @@ PlannerForm::PlannerForm(const SelectionContext& context, VentZeigForm& window,
 }
 
 void PlannerForm::ListControls() {
-    form.Add({&KindLabel, &KindBox, &RefrigerantLabel, &RefrigerantBox});
+    form.Add({&KindLabel, &KindBox, &RefrigerantLabel, &RefrigerantBox, &AirFlowLabel, &AirFlow});
+    AirFlow.visible = AirFlowLabel.visible = false;
     fields.reserve(kDutyRows.size());
     for (const DutyRow& row : kDutyRows) {
         auto& field = fields.emplace_back(std::make_unique<DutyField>(row.name, row.label));
@@ -115,6 +116,7 @@ void PlannerForm::SetCaptions() {
             words[Caption::ComponentSelection];
     KindLabel.text = words[Caption::Component];
     RefrigerantLabel.text = words[Caption::Refrigerant];
+    AirFlowLabel.text = words[Caption::VolumeFlow] + " /[" + std::string(UnitM3h) + "]";
     for (std::size_t i = 0; i < fields.size(); ++i) {
         std::string unit(kDutyRows[i].unit);
         const auto currency = unit.find('$');
@@ -160,9 +162,8 @@ void PlannerForm::Start(const SelectionDuty& first) {
 }
 
 void PlannerForm::NoteAirFlow(double flow) {
-    if (!(flow > 0)) return;
-    Message.text = context_.captions[Caption::VolumeFlow] + " : " +
-                   TrimmedNumberText(Cut(flow, 1)) + " " + std::string(UnitM3h);
+    AirFlow.visible = AirFlowLabel.visible = flow > 0;
+    AirFlow.text = AirFlow.visible ? TrimmedNumberText(Cut(flow, 1)) : "";
 }
 
 // All or nothing: a duty of which one figure is no number is not a duty.

@@ -30,6 +30,7 @@ class PlannerForm : public WindowForm {
 
     ComboBox KindBox{"KindBox"}, RefrigerantBox{"RefrigerantBox"};
     Label KindLabel{"KindLabel"}, RefrigerantLabel{"RefrigerantLabel"};
+    Label AirFlowLabel{"AirFlowLabel"}, AirFlow{"AirFlow"};  // hidden while none is known
     Button Apply{"Apply"}, Compare{"Compare"}, Plot{"Plot"}, Csv{"Csv"};
     CheckBox HideUnfit{"HideUnfit"};
     Label Message{"Message"};
@@ -45,7 +46,8 @@ class PlannerForm : public WindowForm {
     void SetCaptions();
     // Reads the refrigerants, shows the duty and opens the selection window with it.
     void Start(const SelectionDuty& first);
-    // The air flow in m3/h that goes with the duty, for the search of a cooler; 0: none is known.
+    // The air flow in m3/h that goes with the duty, shown beside it for the choice of a cooler; 0:
+    // none is known.
     void NoteAirFlow(double flow);
     // Whether the window asked for the settings of its opener since the last time.
     bool TakeWishForSettings() { return std::exchange(opener_.wants_settings, false); }

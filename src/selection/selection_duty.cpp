@@ -80,6 +80,15 @@ double ReferenceValue(const SelectionDuty& duty, const CycleStates& states) {
     }
 }
 
+void SweepMassFlow(const SelectionDuty& duty, const SaturationState& evaporating,
+                   SelectionShared& selection) {
+    const double suction_density =
+        evaporating.rho_vapour * selection.T0 / (selection.T0 + duty.superheat);
+    SelectionInputs& inputs = selection.inputs;
+    AssignFinite(inputs.Label26,
+                 inputs.MassenStrom / suction_density / duty.efficiency * kSecondsPerHour);
+}
+
 }  // namespace
 
 double EstimatedPower(double capacity, double evaporating, double condensing) {
@@ -111,12 +120,16 @@ std::optional<std::string> ApplyDuty(const SelectionDuty& duty, const Refrigeran
     inputs.InverterNetzFreq = duty.mains_frequency;
     ShareRefrigerant(duty, states, selection);
     inputs.MassenStrom = MassenStromRechnen(0, duty.capacity, inputs, selection.eco);
-    const double suction_density =
-        states.evaporating.rho_vapour * selection.T0 / (selection.T0 + duty.superheat);
-    AssignFinite(inputs.Label26,
-                 inputs.MassenStrom / suction_density / duty.efficiency * kSecondsPerHour);
+    SweepMassFlow(duty, states.evaporating, selection);
     inputs.Label27 = EstimatedPower(duty.capacity, duty.evaporating, duty.condensing);
     return std::nullopt;
+}
+
+void FollowMassFlow(const SelectionDuty& duty, const RefrigerantTables& tables,
+                    SelectionShared& selection) {
+    const Refrigerant* table = tables.Find(duty.refrigerant);
+    const auto evaporating = table != nullptr ? table->At(duty.evaporating) : std::nullopt;
+    if (evaporating) SweepMassFlow(duty, *evaporating, selection);
 }
 
 }  // namespace zandrell

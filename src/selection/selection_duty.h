@@ -50,4 +50,9 @@ double EstimatedPower(double capacity, double evaporating, double condensing);
 std::optional<std::string> ApplyDuty(const SelectionDuty& duty, const RefrigerantTables& tables,
                                      const Captions& words, SelectionShared& selection);
 
+// The wanted swept volume (`Label26`, m3/h) of a mass flow that somebody else has set. Changes
+// nothing when the evaporating temperature lies outside the table.
+void FollowMassFlow(const SelectionDuty& duty, const RefrigerantTables& tables,
+                    SelectionShared& selection);
+
 }  // namespace zandrell

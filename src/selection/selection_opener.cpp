@@ -67,7 +67,7 @@ void SelectionOpener::Show() {
 
 // The window has worked out the mass flow; the swept volume that is wanted follows it.
 void SelectionOpener::Recalculate() {
-    ApplyDuty(duty, refrigerants_, context_.captions, context_.selection);
+    FollowMassFlow(duty, refrigerants_, context_.selection);
     ShowUnit();
 }
 

@@ -147,8 +147,8 @@ void UnitTable::SerieLesen(long address, int mode, int row) {
     selection.inputs.Label26 = ParsedNumber(controls_.Label26.text);
     selection.inputs.Label25 = ParsedNumber(controls_.Label25.text);
     found_ = false;
-    const auto family = FamilyOf(selection.inputs.KatalogArt);
     const Serie serie = reader_.SerieLesen(selection.KatalogDatei, address);
+    const bool range = HasRange(FamilyOf(selection.inputs.KatalogArt));
     UnitFigures figures;
     int number = 1;
     for (; number <= Serie::kUnits; ++number) {
@@ -156,29 +156,41 @@ void UnitTable::SerieLesen(long address, int mode, int row) {
         const UnitNumbers unit = ReadUnit(record);
         ++records_read;
         const bool ends = unit.IsEndMark();
-        if (ends && (mode == kFillTable || !HasRange(family))) break;
-        const Step step{number, mode, ends || number == Serie::kUnits, &record, &unit};
-        if (mode == kFillTable) {
-            controls_.Venttab.SetText(
-                number, kUnitName,
-                record.Text(KatalogFeld::KatTyp) + " " + record.Text(KatalogFeld::KatTyp2));
+        if (ends && (mode == kFillTable || !range)) break;
+        if (!TakeRecord({number, mode, ends || number == Serie::kUnits, &record, &unit}, figures,
+                        row)) {
+            break;
         }
-        CalculateUnit(unit, selection.inputs, figures);
-        if (HasRange(family)) {
-            if (!TakeCapacity(step, figures, row)) break;
-        } else if (mode == kFillTable) {
-            WriteLineComponent(step, figures);
-        }
-        if (mode != kFillTable) continue;
-        Grid& grid = controls_.Venttab;
-        grid.SetText(number, kUnitRated, record.Text(KatalogFeld::KatWert2));
-        grid.SetText(number, kUnitWeight, record.Text(KatalogFeld::KatGewicht));
-        grid.SetText(number, kUnitPicture, record.Text(KatalogFeld::KatBild));
-        grid.SetText(number, kUnitPosition, TrimmedNumberText(number));
     }
     const auto place = static_cast<std::size_t>(std::min(number, Serie::kUnits) - 1);
     const std::size_t offset = std::min(place * KatalogSatz::kLength, serie.bytes.size());
     selection.record = serie.bytes.substr(offset, KatalogSatz::kLength);
+}
+
+bool UnitTable::TakeRecord(const Step& step, UnitFigures& figures, int range_row) {
+    const bool fills = step.mode == kFillTable;
+    Grid& grid = controls_.Venttab;
+    const auto put = [&](int column, KatalogFeld field) {
+        grid.SetText(step.number, column, step.record->Text(field));
+    };
+    if (fills) {
+        grid.SetText(
+            step.number, kUnitName,
+            step.record->Text(KatalogFeld::KatTyp) + " " + step.record->Text(KatalogFeld::KatTyp2));
+    }
+    SelectionInputs& inputs = context_.selection.inputs;
+    CalculateUnit(*step.unit, inputs, figures);
+    if (HasRange(FamilyOf(inputs.KatalogArt))) {
+        if (!TakeCapacity(step, figures, range_row)) return false;
+    } else if (fills) {
+        WriteLineComponent(step, figures);
+    }
+    if (!fills) return true;
+    put(kUnitRated, KatalogFeld::KatWert2);
+    put(kUnitWeight, KatalogFeld::KatGewicht);
+    put(kUnitPicture, KatalogFeld::KatBild);
+    grid.SetText(step.number, kUnitPosition, TrimmedNumberText(step.number));
+    return true;
 }
 
 // False behind the last record of the run. The capacity of that one never counts for the range.

@@ -44,6 +44,8 @@ class UnitTable {
     };
 
     void ClearTable();
+    // One record of the run; false behind the last one.
+    bool TakeRecord(const Step& step, UnitFigures& figures, int range_row);
     bool TakeCapacity(const Step& step, const UnitFigures& figures, int range_row);
     void WriteCapacity(const Step& step, const UnitFigures& figures, double capacity);
     void WriteLineComponent(const Step& step, const UnitFigures& figures);

@@ -1,0 +1,225 @@
+// The selection window on the screen: what the forms behind it say must be seen and spoken, and the
+// keyboard alone must reach all of it.
+#include "desktop/selection_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QDialog>
+#include <QScrollArea>
+#include <QTest>
+#include <QTimer>
+#include <set>
+
+#include "desktop/look_colours.h"
+#include "desktop/window_session.h"
+
+namespace zandrell {
+namespace {
+
+class SelectionWindowTest : public ::testing::Test {
+  protected:
+    SelectionWindowTest() {
+        folder_.CopyWholeSet();
+        desk_.Load();
+        planner_.SetCaptions();
+        window_ = std::make_unique<SelectionWindow>(desk_, planner_, user_);
+        window_->resize(1280, 800);
+        window_->show();
+        SelectionDuty duty;
+        duty.capacity = 12;
+        planner_.Start(duty);
+        window_->Refresh();
+        window_->TakeFocus();
+        for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
+    }
+
+    template <class Widget>
+    Widget* Find(const char* name) {
+        auto* widget = window_->findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+
+    void Act(const std::function<void(VentZeigForm&)>& act) {
+        act(desk_.window);
+        window_->Refresh();
+        QApplication::processEvents();
+    }
+
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QWidget* focused = window_->focusWidget();
+        ASSERT_NE(focused, nullptr);
+        QTest::keyClick(focused, static_cast<Qt::Key>(key), modifiers);
+        QApplication::processEvents();
+    }
+
+    static QColor GroundOf(const GridView& view, int row, int column) {
+        const QRect cell = view.CellRect(row, column);
+        return QColor(view.viewport()->grab().toImage().pixel(cell.center().x(), cell.top() + 2));
+    }
+
+    // Lets `user` look at the dialog that `button` opens, which is closed behind him.
+    void InDialog(const char* button, const std::function<void(QDialog&)>& user) {
+        bool seen = false;
+        QTimer::singleShot(0, window_.get(), [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            seen = true;
+            user(*dialog);
+            dialog->reject();
+        });
+        Find<QPushButton>(button)->click();
+        EXPECT_TRUE(seen) << button;
+    }
+
+    QApplication& application_ = TheApplication();
+    TestFolder folder_;
+    DataFiles files_{folder_.Path()};
+    QtUser user_;
+    SelectionDesk desk_{user_, files_, NamedFolder(folder_.Path())};
+    SelectionContext context_{files_, desk_.shared, desk_.captions, user_, desk_.selection};
+    SelectionOpener opener_{context_, desk_.window};
+    PlannerForm planner_{context_, desk_.window, opener_};
+    VentZeigControls& c_ = desk_.window.controls;
+    std::unique_ptr<SelectionWindow> window_;
+};
+
+// 12 kW: the second series ends at 11 kW, the tenth at .62 kW; unit 21 of the third has 12.8 kW,
+// unit 26 18.5 kW, unit 30 24.7 kW.
+TEST_F(SelectionWindowTest, ListsShowWhatMeetsTheDuty) {
+    Act([](VentZeigForm& form) { form.UserPickCell("KatalogSpread", 3, 3); });
+    const struct {
+        const char* grid;
+        int row, column;
+        LookColour shown;
+    } cells[] = {{"KatalogSpread", 1, 1, LookColour::SoftGreen},
+                 {"KatalogSpread", 2, 1, LookColour::SoftRed},
+                 {"KatalogSpread", 2, 2, LookColour::SoftYellow},
+                 {"KatalogSpread", 3, 2, LookColour::SoftGreen},
+                 {"KatalogSpread", 1, 3, LookColour::Stripe},
+                 {"Venttab", 21, kUnitFigure, LookColour::SoftGreen},
+                 {"Venttab", 26, kUnitFigure, LookColour::SoftYellow},
+                 {"Venttab", 25, kUnitName, LookColour::Stripe},
+                 {"Venttab", 30, kUnitFigure, LookColour::SoftRed}};
+    for (const auto& cell : cells) {
+        EXPECT_EQ(GroundOf(*Find<GridView>(cell.grid), cell.row, cell.column).name(),
+                  ColourOf(cell.shown).name())
+            << cell.grid << ' ' << cell.row << ' ' << cell.column;
+    }
+    EXPECT_EQ(Find<GridView>("KatalogSpread")->currentIndex().row(), 2);
+    EXPECT_EQ(Find<GridView>("Venttab")->currentIndex().row(), 20) << "the unit that does it";
+}
+
+TEST_F(SelectionWindowTest, TakesAUnitByKeysAlone) {
+    auto* units = Find<GridView>("Venttab");
+    auto* box = Find<QLineEdit>("venttabText");
+    auto* tip = Find<QLabel>("AssitPN");
+    auto* series = Find<GridView>("KatalogSpread");
+    series->setFocus();
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_FALSE(tip->isVisible());
+    Press(Qt::Key_I);
+    EXPECT_TRUE(tip->isVisible());
+    EXPECT_EQ(tip->text(), ShownText(c_.AssitPN.text));
+    EXPECT_TRUE(tip->text().contains(QStringLiteral("ULMAK"))) << tip->text().toStdString();
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(tip->isVisible());
+    EXPECT_TRUE(units->isVisible());
+    EXPECT_FALSE(box->isVisible());
+    units->setFocus();
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(box->geometry(), units->CellRect(c_.Venttab.row, c_.Venttab.column));
+    EXPECT_EQ(box->text(), ShownText(c_.venttabText.text));
+    EXPECT_EQ(window_->focusWidget(), box);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(window_->focusWidget(), units);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(units->isVisible()) << "the list of units closes behind the choice";
+    EXPECT_EQ(Find<QLabel>("ventlabel")->text(), QStringLiteral("AW 21 7 mm"));
+    EXPECT_EQ(Find<QLabel>("R_Label")->text(), ShownText(c_.R_Label.text));
+}
+
+TEST_F(SelectionWindowTest, TheTabKeyReachesAllThatTakesInput) {
+    Act([](VentZeigForm& form) { form.UserPickCell("KatalogSpread", 3, 3); });
+    std::set<std::string> reached;
+    for (int i = 0; i < 100; ++i) {
+        const QWidget* focused = window_->focusWidget();
+        ASSERT_NE(focused, nullptr);
+        reached.insert(focused->objectName().toStdString());
+        for (const QWidget* in = focused; in != window_.get(); in = in->parentWidget()) {
+            const auto* area = qobject_cast<const QScrollArea*>(in);
+            if (!area) continue;
+            const QRect place(focused->mapTo(area->viewport(), QPoint()), focused->size());
+            EXPECT_TRUE(area->viewport()->rect().contains(place.center()))
+                << focused->objectName().toStdString() << " has the keys and is not to be seen";
+        }
+        Press(Qt::Key_Tab);
+    }
+    for (const QWidget* widget : window_->findChildren<QWidget*>()) {
+        const bool takes = widget->isVisible() && widget->isEnabled() &&
+                           (widget->focusPolicy() & Qt::TabFocus) != 0;
+        const std::string name = widget->objectName().toStdString();
+        if (!takes || name.starts_with("qt_")) continue;
+        EXPECT_TRUE(reached.contains(name)) << name;
+        QAccessibleInterface* spoken =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        ASSERT_NE(spoken, nullptr);
+        EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << name;
+    }
+}
+
+TEST_F(SelectionWindowTest, SpeaksTheInputsAndTheFigures) {
+    planner_.NoteAirFlow(4000);
+    window_->Refresh();
+    const struct {
+        const char *control, *name, *value;
+    } spoken[] = {{"Capacity", "Refrigerating Capacity kW", "12"},
+                  {"AirFlow", "Volume Flow", "4000 m³/h"},
+                  {"Label3", "Evaporation to", "-10 °C"},
+                  {"Hours", "Operating Hours h/a", "5000"}};
+    for (const auto& one : spoken) {
+        QAccessibleInterface* reader =
+            QAccessible::queryAccessibleInterface(Find<QWidget>(one.control));
+        ASSERT_NE(reader, nullptr);
+        EXPECT_EQ(reader->text(QAccessible::Name).toStdString(), one.name);
+        EXPECT_EQ(reader->text(QAccessible::Value).toStdString(), one.value) << one.control;
+    }
+    const auto kind = QAccessible::queryAccessibleInterface(Find<QWidget>("KindBox"));
+    EXPECT_EQ(kind->text(QAccessible::Description), QStringLiteral("Component"));
+    EXPECT_EQ(kind->text(QAccessible::Value), QStringLiteral("600 Air Coolers"));
+    EXPECT_TRUE(Find<QLabel>("AirFlow")->isVisible());
+    planner_.NoteAirFlow(0);
+    window_->Refresh();
+    EXPECT_FALSE(Find<QLabel>("AirFlow")->isVisible());
+}
+
+TEST_F(SelectionWindowTest, ComparesAndPlots) {
+    Act([](VentZeigForm& form) { form.UserPickCell("KatalogSpread", 3, 3); });
+    for (const int row : {21, 22}) {
+        Act([row](VentZeigForm& form) { form.UserPickCell("Venttab", row, 1); });
+        InDialog("Compare", [&](QDialog& dialog) {
+            auto* table = dialog.findChild<QTableView*>();
+            ASSERT_NE(table, nullptr);
+            const QAbstractItemModel& model = *table->model();
+            EXPECT_EQ(model.columnCount(), row - 19);
+            EXPECT_EQ(model.headerData(row - 20, Qt::Horizontal).toString().toStdString(),
+                      "AW " + std::to_string(row) + " 7 mm");
+        });
+    }
+    InDialog("Plot", [](QDialog& dialog) {
+        bool told = false;
+        for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+            told = told || widget->accessibleDescription().contains(
+                               QStringLiteral("AW 22 7 mm: 13.8 kW *"));
+        }
+        EXPECT_TRUE(told) << "the chosen unit";
+    });
+}
+
+}  // namespace
+}  // namespace zandrell
