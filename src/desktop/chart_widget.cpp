@@ -89,9 +89,7 @@ void ChartWidget::Sync() {
         update();
     } else if (resized || picture_.Revision() != form_.chart.picture.Revision()) {
         view_.reset();
-        picture_.Render(View(), devicePixelRatioF());
-        shown_overlay_ = WantedOverlay();
-        shown_frames_ = FramesOfForm();
+        stale_ = true;
         update();
     } else {
         SyncOverlay();
@@ -99,6 +97,14 @@ void ChartWidget::Sync() {
     }
     SyncPointer();
     if (QAccessible::isActive()) TellReaders();
+}
+
+void ChartWidget::PaintAnew() {
+    view_.reset();
+    picture_.Render(View(), devicePixelRatioF());
+    shown_overlay_ = WantedOverlay();
+    shown_frames_ = FramesOfForm();
+    stale_ = false;
 }
 
 void ChartWidget::TellReaders() {
@@ -178,12 +184,9 @@ void ChartWidget::SyncPointer() {
 }
 
 void ChartWidget::paintEvent(QPaintEvent* event) {
-    // The window has come to a screen of another density.
-    if (!picture_.IsOfDensity(devicePixelRatioF())) {
-        view_.reset();
-        picture_.Render(View(), devicePixelRatioF());
-        shown_overlay_ = WantedOverlay();
-    }
+    // Only what is seen is painted: while a window is laid out or resized, sizes and charts come
+    // and go between two paints. A window may also have come to a screen of another density.
+    if (stale_ || !picture_.IsOfDensity(devicePixelRatioF())) PaintAnew();
     QPainter painter(this);
     painter.setClipRegion(event->region());
     const double density = devicePixelRatioF();

@@ -56,6 +56,7 @@ class ChartWidget : public QWidget {
     const ChartView& View() const;
     OverlayDrawing WantedOverlay() const;
     void PaintFrames(QPainter& painter) const;
+    void PaintAnew();
     void SyncOverlay();
     void SyncFrames();
     void SyncPointer();
@@ -68,7 +69,8 @@ class ChartWidget : public QWidget {
 
     MainForm& form_;
     KeptPicture picture_;
-    QTimer refine_;  // runs while a moved picture stands for the one to be painted
+    bool stale_ = true;  // the kept picture is not of the chart and size of now
+    QTimer refine_;      // runs while a moved picture stands for the one to be painted
     mutable std::optional<ChartView> view_;  // in pixels of the screen
     OverlayDrawing shown_overlay_;
     Frames shown_frames_;

@@ -10,6 +10,7 @@
 namespace zandrell {
 namespace {
 
+constexpr int kRoomStep = 256;  // pixels
 constexpr double kLogoOpacity = 0.55, kLogoTextOpacity = 0.75;
 
 // The logo is drawn for white paper; on a dark ground only its shape is kept.
@@ -24,9 +25,7 @@ QPixmap InOneColour(QPixmap picture, const QColor& ink) {
 }  // namespace
 
 void KeptPicture::Render(const ChartView& view, double density) {
-    const QSize size = view.Target().size().toSize();
-    // A picture of the right size is painted over: fresh memory costs more than the painting.
-    if (image_.size() != size) image_ = QImage(size, QImage::Format_RGB32);
+    MakeRoom(view.Target().size().toSize());
     image_.setDevicePixelRatio(1);
     QPainter painter(&image_);
     texts_ = PaintPicture(painter, form_.chart.picture, view);
@@ -35,6 +34,23 @@ void KeptPicture::Render(const ChartView& view, double density) {
     image_.setDevicePixelRatio(density);
     scale_ = form_.chart.scale;
     revision_ = form_.chart.picture.Revision();
+}
+
+// A picture is painted over the last one: fresh memory costs as much as the painting. So that it
+// lasts while the edge of a window is dragged, the room is larger than the picture.
+void KeptPicture::MakeRoom(QSize size) {
+    if (image_.size() == size) return;
+    const auto grown = [](int side) { return (side / kRoomStep + 1) * kRoomStep; };
+    const QSize wanted(grown(size.width()), grown(size.height()));
+    const bool holds = room_.width() >= size.width() && room_.height() >= size.height();
+    const bool wasteful = room_.sizeInBytes() / 2 > qsizetype{4} * wanted.width() * wanted.height();
+    image_ = QImage();  // before the room that it lies in
+    if (!holds || wasteful) {
+        room_ = QImage();
+        room_ = QImage(wanted, QImage::Format_RGB32);
+    }
+    image_ = QImage(room_.bits(), size.width(), size.height(), room_.bytesPerLine(),
+                    QImage::Format_RGB32);
 }
 
 bool KeptPicture::HasSizeOf(const ChartView& view) const {

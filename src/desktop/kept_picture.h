@@ -35,12 +35,14 @@ class KeptPicture {
     void DrawMoved(QPainter& painter, const ChartView& view) const;
 
   private:
+    void MakeRoom(QSize size);
     void PaintLogo(QPainter& painter, const ChartView& view) const;
     void PaintVersion(QPainter& painter, const ChartView& view, const QColor& ink) const;
     QTransform ToNow(const ChartView& view) const;
 
     const MainForm& form_;
     Pictures& pictures_;
+    QImage room_;  // what `image_` lies in the corner of
     QImage image_;
     ChartScale scale_;  // that of the image
     std::optional<TextLayout> texts_;

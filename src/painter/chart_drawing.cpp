@@ -68,7 +68,7 @@ void PaintLines(QPainter& painter, const OverlayDrawing& drawing, const ChartVie
                 int ground) {
     const QColor rim = ShadeFor(ground, StrokeRole::Ground, ground).colour;
     const auto pen = [&view](const QColor& colour, double width) {
-        return QPen(colour, width * view.StrokeUnit(), Qt::SolidLine, Qt::RoundCap);
+        return QPen(colour, width * view.StrokeUnit(), Qt::SolidLine, Qt::FlatCap);
     };
     for (const auto& line : drawing.lines) {
         QColor halo = rim;

@@ -1,11 +1,13 @@
 #include "painter/qt_canvas.h"
 
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 
 namespace zandrell {
@@ -13,6 +15,8 @@ namespace {
 
 constexpr double kDotShare = 0.28;       // of the area of the comfort field that its dots cover
 constexpr qsizetype kPointsOfCurve = 4;  // fewer are a line with bends
+constexpr double kChordError = 0.05;     // pixels between a curve and its chords
+constexpr double kMostChords = 64;       // of one cubic curve
 constexpr double kGrains = 8;            // of a stroke; finer places of dots are not seen
 constexpr double kRowUnits = 0.7;        // canvas units between two rows of these dots
 
@@ -56,6 +60,76 @@ void PaintRim(QPainter& painter, QPointF baseline, const QString& text, const QC
     for (const QPointF& aside : around) painter.drawText(baseline + aside, text);
 }
 
+double Length(QPointF chord) { return std::hypot(chord.x(), chord.y()); }
+
+QPointF DirectionAt(const QPolygonF& points, qsizetype i) {
+    const QPointF before = points[i] - points[std::max<qsizetype>(i - 1, 0)];
+    const QPointF after = points[std::min(i + 1, points.size() - 1)] - points[i];
+    const double a = Length(before), b = Length(after);
+    if (a == 0 || b == 0) return (before + after) / std::max(a + b, 1e-9);
+    return (before * (b / a) + after * (a / b)) / (a + b);
+}
+
+// A cubic curve with its two control points.
+struct Bend {
+    QPointF from, lead_out, lead_in, to;
+};
+
+// Appends as many chords as keep within kChordError of the curve: by a bound of its second
+// derivative, at most 6 times the larger of the second differences.
+void AppendChords(const Bend& bend, QPolygonF& points) {
+    const double bow = std::max(Length(bend.from - 2 * bend.lead_out + bend.lead_in),
+                                Length(bend.lead_out - 2 * bend.lead_in + bend.to));
+    const double wanted = std::ceil(std::sqrt(0.75 * bow / kChordError));
+    const int chords = static_cast<int>(std::clamp(wanted, 1.0, kMostChords));
+    for (int k = 1; k < chords; ++k) {
+        const double t = static_cast<double>(k) / chords, u = 1 - t;
+        points << u * u * u * bend.from + 3 * u * u * t * bend.lead_out +
+                      3 * u * t * t * bend.lead_in + t * t * t * bend.to;
+    }
+    points << bend.to;
+}
+
+// The stroke of a chain of chords that bend little, as one filled shape: the toolkit's own stroker
+// shifts and joins each chord by itself, which takes as long as all else of a picture.
+void PaintRibbon(QPainter& painter, const QPolygonF& chain) {
+    const double half = painter.pen().widthF() / 2;
+    const auto count = chain.size();
+    QPolygonF outline(2 * count);
+    for (qsizetype i = 0; i < count; ++i) {
+        const QPointF before = i > 0 ? chain[i] - chain[i - 1] : chain[1] - chain[0];
+        const QPointF after = i + 1 < count ? chain[i + 1] - chain[i] : before;
+        const double a = Length(before), b = Length(after);
+        QPointF along = (a > 0 ? before / a : QPointF()) + (b > 0 ? after / b : QPointF());
+        along /= std::max(Length(along), 1e-9);
+        const QPointF aside = half * QPointF(-along.y(), along.x());
+        outline[i] = chain[i] + aside;
+        outline[2 * count - 1 - i] = chain[i] - aside;
+    }
+    const QBrush brush(painter.pen().color());
+    QPainterPath path;
+    path.addPolygon(outline);
+    path.setFillRule(Qt::WindingFill);
+    painter.fillPath(path, brush);
+}
+
+// An opaque image as a whole, its first row copied to the others: that takes half as long as the
+// toolkit's fill, which reads all memory before it overwrites it. False: nothing was filled.
+bool FillWholeImage(const QPainter& painter, const QRectF& target, const QColor& colour) {
+    if (!DrawsPixels(painter) || painter.device()->devType() != QInternal::Image) return false;
+    auto* image = static_cast<QImage*>(painter.device());
+    const bool whole = target == QRectF(QPointF(), image->size()) &&
+                       painter.combinedTransform().isIdentity() && !painter.hasClipping();
+    if (!whole || image->format() != QImage::Format_RGB32 || !image->isDetached()) return false;
+    auto* const first = reinterpret_cast<QRgb*>(image->scanLine(0));
+    std::fill_n(first, image->width(), colour.rgb());
+    const auto bytes = static_cast<std::size_t>(image->width()) * sizeof(QRgb);
+    for (int row = 1; row < image->height(); ++row) {
+        std::memcpy(image->scanLine(row), first, bytes);
+    }
+    return true;
+}
+
 }  // namespace
 
 void PaintHaloedText(QPainter& painter, QPointF corner, double box_height, const QString& text,
@@ -77,7 +151,10 @@ QtCanvas::QtCanvas(QPainter& painter, const ChartView& view)
 void QtCanvas::Clear(int background, int foreground) {
     ground_ = background;
     foreground_ = foreground;
-    painter_.fillRect(view_.Target(), ShadeFor(background, StrokeRole::Ground, background).colour);
+    const QColor colour = ShadeFor(background, StrokeRole::Ground, background).colour;
+    if (!FillWholeImage(painter_, view_.Target(), colour)) {
+        painter_.fillRect(view_.Target(), colour);
+    }
 }
 
 void QtCanvas::Line(double x1, double y1, double x2, double y2, int colour) {
@@ -127,23 +204,27 @@ void QtCanvas::DrawCurve() const {
         painter_.drawPolyline(polyline_);
         return;
     }
-    const auto length = [](QPointF chord) { return std::hypot(chord.x(), chord.y()); };
-    const auto direction = [&](qsizetype i) {
-        const QPointF before = polyline_[i] - polyline_[std::max<qsizetype>(i - 1, 0)];
-        const QPointF after = polyline_[std::min(i + 1, count - 1)] - polyline_[i];
-        const double a = length(before), b = length(after);
-        if (a == 0 || b == 0) return (before + after) / std::max(a + b, 1e-9);
-        return (before * (b / a) + after * (a / b)) / (a + b);
-    };
-    QPainterPath curve(polyline_[0]);
-    QPointF start = direction(0);
+    const bool flat = DrawsPixels(painter_);
+    QPainterPath path(polyline_[0]);
+    QPolygonF chords{polyline_[0]};
+    QPointF start = DirectionAt(polyline_, 0);
     for (qsizetype i = 1; i < count; ++i) {
-        const QPointF end = direction(i);
-        const double third = length(polyline_[i] - polyline_[i - 1]) / 3;
-        curve.cubicTo(polyline_[i - 1] + start * third, polyline_[i] - end * third, polyline_[i]);
+        const QPointF end = DirectionAt(polyline_, i);
+        const double third = Length(polyline_[i] - polyline_[i - 1]) / 3;
+        const Bend bend{polyline_[i - 1], polyline_[i - 1] + start * third,
+                        polyline_[i] - end * third, polyline_[i]};
+        if (flat) {
+            AppendChords(bend, chords);
+        } else {
+            path.cubicTo(bend.lead_out, bend.lead_in, bend.to);
+        }
         start = end;
     }
-    painter_.strokePath(curve, painter_.pen());
+    if (flat) {
+        PaintRibbon(painter_, chords);
+    } else {
+        painter_.strokePath(path, painter_.pen());
+    }
 }
 
 // Whole pixels, so that a grid is crisp and of one strength all over.
