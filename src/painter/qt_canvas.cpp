@@ -120,7 +120,9 @@ bool FillWholeImage(const QPainter& painter, const QRectF& target, const QColor&
     auto* image = static_cast<QImage*>(painter.device());
     const bool whole = target == QRectF(QPointF(), image->size()) &&
                        painter.combinedTransform().isIdentity() && !painter.hasClipping();
-    if (!whole || image->format() != QImage::Format_RGB32 || !image->isDetached()) return false;
+    if (!whole || image->pixelFormat() != QImage::toPixelFormat(QImage::Format_RGB32) ||
+        !image->isDetached())
+        return false;
     auto* const first = reinterpret_cast<QRgb*>(image->scanLine(0));
     std::fill_n(first, image->width(), colour.rgb());
     const auto bytes = static_cast<std::size_t>(image->width()) * sizeof(QRgb);
