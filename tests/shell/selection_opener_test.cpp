@@ -218,7 +218,6 @@ TEST_F(OpenerTest, PlannerWritesTheListHeSees) {
     file = (folder / "list.csv.d").string();
     std::filesystem::create_directories(file + "/inside");
     planner.UserClick("Csv");
-    EXPECT_NE(planner.Message.text.find(file + " "), 0U);
     EXPECT_NE(planner.Message.text, file);
     EXPECT_TRUE(std::filesystem::exists(file + "/inside"));
     EXPECT_EQ(folder.Read("list.csv"), old);
