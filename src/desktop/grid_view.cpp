@@ -69,6 +69,8 @@ GridView::GridView(Grid& grid, FormMirror& mirror, QWidget* parent)
         mirror_.Perform([&] { mirror_.Window().UserSort(grid_.name, column); });
     });
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { FollowScrolling(); });
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this,
+            [this] { follows_choice_ = false; });
     mirror_.AddWriter([this] { MirrorGrid(); });
 }
 
@@ -98,12 +100,22 @@ void GridView::MirrorGrid() {
         const int place = verticalScrollBar()->value();
         setCurrentIndex(wanted);
         verticalScrollBar()->setValue(place);
-        // The unit that a fill recommends is brought into view.
-        if (refilled && place == 0) scrollTo(wanted, PositionAtCenter);
+    }
+    if (refilled && verticalScrollBar()->value() == 0) {
+        follows_choice_ = true;
+        ShowChoice();
     }
     if (accessibleDescription() != ShownText(grid_.tool_tip)) {
         setAccessibleDescription(ShownText(grid_.tool_tip));
     }
+}
+
+// The unit that a fill recommends is brought into view; a list that opens just now gets its height
+// later.
+void GridView::ShowChoice() {
+    if (!follows_choice_ || !currentIndex().isValid()) return;
+    const int place = visualRect(currentIndex()).center().y();
+    if (place < 0 || place >= viewport()->height()) scrollTo(currentIndex(), PositionAtCenter);
 }
 
 QRect GridView::CellRect(int row, int column) const {
@@ -192,6 +204,7 @@ void GridView::MoveCurrent(int by) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+    follows_choice_ = false;
     const int key = event->key();
     const bool arrow = key == Qt::Key_Up || key == Qt::Key_Down;
     const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
@@ -248,6 +261,7 @@ void GridView::wheelEvent(QWheelEvent* event) {
     if (event->modifiers() != Qt::NoModifier || event->angleDelta().y() == 0) {
         return QTableView::wheelEvent(event);
     }
+    follows_choice_ = false;
     wheel_ += event->angleDelta().y();
     event->accept();
     while (std::abs(wheel_) >= kWheelStep) {
@@ -261,6 +275,7 @@ void GridView::wheelEvent(QWheelEvent* event) {
 void GridView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
     FitColumns();
+    ShowChoice();
 }
 
 // The scroll bar and the page keys scroll by themselves; the form only takes note.

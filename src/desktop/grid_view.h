@@ -41,6 +41,7 @@ class GridView : public QTableView {
     void TakeCurrent();
     void MoveCurrent(int by);
     void FollowScrolling();
+    void ShowChoice();
 
     Grid& grid_;
     FormMirror& mirror_;
@@ -48,8 +49,9 @@ class GridView : public QTableView {
     QTimer hover_;
     int pointed_row_ = 0;  // of the grid, until the pause is over
     int shown_top_ = 1;
-    std::vector<int> needed_;  // pixels a column; 0: hidden
-    int wheel_ = 0;            // eighths of a degree that made no step yet
+    std::vector<int> needed_;      // pixels a column; 0: hidden
+    bool follows_choice_ = false;  // since a fill, until the user moves the list
+    int wheel_ = 0;                // eighths of a degree that made no step yet
 };
 
 }  // namespace zandrell

@@ -128,7 +128,12 @@ QWidget* SelectionWindow::MakeSearch() {
     makers->setFixedHeight(Scaled(*this, 40));
     makers->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     makers->setAccessibleName(ShownText(desk_.captions[Caption::Manufacturer]));
-    mirror_.Bind(makers, c.HerstellList);
+    // Keys that only pass through the makers must not search for one.
+    mirror_.Bind(makers, c.HerstellList, ListChoice::Activation);
+    connect(makers, &QListWidget::itemClicked, this, [this, makers, &c] {
+        mirror_.Perform(
+            [&] { desk_.window.UserSelect(c.HerstellList.name, makers->currentRow()); });
+    });
     layout->addWidget(makers, 1, 0, 1, 4);
     layout->setColumnStretch(1, 1);
     return row;

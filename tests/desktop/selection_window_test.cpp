@@ -127,6 +127,7 @@ TEST_F(SelectionWindowTest, TakesAUnitByKeysAlone) {
     Press(Qt::Key_Return);
     EXPECT_FALSE(tip->isVisible());
     EXPECT_TRUE(units->isVisible());
+    EXPECT_TRUE(units->viewport()->rect().contains(units->CellRect(21, 1))) << "what does the duty";
     EXPECT_FALSE(box->isVisible());
     units->setFocus();
     Press(Qt::Key_Return);
@@ -160,6 +161,7 @@ TEST_F(SelectionWindowTest, TheTabKeyReachesAllThatTakesInput) {
         }
         Press(Qt::Key_Tab);
     }
+    EXPECT_EQ(c_.KatalogSpread.RowCount(), 11) << "passing the makers searches for none";
     for (const QWidget* widget : window_->findChildren<QWidget*>()) {
         const bool takes = widget->isVisible() && widget->isEnabled() &&
                            (widget->focusPolicy() & Qt::TabFocus) != 0;
@@ -171,6 +173,20 @@ TEST_F(SelectionWindowTest, TheTabKeyReachesAllThatTakesInput) {
         ASSERT_NE(spoken, nullptr);
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << name;
     }
+}
+
+TEST_F(SelectionWindowTest, AMakerIsChosenByReturnOrAClick) {
+    auto* makers = Find<QListWidget>("HerstellList");
+    makers->setFocus();
+    makers->setCurrentRow(1);
+    EXPECT_EQ(c_.KatalogSpread.RowCount(), 11);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(c_.KatalogSpread.RowCount(), 4);
+    EXPECT_EQ(c_.KatalogSpread.Text(1, kSeriesTextColumn), "Eskedal Nordvind");
+    QTest::mouseClick(makers->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      makers->visualItemRect(makers->item(0)).center());
+    EXPECT_EQ(c_.KatalogSpread.RowCount(), 5);
+    EXPECT_EQ(Find<GridView>("KatalogSpread")->model()->rowCount(), 4);
 }
 
 TEST_F(SelectionWindowTest, SpeaksTheInputsAndTheFigures) {

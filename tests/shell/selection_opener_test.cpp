@@ -138,9 +138,13 @@ TEST_F(OpenerTest, TakesAUnitAndItsNeighbours) {
 TEST_F(OpenerTest, AnswersTheOtherRequests) {
     ASSERT_FALSE(opener.Open());
     const double plain = desk.selection.inputs.MassenStrom;
+    const double swept = ParsedNumber(c.Label26.text);
     desk.window.UserCheck("EcoCheck", true);
     EXPECT_EQ(opener.React(), SelectionEnd::None);
     EXPECT_NE(desk.selection.inputs.MassenStrom, plain);
+    EXPECT_NEAR(ParsedNumber(c.Label26.text) / swept, desk.selection.inputs.MassenStrom / plain,
+                5e-3)
+        << "the swept volume follows";
     EXPECT_FALSE(desk.window.closed);
     desk.window.UserClick("VentEinstell");
     opener.React();
@@ -193,6 +197,41 @@ TEST_F(OpenerTest, PlannerHidesSortsAndCompares) {
     ASSERT_EQ(comparison.ColumnCount(), 1 + PlannerLists::kMostCompared);
     EXPECT_EQ(comparison.Text(0, 1), c.Venttab.Text(2, kUnitName)) << "the first one has gone";
     EXPECT_EQ(comparison.Text(1, 4), c.Venttab.Text(5, kUnitFigure));
+}
+
+TEST_F(OpenerTest, PlannerWritesTheListHeSees) {
+    PlannerForm planner(context, desk.window, opener);
+    planner.SetCaptions();
+    planner.Start({});
+    const std::string old = "kept";
+    folder.Write("list.csv", old);
+    std::string file;
+    planner.ask_file = [&file] { return file; };
+    planner.UserClick("Csv");
+    EXPECT_EQ(planner.Message.text, "") << "nobody named a file";
+    file = (folder / "nowhere" / "list.csv").string();
+    planner.UserClick("Csv");
+    EXPECT_NE(planner.Message.text.find(file), std::string::npos);
+    EXPECT_NE(planner.Message.text.find("No such file"), std::string::npos) << planner.Message.text;
+    EXPECT_FALSE(std::filesystem::exists(file));
+    // A folder of that name can not be replaced by a file.
+    file = (folder / "list.csv.d").string();
+    std::filesystem::create_directories(file + "/inside");
+    planner.UserClick("Csv");
+    EXPECT_NE(planner.Message.text, file);
+    EXPECT_TRUE(std::filesystem::exists(file + "/inside"));
+    EXPECT_EQ(folder.Read("list.csv"), old);
+    file = (folder / "list.csv").string();
+    planner.UserClick("Csv");
+    EXPECT_EQ(planner.Message.text, file);
+    const std::string series = folder.Read("list.csv");
+    EXPECT_NE(series.find("Ulmrain AW Würfelkühler"), std::string::npos) << series;
+    desk.window.UserPickCell("KatalogSpread", 3, 3);
+    planner.Follow();
+    planner.UserClick("Csv");
+    const std::string units = folder.Read("list.csv");
+    EXPECT_NE(units.find("AW 21 7 mm"), std::string::npos) << "the units of the open series";
+    EXPECT_EQ(units.find("Ulmrain"), std::string::npos);
 }
 
 TEST_F(OpenerTest, PlannerRefusesFiguresThatAreNone) {
