@@ -7,10 +7,10 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QString>
-#include <QSvgGenerator>
 
 #include "painter/chart_drawing.h"
 #include "painter/output_file.h"
+#include "painter/svg_engine.h"
 
 namespace zandrell {
 namespace {
@@ -55,18 +55,11 @@ QImage ChartImage(const RecordingCanvas& picture, const Overlay& overlay, int wi
 }
 
 QByteArray ChartSvg(const RecordingCanvas& picture, const Overlay& overlay, int width, int height) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setSize(QSize(width, height));
-    generator.setViewBox(QRect(0, 0, width, height));
-    generator.setResolution(kPixelsPerInch);
-    generator.setTitle(QStringLiteral("Zandrell"));
-    QPainter painter(&generator);
+    SvgSheet sheet(QSize(width, height));
+    QPainter painter(&sheet);
     PaintChart(painter, picture, overlay, width, height);
     painter.end();
-    return bytes;
+    return sheet.Document();
 }
 
 QByteArray ChartPdf(const RecordingCanvas& picture, const Overlay& overlay, int width, int height) {

@@ -10,6 +10,8 @@
 #include <cstring>
 #include <numbers>
 
+#include "painter/svg_engine.h"
+
 namespace zandrell {
 namespace {
 
@@ -17,6 +19,7 @@ constexpr double kDotShare = 0.28;       // of the area of the comfort field tha
 constexpr qsizetype kPointsOfCurve = 4;  // fewer are a line with bends
 constexpr double kChordError = 0.05;     // pixels between a curve and its chords
 constexpr double kMostChords = 64;       // of one cubic curve
+constexpr double kEvenWithin = 0.05;     // pixels; dots this near to even steps are a row
 constexpr double kGrains = 8;            // of a stroke; finer places of dots are not seen
 constexpr double kRowUnits = 0.7;        // canvas units between two rows of these dots
 
@@ -35,6 +38,18 @@ QColor Mixed(const QColor& colour, const QColor& ground) {
                             mix(colour.blueF(), ground.blueF()));
 }
 
+std::array<QPointF, 8> Around(double rim) {
+    const double diagonal = rim * std::numbers::sqrt2 / 2;
+    return {{{rim, 0},
+             {-rim, 0},
+             {0, rim},
+             {0, -rim},
+             {diagonal, diagonal},
+             {diagonal, -diagonal},
+             {-diagonal, diagonal},
+             {-diagonal, -diagonal}}};
+}
+
 // On pixels the text itself is drawn all around: its glyphs are kept ready, stroking their outlines
 // would cost ten times as much. Elsewhere one outline is better than eight texts on top of each
 // other.
@@ -48,16 +63,7 @@ void PaintRim(QPainter& painter, QPointF baseline, const QString& text, const QC
         return;
     }
     painter.setPen(ground);
-    const double diagonal = rim * std::numbers::sqrt2 / 2;
-    const std::array<QPointF, 8> around = {{{rim, 0},
-                                            {-rim, 0},
-                                            {0, rim},
-                                            {0, -rim},
-                                            {diagonal, diagonal},
-                                            {diagonal, -diagonal},
-                                            {-diagonal, diagonal},
-                                            {-diagonal, -diagonal}}};
-    for (const QPointF& aside : around) painter.drawText(baseline + aside, text);
+    for (const QPointF& aside : Around(rim)) painter.drawText(baseline + aside, text);
 }
 
 double Length(QPointF chord) { return std::hypot(chord.x(), chord.y()); }
@@ -132,12 +138,62 @@ bool FillWholeImage(const QPainter& painter, const QRectF& target, const QColor&
     return true;
 }
 
+// A stroke for each dot. Round numbers are shorter and compress well.
+void DrawDashes(QPainter& painter, const std::vector<QPointF>& dots, const QPen& pen,
+                double grain) {
+    const auto round = [grain](double place) { return std::round(place / grain) * grain; };
+    const double half = pen.widthF() / 2;
+    QPainterPath strokes;
+    for (const QPointF& dot : dots) {
+        strokes.moveTo(round(dot.x() - half), round(dot.y()));
+        strokes.lineTo(round(dot.x() + half), round(dot.y()));
+    }
+    painter.strokePath(strokes, pen);
+}
+
+// How many dots from `first` on lie at even steps on a line along one axis.
+std::size_t RowLength(const std::vector<QPointF>& dots, std::size_t first) {
+    if (first + 1 >= dots.size()) return 1;
+    const QPointF step = dots[first + 1] - dots[first];
+    const auto along_axis = [](QPointF way) {
+        return std::min(std::abs(way.x()), std::abs(way.y())) < kEvenWithin;
+    };
+    if (!along_axis(step)) return 1;
+    std::size_t end = first + 2;
+    while (end < dots.size()) {
+        const QPointF even = dots[first] + static_cast<double>(end - first) * step;
+        if (Length(dots[end] - even) > kEvenWithin) break;
+        ++end;
+    }
+    return end - first;
+}
+
+// A dashed line for each row of dots: a tenth of what a stroke for each dot takes.
+void DrawDotRows(QPainter& painter, const std::vector<QPointF>& dots, QPen pen) {
+    const double side = pen.widthF();
+    for (std::size_t i = 0; i < dots.size();) {
+        const std::size_t count = RowLength(dots, i);
+        const QPointF way = dots[i + count - 1] - dots[i];
+        const double step = count > 1 ? Length(way) / static_cast<double>(count - 1) : 0;
+        pen.setStyle(Qt::SolidLine);
+        if (step > side) pen.setDashPattern({1, step / side - 1});
+        const QPointF ahead = step > 0 ? way / Length(way) * (side / 2) : QPointF(side / 2, 0);
+        painter.setPen(pen);
+        painter.drawLine(dots[i] - ahead, dots[i + count - 1] + ahead);
+        i += count;
+    }
+}
+
 }  // namespace
 
 void PaintHaloedText(QPainter& painter, QPointF corner, double box_height, const QString& text,
                      const QFont& font, const QColor& colour, const QColor& ground, double rim) {
     const QFontMetricsF metrics(font);
     const QPointF baseline(corner.x(), corner.y() + (box_height + metrics.capHeight()) / 2);
+    if (auto* svg = SvgEngine::Of(painter)) {
+        svg->HaloedText(baseline, text, font, colour, ground, Around(rim));
+        return;
+    }
     painter.setFont(font);
     PaintRim(painter, baseline, text, ground, rim);
     painter.setPen(colour);
@@ -262,19 +318,15 @@ void QtCanvas::FlushDots() {
             painter_.fillRect(QRectF(dot.x() - side / 2, dot.y() - side / 2, side, side), colour);
         }
     } else {
-        // Short thick strokes in an opaque mixture: a file would be three times as large with the
-        // outline of each square, which a transparent pen is turned into as well.
-        // Round numbers are shorter and compress well.
-        const double grain = view_.StrokeUnit() / kGrains;
-        const auto round = [grain](double place) { return std::round(place / grain) * grain; };
-        QPainterPath strokes;
-        for (const QPointF& dot : dots_) {
-            strokes.moveTo(round(dot.x() - side / 2), round(dot.y()));
-            strokes.lineTo(round(dot.x() + side / 2), round(dot.y()));
+        // Thick strokes in an opaque mixture: a file would be three times as large with the outline
+        // of each square, which a transparent pen is turned into as well.
+        const QColor ground = ShadeFor(ground_, StrokeRole::Ground, ground_).colour;
+        const QPen pen(Mixed(colour, ground), side, Qt::SolidLine, Qt::FlatCap);
+        if (SvgEngine::Of(painter_)) {
+            DrawDotRows(painter_, dots_, pen);
+        } else {
+            DrawDashes(painter_, dots_, pen, view_.StrokeUnit() / kGrains);
         }
-        painter_.strokePath(
-            strokes, QPen(Mixed(colour, ShadeFor(ground_, StrokeRole::Ground, ground_).colour),
-                          side, Qt::SolidLine, Qt::FlatCap));
     }
     dots_.clear();
 }

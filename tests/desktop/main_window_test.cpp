@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QImage>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSlider>
@@ -183,6 +184,33 @@ TEST_F(MainWindowTest, ScriptRunsThroughADialogAndTakesShots) {
     EXPECT_EQ(QImage(QString::fromStdString(shot)).size(), QSize(1280, 800));
     // 0.0005 + 1.013 (1 - 6.5 / 288)^5.255 = 0.8989, cut to three figures.
     EXPECT_DOUBLE_EQ(form_.chart.settings.pressure_bar, 0.898);
+}
+
+// Pictures of sizes that come and go are never painted; the one that stays is, up to its edges.
+TEST_F(MainWindowTest, AResizedChartIsPaintedInItsLastSize) {
+    ChartWidget& chart = window_->Chart();
+    const auto settled = [this, &chart](QSize size) {
+        window_->resize(1600, 1000);
+        window_->resize(size);
+        for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
+        return chart.grab().toImage();
+    };
+    // Lines of the grid that cross a column near the right edge of the chart.
+    const auto crossings = [](const QImage& image) {
+        int inked = 0;
+        const QRgb ground = image.pixel(1, 1);
+        for (int y = 0; y < image.height(); ++y) {
+            inked += image.pixel(image.width() * 9 / 10, y) != ground;
+        }
+        return inked;
+    };
+    const QImage first = settled({1280, 800});
+    const QImage larger = settled({1420, 870});
+    EXPECT_EQ(larger.size(), chart.size());
+    EXPECT_GT(larger.width(), first.width());
+    EXPECT_GT(crossings(first), 10);
+    EXPECT_NEAR(crossings(larger), crossings(first), 30);  // an unpainted column has all its pixels
+    EXPECT_EQ(settled({1280, 800}), first);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QRegion>
 #include <QSvgRenderer>
+#include <cstdlib>
 #include <functional>
 
 #include "painter/chart_drawing.h"
@@ -57,11 +58,49 @@ class ChartFileTest : public testing::Test {
 };
 
 TEST_F(ChartFileTest, SvgIsReadableAndHoldsTheTextsOnce) {
+    picture_.Text(300, 100, "a<b & \x01");
     const QByteArray svg = Written("chart.svg");
     EXPECT_TRUE(QSvgRenderer(svg).isValid());
     EXPECT_EQ(svg.count("40 kJ/kg"), 1);
     EXPECT_EQ(svg.count("Außenluft"), 1);
     EXPECT_EQ(svg.count("unseen"), 0);
+    EXPECT_EQ(svg.count("a&lt;b &amp;"), 1);
+}
+
+// A drawing shows what the screen shows: curves, rims of texts and the dots of the comfort field,
+// which lie in rows along either axis, and alone.
+TEST_F(ChartFileTest, SvgShowsWhatTheScreenShows) {
+    for (int row = 0; row < 40; ++row) {
+        for (int i = 0; i < 40; ++i) picture_.Dot(1200 + 3 * i, 400 + row, kGrey);
+    }
+    for (int column = 0; column < 40; ++column) {
+        for (int i = 0; i < 40; ++i) picture_.Dot(1500 + 3 * column, 400 + i, kGrey);
+    }
+    picture_.Dot(1700, 450, kGrey);
+    for (int i = 0; i < 60; ++i) picture_.Line(1000, 95 + i / 4.0, 1100, 95 + i / 4.0, kGrey);
+    constexpr int kWidth = 1600, kHeight = 900;
+    const QImage screen = ChartImage(picture_, overlay_, kWidth, kHeight);
+    QImage shown(screen.size(), screen.format());
+    shown.fill(Qt::magenta);
+    QPainter painter(&shown);
+    QSvgRenderer(ChartSvg(picture_, overlay_, kWidth, kHeight)).render(&painter);
+    painter.end();
+    // In boxes of 10 pixels: edges are smoothed a little differently.
+    constexpr int kBox = 10;
+    const auto means = [](const QImage& image) {
+        return image.scaled(kWidth / kBox, kHeight / kBox, Qt::IgnoreAspectRatio,
+                            Qt::SmoothTransformation);
+    };
+    const QImage expected = means(screen), is = means(shown);
+    int unlike = 0, inked = 0;
+    for (int y = 0; y < is.height(); ++y) {
+        for (int x = 0; x < is.width(); ++x) {
+            unlike += std::abs(qGray(is.pixel(x, y)) - qGray(expected.pixel(x, y))) > 12;
+            inked += qGray(expected.pixel(x, y)) < 250;
+        }
+    }
+    EXPECT_GT(inked, 200);
+    EXPECT_EQ(unlike, 0);
 }
 
 TEST_F(ChartFileTest, EachEndingGivesItsKindOfFile) {
