@@ -18,12 +18,15 @@ TEST(EndBySystem, SavesTheInputsAlsoFromWithinADialog) {
             // What the script writes last tells that the program has come so far.
             folder.Write("script.txt", std::string("set Taus 31\n") + dialog + "dump Taus\n");
             const std::string path = "'" + folder.Path().string() + "'";
-            folder.Write("run.sh", "cd " + path + "\n'" ZANDRELL_WINDOW "' --data " + path +
-                                       " --script script.txt >said 2>errors & program=$!\n"
-                                       "for i in $(seq 200); do\n"
-                                       "  grep -q Taus said && break; sleep 0.05\n"
-                                       "done\nkill -" +
-                                       signal + " $program; wait $program\n");
+            std::string run = "cd ";
+            run.append(path).append("\n'" ZANDRELL_WINDOW "' --data ").append(path);
+            run.append(
+                " --script script.txt >said 2>errors & program=$!\n"
+                "for i in $(seq 200); do\n"
+                "  grep -q Taus said && break; sleep 0.05\n"
+                "done\nkill -");
+            run.append(signal).append(" $program; wait $program\n");
+            folder.Write("run.sh", run);
             const int status = std::system(("bash '" + (folder / "run.sh").string() + "'").c_str());
             EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0)
                 << signal << dialog << status;
@@ -37,8 +40,10 @@ TEST(Start, AScriptThatCannotBeReadIsSaid) {
     folder.CopyWholeSet();
     const std::string path = "'" + folder.Path().string() + "'";
     for (const char* script : {".", "missing.txt", "/dev/zero"}) {
-        folder.Write("run.sh", "cd " + path + "\ntimeout 20 '" ZANDRELL_WINDOW "' --data " + path +
-                                   " --script " + script + " 2>errors\n");
+        std::string run = "cd ";
+        run.append(path).append("\ntimeout 20 '" ZANDRELL_WINDOW "' --data ").append(path);
+        run.append(" --script ").append(script).append(" 2>errors\n");
+        folder.Write("run.sh", run);
         const int status = std::system(("bash '" + (folder / "run.sh").string() + "'").c_str());
         EXPECT_EQ(WEXITSTATUS(status), 1) << script;
         const std::string said = std::string("zandrell: ") + script + ": can not be read";

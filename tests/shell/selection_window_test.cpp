@@ -244,9 +244,11 @@ TEST(SelectionWindow, LeavesItsRequestForItsOpener) {
         {"1", "click Command3D3\n", {{"DialogMode", 21}, {"OffeneSerie", 0}, {"FensterZu", 0}}},
     };
     for (const auto& c : cases) {
-        const Json dump = session.RunOnce(start + "share VentAufruf " + c.caller + "\n" +
-                                          open_unit + "share VentAufruf " + c.caller +
-                                          "\nopen\npick Venttab 3 1\n" + c.acts + "dump\n");
+        std::string script = start;
+        script.append("share VentAufruf ").append(c.caller).append("\n").append(open_unit);
+        script.append("share VentAufruf ").append(c.caller);
+        script.append("\nopen\npick Venttab 3 1\n").append(c.acts).append("dump\n");
+        const Json dump = session.RunOnce(script);
         for (const auto& [name, value] : c.expected.items()) {
             const bool was_open = name == "DialogMode" && value == 0;
             EXPECT_EQ(dump.at(name), was_open ? Json(21) : value) << c.caller << c.acts << name;
