@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QWheelEvent>
+#include <QWindow>
 #include <cmath>
 #include <filesystem>
 #include <memory>
@@ -131,7 +132,7 @@ void ResizeWithThePlantOpen(benchmark::State& state) {
     int step = 0;
     for (auto _ : state) {
         step = (step + 1) % 20;
-        session.window->resize(kWidth - 4 * step, kHeight - 2 * step);
+        session.window->windowHandle()->resize(kWidth - 4 * step, kHeight - 2 * step);
         QApplication::processEvents();
     }
     if (counter.paints < 0.9 * static_cast<double>(state.iterations())) {

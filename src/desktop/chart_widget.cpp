@@ -19,6 +19,7 @@ namespace zandrell {
 namespace {
 
 constexpr int kRefineAfter = 70;  // ms without a step
+constexpr int kEdgeRests = 150;   // ms without a size, after which the next one is a single one
 constexpr double kZoomOfANotch = 1.2;
 constexpr double kGrabRadiusShare = 1.6;  // of a mark's radius; a hand is not exact
 
@@ -83,7 +84,7 @@ OverlayDrawing ChartWidget::WantedOverlay() const {
 
 void ChartWidget::Sync() {
     const bool resized = !picture_.HasSizeOf(View());
-    if (refine_.isActive() && !resized) {
+    if (refine_.isActive() && picture_.IsPainted()) {
         shown_overlay_ = WantedOverlay();
         shown_frames_ = FramesOfForm();
         update();
@@ -224,6 +225,13 @@ void ChartWidget::PaintFrames(QPainter& painter) const {
         painter.drawText(*shown_frames_.progress, Qt::AlignCenter,
                          ShownText(form_.chart.controls.ConsPN2.text));
     }
+}
+
+// A single size, as of a window that is maximised, is painted whole at once.
+void ChartWidget::FollowEdge() {
+    const bool dragged = edge_moved_.isValid() && edge_moved_.elapsed() < kEdgeRests;
+    edge_moved_.start();
+    if (dragged) refine_.start();
 }
 
 void ChartWidget::resizeEvent(QResizeEvent*) {

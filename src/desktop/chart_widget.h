@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QRegion>
 #include <QTimer>
 #include <QWidget>
@@ -25,6 +26,10 @@ class ChartWidget : public QWidget {
 
     // Brings what is shown in line with the form; repaints no more than what changed.
     void Sync();
+
+    // To be told before each size that the user gives the window: while its edge is dragged the
+    // kept picture is stretched.
+    void FollowEdge();
 
     // Positions of this widget, in device-independent pixels.
     QPointF ToWidget(CanvasPoint point) const;
@@ -71,6 +76,7 @@ class ChartWidget : public QWidget {
     KeptPicture picture_;
     bool stale_ = true;  // the kept picture is not of the chart and size of now
     QTimer refine_;      // runs while a moved picture stands for the one to be painted
+    QElapsedTimer edge_moved_;
     mutable std::optional<ChartView> view_;  // in pixels of the screen
     OverlayDrawing shown_overlay_;
     Frames shown_frames_;

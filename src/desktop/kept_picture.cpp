@@ -33,6 +33,7 @@ void KeptPicture::Render(const ChartView& view, double density) {
     painter.end();
     image_.setDevicePixelRatio(density);
     scale_ = form_.chart.scale;
+    view_ = view;
     revision_ = form_.chart.picture.Revision();
 }
 
@@ -98,18 +99,16 @@ void KeptPicture::DrawMoved(QPainter& painter, const ChartView& view) const {
     painter.fillRect(view.Target(), ShadeFor(ground, StrokeRole::Ground, ground).colour);
     const QTransform before = painter.transform();
     painter.setTransform(ToNow(view), true);
-    painter.drawImage(QRectF(view.Target()), image_);
+    painter.drawImage(view_->Target(), image_);
     painter.setTransform(before);
 }
 
 QTransform KeptPicture::ToNow(const ChartView& view) const {
-    const auto place = [&view](const ChartScale& scale, double x, double t) {
-        return view.ToDevice(scale.PointOf(x, t));
-    };
     const ChartScale& scale = form_.chart.scale;
-    const QPointF old_origin = place(scale_, 0, 0), origin = place(scale, 0, 0);
-    const QPointF old_unit = place(scale_, 1, 1) - old_origin;
-    const QPointF unit = place(scale, 1, 1) - origin;
+    const QPointF old_origin = view_->ToDevice(scale_.PointOf(0, 0));
+    const QPointF origin = view.ToDevice(scale.PointOf(0, 0));
+    const QPointF old_unit = view_->ToDevice(scale_.PointOf(1, 1)) - old_origin;
+    const QPointF unit = view.ToDevice(scale.PointOf(1, 1)) - origin;
     const double across = unit.x() / old_unit.x(), along = unit.y() / old_unit.y();
     return {across,
             0,

@@ -33,6 +33,8 @@ class KeptPicture {
     void Draw(QPainter& painter) const { painter.drawImage(QPointF(0, 0), image_); }
     // Shifted and stretched to where what it shows lies by now; around it is the ground.
     void DrawMoved(QPainter& painter, const ChartView& view) const;
+    // Whether there is a picture that can stand for the one to be painted.
+    bool IsPainted() const { return view_.has_value(); }
 
   private:
     void MakeRoom(QSize size);
@@ -44,7 +46,8 @@ class KeptPicture {
     Pictures& pictures_;
     QImage room_;  // what `image_` lies in the corner of
     QImage image_;
-    ChartScale scale_;  // that of the image
+    ChartScale scale_;  // that of the image, as its view
+    std::optional<ChartView> view_;
     std::optional<TextLayout> texts_;
     int revision_ = -1;
 };

@@ -182,6 +182,7 @@ void MainWindow::Refresh() {
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (!started_) return;
+    if (event->spontaneous()) chart_->FollowEdge();
     // The layout has not run yet; the form is told the size that the centre will have.
     centralWidget()->layout()->activate();
     mirror_.Perform([this] { TellSize(); });

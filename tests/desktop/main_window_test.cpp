@@ -1,8 +1,11 @@
 #include <QClipboard>
+#include <QEventLoop>
 #include <QImage>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSlider>
+#include <QTimer>
+#include <QWindow>
 #include <fstream>
 
 #include "desktop/script_runner.h"
@@ -211,6 +214,27 @@ TEST_F(MainWindowTest, AResizedChartIsPaintedInItsLastSize) {
     EXPECT_GT(crossings(first), 10);
     EXPECT_NEAR(crossings(larger), crossings(first), 30);  // an unpainted column has all its pixels
     EXPECT_EQ(settled({1280, 800}), first);
+}
+
+// While the edge is dragged a stretched picture stands for the chart; at rest it is painted.
+TEST_F(MainWindowTest, AChartAtADraggedEdgeIsPaintedWhenTheEdgeRests) {
+    ChartWidget& chart = window_->Chart();
+    const auto drag_to = [this](QSize size) {
+        window_->windowHandle()->resize(size);
+        QApplication::processEvents();
+    };
+    const auto rest = [] {
+        QEventLoop loop;
+        QTimer::singleShot(300, &loop, [&loop] { loop.quit(); });
+        loop.exec();
+    };
+    drag_to({1400, 900});
+    rest();
+    const QImage painted = chart.grab().toImage();
+    for (int step = 1; step < 10; ++step) drag_to({1400 - 12 * step, 900 - 6 * step});
+    for (int step = 9; step >= 0; --step) drag_to({1400 - 12 * step, 900 - 6 * step});
+    rest();
+    EXPECT_EQ(chart.grab().toImage(), painted);
 }
 
 }  // namespace
