@@ -74,10 +74,13 @@ void PlantPanel::AnlageBerechnen() {
         asked_again_ = true;
         return;
     }
-    refused_rise_ = nullptr;
+    // A run that a bar asks for reads what this one has put in place of a refused rise.
+    if (running_ == 0) refused_rise_ = nullptr;
+    ++running_;
     figures_of_.Forget();
     if (Compute()) figures_of_.Take(Basis());
     taken_.Take();
+    --running_;
 }
 
 bool PlantPanel::Compute() {

@@ -132,6 +132,7 @@ class PlantPanel {
     TakenTexts figures_of_ = taken_;
     bool humidifier_shown_ = false;            // its figure is of the last run
     const TextField* refused_rise_ = nullptr;  // a typed fan rise that the last run replaced
+    int running_ = 0;                          // runs that are not done, nested ones too
     bool settling_ = false, asked_again_ = false;
 };
 

@@ -1,19 +1,11 @@
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 
 #include "base/number_text.h"
 #include "base/unit_texts.h"
 #include "processes/plant_panel.h"
 
 namespace zandrell {
-namespace {
-
-template <std::size_t Count>
-bool IsOneOf(const TextField& field, const std::array<const TextField*, Count>& fields) {
-    return std::find(fields.begin(), fields.end(), &field) != fields.end();
-}
-
-}  // namespace
 
 // What the figures rest on besides the fields.
 std::string PlantPanel::Basis() const {
@@ -46,11 +38,13 @@ std::optional<Refusal> PlantPanel::RefusalOf(const TextField& field) const {
         return Refusal{Caption::OutsideLimits, "0",
                        TrimmedNumberText(kHighestFanRise).append(" ").append(UnitK)};
     }
-    if (IsOneOf(field,
-                std::array<const TextField*, 4>{&PHIAbluft, &PhiAussen, &PHIZuluft, &phiKanal})) {
+    const auto is_one_of = [&field](std::initializer_list<const TextField*> fields) {
+        return std::find(fields.begin(), fields.end(), &field) != fields.end();
+    };
+    if (is_one_of({&PHIAbluft, &PhiAussen, &PHIZuluft, &phiKanal})) {
         return field.text == kInTheFog ? std::nullopt : AgainstHumidity(field.text);
     }
-    if (IsOneOf(field, std::array<const TextField*, 3>{&vhAnlage, &vhinnen, &vhaussen})) {
+    if (is_one_of({&vhAnlage, &vhinnen, &vhaussen})) {
         return AgainstFlow(field.text);
     }
     if (auto refusal = AgainstNumber(field.text)) return refusal;

@@ -47,6 +47,10 @@ TEST(FieldHints, SayWhyAValueIsNotUsed) {
          "not used: below the coil temperature plus fan rise"},
         {std::string(kPlant) + "set dtVent1 5\nreturn dtVent1\n", "dtVent1",
          "not used: only 0 to 3 K is possible", false},
+        // 1 K stands in for it, which moves the supply bar, and that asks for a run of its own.
+        {std::string(kPlant) + "set dtVent1 0\nreturn dtVent1\nset TZuluft 12\nreturn TZuluft\n" +
+             "set dtVent1 5\nreturn dtVent1\n",
+         "dtVent1", "not used: only 0 to 3 K is possible", false},
         {std::string(kPlant) + "set vhaussen -1\nreturn vhaussen\n", "vhaussen",
          "not used: only values above 0 are possible"},
         {std::string(kPlant) + "set phiKanal 130\nreturn phiKanal\n", "phiKanal",
