@@ -58,6 +58,7 @@ void PlantPanel::ShowExactly(const ExactPlantRun& run) {
     AssignFinite(context_.figures.MischTemp, run.mixing.mixed.t);
     Drawing().DrawMixing(run.mixing);
     ShowRoomLoads(run.room, factor);
+    KeepWay(run, run.heated);
     StartWay(run.OhneKuehler);
     humidifier_shown_ = true;
     const double heater_kw = Cut(run.heater_kw, factor);

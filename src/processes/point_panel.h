@@ -10,6 +10,7 @@
 #include "processes/exact_tools.h"
 #include "processes/field_notes.h"
 #include "processes/process_context.h"
+#include "processes/process_states.h"
 #include "processes/state_change.h"
 
 namespace zandrell {
@@ -73,6 +74,8 @@ class PointPanel {
 
     // Marks the fields that are not used or not confirmed, and the figures of other inputs.
     void NoteFields();
+
+    ProcessStates States() const;
 
   private:
     // A volume flow, its bar and the flow per unit of the bar.

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/grid_order.h"
 #include "selection/chosen_unit.h"
-#include "selection/grid_order.h"
 #include "selection/vent_zeig_controls.h"
 
 namespace zandrell {
