@@ -48,7 +48,7 @@ struct ReadOutPanel {
 // numbers: there is no state in the fog. A point outside the limits of the state function shows
 // "-".
 void ShowStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel);
-// The same under Exact: the humidity is that of exactly this x, the density that of both gases.
+// The same under Exact, of the state with exactly this x.
 void ShowExactStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel);
 
 }  // namespace zandrell

@@ -123,11 +123,11 @@ std::optional<double> ExactAir::Fraction(double t, double x) const {
     return VapourPressureOf(x) / ContinuedSaturation(t, p_bar_);
 }
 
-std::optional<double> ExactAir::SaturatedX(double t) const {
-    if (!Answers(t)) return std::nullopt;
-    const double saturation = ContinuedSaturation(t, p_bar_);
-    if (!(saturation < p_bar_ * kPascalPerBar)) return std::nullopt;
-    return XOf(saturation);
+std::optional<double> ExactAir::XFromHumidity(double relF, double t) const {
+    if (!(relF >= 0 && relF <= 1) || !Answers(t)) return std::nullopt;
+    const double vapour = relF * ContinuedSaturation(t, p_bar_);
+    if (!(vapour < p_bar_ * kPascalPerBar)) return std::nullopt;
+    return XOf(vapour);
 }
 
 // Steps by the slope, each within what the values before leave; two values of the same phase give

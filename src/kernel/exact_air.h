@@ -42,7 +42,8 @@ class ExactAir {
     // Single figures, for less than a state. Enthalpy and Fraction are those of FromX.
     std::optional<double> Enthalpy(double t, double x) const;
     std::optional<double> Fraction(double t, double x) const;
-    std::optional<double> SaturatedX(double t) const;  // empty above boiling
+    std::optional<double> XFromHumidity(double relF, double t) const;
+    std::optional<double> SaturatedX(double t) const { return XFromHumidity(1, t); }
     std::optional<double> Temperature(double h, double x) const;
     // The x up to saturation, or 10 kg/kg, at which air of t has the enthalpy h; empty where h lies
     // beyond dry or saturated air.
