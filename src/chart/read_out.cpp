@@ -23,21 +23,6 @@ void ShowNoState(std::initializer_list<Label*> labels) {
     for (Label* label : labels) label->text = kNoState;
 }
 
-// The humidity fraction at t and x, with one correction step for the slight bend of x over it. The
-// solver is left at that state. Empty when the point is outside the limits.
-std::optional<double> HumidityAt(const ChartState& point, StateSolver& solver) {
-    if (!solver.Evaluate(1, point.t)) return std::nullopt;
-    const double estimate_percent = std::abs(100 * point.x / solver.ZustandX);
-    if (!solver.Evaluate(estimate_percent / 100, point.t)) return std::nullopt;
-    const double x_there = solver.ZustandX;
-    // Without humidity there is nothing to correct.
-    if (point.x == 0 || x_there == 0) return 0.0;
-    const double fraction = point.x / x_there * estimate_percent / 100;
-    if (!std::isfinite(fraction)) return std::nullopt;
-    if (fraction > 0) solver.Evaluate(fraction, point.t);
-    return fraction;
-}
-
 bool IsAir(std::optional<double> fraction) { return fraction && *fraction >= 0 && *fraction < 1; }
 
 // What there is to say of a point that is no air; ShowAir says the rest of one that is.
@@ -67,6 +52,19 @@ void ShowAir(const ShownAir& air, ReadOutPanel& panel) {
 void ReadOutPanel::ListControls(Form& form) {
     form.Add({&Pn1});
     for (Row& row : rows) form.Add({row.figure, &row.word});
+}
+
+std::optional<double> HumidityAt(const ChartState& point, StateSolver& solver) {
+    if (!solver.Evaluate(1, point.t)) return std::nullopt;
+    const double estimate_percent = std::abs(100 * point.x / solver.ZustandX);
+    if (!solver.Evaluate(estimate_percent / 100, point.t)) return std::nullopt;
+    const double x_there = solver.ZustandX;
+    // Without humidity there is nothing to correct.
+    if (point.x == 0 || x_there == 0) return 0.0;
+    const double fraction = point.x / x_there * estimate_percent / 100;
+    if (!std::isfinite(fraction)) return std::nullopt;
+    if (fraction > 0) solver.Evaluate(fraction, point.t);
+    return fraction;
 }
 
 void ShowStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel) {

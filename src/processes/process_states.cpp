@@ -26,8 +26,10 @@ ProcessStates PointPanel::States() const {
     const std::string basis = Basis(mode);
     if (!IsPointMode(mode) || !states_of_.Hold(basis)) return {};
     const Inputs inputs = ReadInputs();
-    ProcessStates states = {{"1", inputs.t1, ZustandX1, enthalpy1_},
-                            {"2", inputs.t2, ZustandX2, enthalpy2_}};
+    ProcessStates states = {{"1", inputs.t1, ZustandX1, enthalpy1_, inputs.relF1},
+                            {"2", inputs.t2, ZustandX2, enthalpy2_, inputs.relF2}};
+    // Behind a tool the suite shows another x than it counts with.
+    if (!IsExact()) states[1].x = ParsedNumber(absF2.text);
     if (mode == Calculation::StateChange || !outcome_of_.Hold(basis)) return states;
     const double dry_air = inputs.LuftM1 * density1_;
     states[0].flow = Positive(inputs.LuftM1);
@@ -79,10 +81,14 @@ ProcessStates PlantPanel::States() const {
     heated->capacity = FigureAlone(Heiz2.text);
     if (!IsExact()) heated->h.reset();  // the suite's way has none there
     const bool warmed = way_.supply.t != way_.before_fan.t;
-    ProcessState* humid =
-        add(warmed ? leaving + words[Caption::HumidifierSecond] : words[Caption::SupplyAir],
-            way_.before_fan, total);
-    if (humidifier_shown_) humid->water = FigureAlone(Bef.text);
+    const bool humidified =
+        way_.before_fan.x != way_.heated.x || way_.before_fan.t != way_.heated.t;
+    if (humidified || !warmed) {
+        ProcessState* humid =
+            add(warmed ? leaving + words[Caption::HumidifierSecond] : words[Caption::SupplyAir],
+                way_.before_fan, total);
+        if (humidified && humidifier_shown_) humid->water = FigureAlone(Bef.text);
+    }
     if (warmed) add(words[Caption::SupplyAir], way_.supply, total);
     return states;
 }

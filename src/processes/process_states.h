@@ -9,9 +9,10 @@ namespace zandrell {
 // A state of the process in force.
 struct ProcessState {
     std::string name;
-    double t = 0;                     // degC
-    double x = 0;                     // g/kg
-    std::optional<double> h = {};     // kJ/kg, where the process has a figure of its own
+    double t = 0;  // degC
+    double x = 0;  // g/kg
+    // Where the process has figures of its own: kJ/kg, and the relative humidity in per cent.
+    std::optional<double> h{}, percent{};
     std::optional<double> flow = {};  // m3/h, where it is given there
     std::optional<double> dry_air{};  // kg/h
     // What brings the air there from the state before, as the panel shows it, in kW and kg/h;

@@ -21,15 +21,19 @@ std::optional<StateFigures> ExactFigures(const ProcessState& state, StateSolver&
     const ExactAir exact(solver);
     const auto air = exact.FromX(state.t, state.x);
     if (!air) return std::nullopt;
-    return StateFigures{100 * air->fraction, state.h.value_or(air->enthalpy),
-                        air->density,        exact.DewPoint(*air),
-                        exact.WetBulb(*air), air->volume};
+    return StateFigures{state.percent.value_or(100 * air->fraction),
+                        state.h.value_or(air->enthalpy),
+                        air->density,
+                        exact.DewPoint(*air),
+                        exact.WetBulb(*air),
+                        air->volume};
 }
 
 std::optional<StateFigures> SuiteFigures(const ProcessState& state, StateSolver& solver) {
     const auto fraction = HumidityAt({state.t, state.x}, solver);
     if (!fraction) return std::nullopt;
-    return StateFigures{100 * *fraction, state.h.value_or(solver.ZustandH), solver.ZustandDichte};
+    return StateFigures{state.percent.value_or(100 * *fraction), state.h.value_or(solver.ZustandH),
+                        solver.ZustandDichte};
 }
 
 std::string CutText(std::optional<double> value, double factor) {
@@ -88,7 +92,8 @@ std::vector<Column> StateColumns(const Captions& words, bool exact) {
 
 StateList ListStates(const ProcessPanels& processes) {
     const ProcessSurroundings& around = processes.Around();
-    StateSolver solver = around.solver;  // the program's own keeps the state that it shows
+    StateSolver& solver = around.solver;
+    const AirState kept = solver;
     const bool exact = around.settings.convention == Convention::Exact;
     const auto columns = StateColumns(around.captions, exact);
     StateList list;
@@ -102,6 +107,7 @@ StateList ListStates(const ProcessPanels& processes) {
             row.push_back(figures ? column.text(state, *figures) : "");
         }
     }
+    static_cast<AirState&>(solver) = kept;
     return list;
 }
 

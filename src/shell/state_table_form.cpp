@@ -39,7 +39,7 @@ StateTableForm::StateTableForm(const DataFiles& files, const Captions& captions,
 void StateTableForm::ShowStates(const StateList& list, const std::string& process) {
     title = captions_[Caption::StateTable];
     if (!process.empty()) title.append(" - ").append(process);
-    Copy.text = captions_[Caption::CopyToClipboard];
+    Copy.text = captions_[Caption::CopyTable];
     Save.text = captions_[Caption::ListAsCsv];
     Message.text = list.rows.empty() ? captions_[Caption::NoProcess] : "";
     Copy.enabled = Save.enabled = !list.rows.empty();

@@ -72,13 +72,15 @@ TEST_P(WindowWords, StandWhereTheyBelong) {
     session.folder.Write("kparam.dat", parameters);
     const auto dumps = session.Run(
         "click AnlageButt\ndump\nclick optButt\ndump\nclick qvopt.Command3D5\n"
+        "click StateList\ndump\nclick StateTable.CloseStates\n"
         "click druckbutt\nclick DruckEInstell.prevButt\ndump\nkey DruckEInstell.Text1 F1\ndump\n");
-    ASSERT_EQ(dumps.size(), 4U);
+    ASSERT_EQ(dumps.size(), 5U);
     Words shown = {{"title text", dumps[0].at("title").get<std::string>()}};
     AddWords(dumps[0], "", shown);
     AddWords(dumps[1], "qvopt.", shown);
-    AddWords(dumps[2], "DruckEInstell.", shown);
-    AddWords(dumps[3], "Hilfebox.", shown);
+    AddWords(dumps[2], "StateTable.", shown);
+    AddWords(dumps[3], "DruckEInstell.", shown);
+    AddWords(dumps[4], "Hilfebox.", shown);
 
     const Words expected = ExpectedWords(tag);
     for (const auto& [place, words] : expected) {
