@@ -19,7 +19,7 @@ struct Step {
 constexpr std::array<Step, 5> kSteps = {
     {{"A++ A+", 0x8CCB86}, {"A", 0xB9DE93}, {"B", 0xE8E28A}, {"C", 0xF0C77E}, {"D E", 0xEFA08E}}};
 constexpr int kTopOfFirst = 60, kTopOfLast = 2135;  // twips of the mark
-constexpr int kStepHeight = 17, kScaleWidth = 130;  // pixels at scale 1
+constexpr int kStepHeight = 17, kScaleWidth = 118;  // pixels at scale 1
 
 }  // namespace
 

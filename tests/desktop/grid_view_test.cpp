@@ -149,6 +149,25 @@ TEST_F(GridViewTest, ShowsTextsWidthsAndHiddenRows) {
     EXPECT_EQ(model->rowCount(), 2);
 }
 
+// Number, name, figure: 30 designed 40, 80 designed 300, 60 designed 100.
+TEST(ColumnWidths, GiveWayAndFillTheRoom) {
+    const std::vector<ColumnWish> wishes = {
+        {30, 40, 40, false}, {80, 80, 300, true}, {60, 60, 100, true}, {}};
+    const struct {
+        int room;
+        std::vector<int> widths;
+    } cases[] = {
+        {180, {40, 80, 60, 0}},    {260, {40, 140, 80, 0}},  // 80 more, 3 to 1
+        {1000, {40, 800, 160, 0}},  // 160 is the most for a figure, the name takes the rest
+        {172, {32, 80, 60, 0}},     // the number gives way first
+        {150, {30, 60, 60, 0}},     // then the name
+        {100, {30, 50, 60, 0}},     // which stays to be read
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(WidthsInRoom(wishes, 1, c.room, 50), c.widths) << c.room;
+    }
+}
+
 TEST_F(GridViewTest, KeysAndWheelReachTheForm) {
     const struct {
         const char* what;

@@ -183,6 +183,7 @@ TEST(SelectionWindow, ShowsPressureDropsOfLineComponents) {
     EXPECT_EQ(cells[2][5], " 50");
     EXPECT_EQ(backs[2][5], 12) << "above 40 %";
     EXPECT_EQ(backs[3][2], 12) << "27 mbar, 30 are needed";
+    EXPECT_EQ(regulating.at("SerienPN").at("text"), "Zwi MV:") << "there is no range";
     EXPECT_EQ(regulating.at("AuswahlZeile"), 2) << "the unit in front of the first that fails";
     EXPECT_EQ(Cells(regulating, "KatalogSpread")[1], Json({"1", "", "", "Zwi MV", "0#$§  VALVE"}));
     EXPECT_EQ(regulating.at("KatalogSpread").at("widths"), Json({450, 0, 0, 6000, 0}));
@@ -322,6 +323,43 @@ TEST(SelectionWindow, SaysWhichCatalogueIsMissing) {
                   "The file " + (session.folder / "I600.DAT").string() + " cannot be read");
     }
     EXPECT_EQ(Cells(dumps[0], "KatalogSpread").size(), 1U);
+}
+
+// A file that was cut off or written over: what is there is shown, nothing that is no number
+// becomes one, and nothing behind the end is read.
+TEST(SelectionWindow, ShowsWhatDamagedCataloguesStillHold) {
+    SelectionSession session;
+    const std::string whole = Cooler("AK 1", "5");
+    std::string noise(2 * KatalogSatz::kLength, '\0');
+    for (std::size_t i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>(i * 37 + 11);
+    session.folder.Write("CUTOFN.rdm", whole + Cooler("AK 2", "9").substr(0, 160));
+    session.folder.Write("NOISEN.rdm", noise);
+    session.folder.Write("NANANN.rdm", Cooler("AK 4", "nan") + Cooler("AK 5", "1e99") + EndMark());
+    session.folder.Write("I600.DAT",
+                         "CUTOF,1,Ulm cut,0\nCUTOF,1,Ulm far,9999\nNOISE,1,Ulm noise,0\n"
+                         "NANAN,1,Ulm nan,0\nCUTOF,1,Ulm minus,-7\nCUTOF,1,Ulm text,abc\n\"open");
+    const std::string start = "share KatalogArt 600\nshare QoSoll 10\nshare LeistFaktor 1\nopen\n";
+    for (int row = 1; row <= 6; ++row) {
+        const Json dump = session.RunOnce(start + "pick KatalogSpread " + std::to_string(row) +
+                                          " 3\nopen\nmove KatalogSpread " + std::to_string(row) +
+                                          "\npick Venttab 1 1\nclick Command3D2\ndump\n");
+        const Json cells = Cells(dump, "KatalogSpread");
+        ASSERT_GE(cells.size(), 7U);
+        if (row == 1) {
+            EXPECT_EQ(Cells(dump, "Venttab")[1][2], " 5") << "the unit in front of the cut";
+            EXPECT_EQ(Cells(dump, "Venttab")[3][1], "") << "nothing behind it";
+        }
+        for (const Json& line : Cells(dump, "Venttab")) {
+            for (const int column : {2, 4, 5}) {
+                const std::string figure = line[static_cast<std::size_t>(column)];
+                EXPECT_EQ(figure.find("inf"), std::string::npos) << row;
+                EXPECT_TRUE(row == 3 || figure.find("nan") == std::string::npos) << row << figure;
+            }
+        }
+        for (const Json& line : cells) {
+            EXPECT_EQ(line[1].get<std::string>().find("na"), std::string::npos) << line;
+        }
+    }
 }
 
 TEST(SelectionWindow, HandsItsDocumentsToTheViewer) {
