@@ -39,7 +39,7 @@ void ClassScale::paintEvent(QPaintEvent*) {
     const double step = height() / static_cast<double>(kSteps.size());
     for (std::size_t i = 0; i < kSteps.size(); ++i) {
         const double y = static_cast<double>(i) * step;
-        const double length = (0.46 + 0.09 * static_cast<double>(i)) * width();
+        const double length = (0.54 + 0.07 * static_cast<double>(i)) * width();
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(QRgb{kSteps[i].colour}));
         painter.drawRoundedRect(QRectF(0, y + 1, length, step - 2), 2, 2);

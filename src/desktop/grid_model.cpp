@@ -20,11 +20,18 @@ bool IsFigure(const QString& text) {
     });
 }
 
-// A long word of a head may break where a unit or its second half begins.
-QString Breakable(QString head) {
-    const QChar break_here(0x200B);
-    head.replace(QLatin1Char('/'), QLatin1Char('/') + QString(break_here));
-    return head.replace(QLatin1Char('['), QString(break_here) + QLatin1Char('['));
+// A long word of a head may break where a unit or its second half begins, and never in a unit.
+QString Breakable(const QString& head) {
+    const QChar break_here(0x200B), keep_together(0x2060);
+    QString text;
+    bool in_unit = false;
+    for (const QChar c : head) {
+        if (c == QLatin1Char('[')) text += break_here;
+        in_unit = (in_unit || c == QLatin1Char('[')) && c != QLatin1Char(']');
+        text += c;
+        if (c == QLatin1Char('/')) text += in_unit ? keep_together : break_here;
+    }
+    return text;
 }
 
 }  // namespace

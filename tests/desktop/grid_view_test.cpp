@@ -118,6 +118,13 @@ TEST_F(GridViewTest, ShowsTextsWidthsAndHiddenRows) {
     };
     EXPECT_EQ(model->rowCount(), kRows);
     EXPECT_EQ(model->headerData(1, Qt::Horizontal), QStringLiteral("Qo"));
+    grid_.SetText(0, 1, "Typ/Flow[m³/h]");
+    EXPECT_EQ(model->headerData(1, Qt::Horizontal),
+              QStringLiteral("Typ/\u200BFlow\u200B[m³/\u2060h]"))
+        << "breaks in front of a unit, not in it";
+    EXPECT_EQ(model->headerData(1, Qt::Horizontal, Qt::AccessibleTextRole),
+              QStringLiteral("Typ/Flow[m³/h]"));
+    grid_.SetText(0, 1, "Qo");
     EXPECT_EQ(cell(4, 2, Qt::DisplayRole), QStringLiteral("Ulmak 4"));
     EXPECT_TRUE(cell(4, 2, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
     EXPECT_TRUE(cell(4, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);

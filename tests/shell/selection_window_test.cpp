@@ -334,7 +334,7 @@ TEST(SelectionWindow, ShowsWhatDamagedCataloguesStillHold) {
     for (std::size_t i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>(i * 37 + 11);
     session.folder.Write("CUTOFN.rdm", whole + Cooler("AK 2", "9").substr(0, 160));
     session.folder.Write("NOISEN.rdm", noise);
-    session.folder.Write("NANANN.rdm", Cooler("AK 4", "nan") + Cooler("AK 5", "1e99") + EndMark());
+    session.folder.Write("NANANN.rdm", Cooler("AK 4", "nan") + Cooler("AK 5", "1e308") + EndMark());
     session.folder.Write("I600.DAT",
                          "CUTOF,1,Ulm cut,0\nCUTOF,1,Ulm far,9999\nNOISE,1,Ulm noise,0\n"
                          "NANAN,1,Ulm nan,0\nCUTOF,1,Ulm minus,-7\nCUTOF,1,Ulm text,abc\n\"open");
