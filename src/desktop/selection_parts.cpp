@@ -122,7 +122,9 @@ QWidget* Energy(VentZeigControls& c, FormMirror& mirror) {
                 {&c.Label46, &c.CO2consum, &c.Label33}};
     int line = 0;
     for (const auto& row : rows) {
-        grid->addWidget(build.Caption(*row.caption), line, 0);
+        auto* caption = build.Caption(*row.caption);
+        caption->setWordWrap(true);
+        grid->addWidget(caption, line, 0);
         grid->addWidget(build.Figure(*row.figure, *row.caption, {}, 5), line, 1);
         if (row.unit) grid->addWidget(build.Caption(*row.unit), line, 2);
         ++line;
