@@ -48,9 +48,10 @@ StateTableWindow::StateTableWindow(StateTableForm& form, Pictures& pictures, QWi
         QGuiApplication::clipboard()->setText(QString::fromStdString(text));
     };
     form.ask_file = [this] { return AskForCsv(this, ShownText(table_.Save.text)); };
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    const QSize room =
+        parent ? parent->window()->size() : QGuiApplication::primaryScreen()->availableSize();
     resize(QSize(Scaled(*this, kNominalSize.width()), Scaled(*this, kNominalSize.height()))
-               .boundedTo(screen));
+               .boundedTo(room));
     Refreshed();
 }
 

@@ -186,7 +186,8 @@ TEST(PrintOut, StatesOnASecondPage) {
         if (item.kind == SheetItem::Kind::Text) printed.insert(item.text);
     }
     for (const auto& row : list.rows) {
-        for (const auto& cell : row) EXPECT_TRUE(printed.contains(cell)) << cell;
+        for (std::size_t i = 1; i < row.size(); ++i)
+            EXPECT_TRUE(printed.contains(row[i])) << row[i];
     }
     EXPECT_TRUE(printed.contains(session.captions[Caption::Page] + std::string(ColonSuffix) + "2"));
     session.shared.prints_states = false;
