@@ -39,6 +39,7 @@ struct SharedValues {
     std::string LabelFontSize = "12";
     std::string PaperSize;
     int PaperOrientation = 1;
+    bool prints_states = false;  // a second page with the states of the process
     std::string VersionText = std::string(kVersion);
     double MainsFrequency = 50;  // Hz
 

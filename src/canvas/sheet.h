@@ -45,7 +45,8 @@ class Sheet {
     bool landscape = false;
     std::string font_name = "Arial";
     RecordingCanvas chart;
-    PageScale chart_scale;  // of the page, in canvas units of the chart
+    PageScale chart_scale;       // of the page, in canvas units of the chart
+    std::vector<Sheet> further;  // the pages behind this one, on the same paper
 
     double WidthMm() const { return landscape ? LongSideMm() : ShortSideMm(); }
     double HeightMm() const { return landscape ? ShortSideMm() : LongSideMm(); }

@@ -115,18 +115,10 @@ bool EnthalpyLineFits(const ChartPainting& painting, const EnthalpyLine& line, C
 }
 
 void PaintEnthalpyLine(const ChartPainting& painting, int h, const EnthalpyLine& line) {
-    // The stub leads into the fog region, where the label has room.
-    const CanvasPoint stub{line.saturated.x + 0.1 * painting.width, line.saturated.y};
+    const CanvasPoint stub = EnthalpyStubEnd(painting, line.saturated);
     if (line.saturated.x < painting.left_edge || !EnthalpyLineFits(painting, line, stub)) return;
     painting.Line(line.dry, line.saturated, kGrey);
-    painting.Line(line.saturated, stub, kGrey);
-    const CanvasPoint end = painting.scale.Turned(stub);
-    const std::string unit(UnitKJkg);
-    if (painting.Mollier()) {
-        painting.canvas.Text(end.x, end.y - 5, NumberText(h) + " " + unit);
-    } else {
-        painting.canvas.Text(end.x - 8, end.y - 8, NumberText(h) + unit);
-    }
+    PaintEnthalpyStub(painting, h, line.saturated);
 }
 
 void PaintDensityLine(const ChartPainting& painting, int i) {
@@ -167,15 +159,38 @@ void PaintHumidityCurves(const ChartPainting& painting) {
     }
 }
 
-void PaintEnthalpyLines(const ChartPainting& painting) {
-    painting.canvas.SetTextRole(TextRole::StubLabel);
-    const auto& settings = painting.settings;
+std::vector<int> EnthalpiesWithLine(const ChartSettings& settings) {
     const int step = EnthalpyStep(settings);
     const auto range =
         WholeDegrees(settings.ChartTMin + step,
                      settings.ChartTMax + std::floor(settings.ChartXMax / 4) * step, step);
+    std::vector<int> enthalpies;
     for (int h = range.first; h <= range.last; h += step) {
-        if (settings.ChartXMax > 100 && h % 20 != 0) continue;
+        if (settings.ChartXMax <= 100 || h % 20 == 0) enthalpies.push_back(h);
+    }
+    return enthalpies;
+}
+
+CanvasPoint EnthalpyStubEnd(const ChartPainting& painting, CanvasPoint saturated) {
+    return {saturated.x + 0.1 * painting.width, saturated.y};
+}
+
+void PaintEnthalpyStub(const ChartPainting& painting, int h, CanvasPoint saturated) {
+    const CanvasPoint stub = EnthalpyStubEnd(painting, saturated);
+    painting.Line(saturated, stub, kGrey);
+    const CanvasPoint end = painting.scale.Turned(stub);
+    const std::string unit(UnitKJkg);
+    if (painting.Mollier()) {
+        painting.canvas.Text(end.x, end.y - 5, NumberText(h) + " " + unit);
+    } else {
+        painting.canvas.Text(end.x - 8, end.y - 8, NumberText(h) + unit);
+    }
+}
+
+void PaintEnthalpyLines(const ChartPainting& painting) {
+    painting.canvas.SetTextRole(TextRole::StubLabel);
+    const int step = EnthalpyStep(painting.settings);
+    for (const int h : EnthalpiesWithLine(painting.settings)) {
         if (const auto line = FindEnthalpyLine(painting, h, step))
             PaintEnthalpyLine(painting, h, *line);
     }

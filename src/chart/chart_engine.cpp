@@ -40,7 +40,7 @@ void PaintExactChart(ChartPainting& painting) {
     PaintExactHumidityGrid(painting);
     if (!painting.solver.HasCoefficients()) return;
     PaintExactHumidityCurves(painting);
-    PaintEnthalpyLines(painting);
+    PaintExactEnthalpyLines(painting);
     PaintExactDensityLines(painting);
 }
 

@@ -6,6 +6,7 @@
 #include "base/unit_texts.h"
 #include "canvas/palette.h"
 #include "chart/chart_painting.h"
+#include "chart/saturation.h"
 
 namespace zandrell {
 namespace {
@@ -37,8 +38,7 @@ Steps StepsWithin(double start, double end, double step, double visible_from, do
 }
 
 void PaintComfortRow(const ChartPainting& painting, double t, double humidity_step) {
-    if (!painting.solver.Evaluate(1, t, painting.settings.pressure_bar)) return;
-    const double xs = painting.solver.ZustandX;
+    const double xs = SaturatedX(painting.settings.convention, painting.solver, t).value_or(0);
     if (!(xs > 0)) return;
     // Only what lies on the canvas: deep in a zoom the raster has millions of dots elsewhere.
     const ChartState low = painting.scale.StateAt({-10, painting.height});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "canvas/canvas.h"
 #include "chart/chart_scale.h"
@@ -58,6 +59,13 @@ void PaintHumidityTitles(const ChartPainting& painting);
 // The densities that have a line: kFirstDensity - i * kDensityStep, in kg/m3.
 inline constexpr double kFirstDensity = 1.35, kDensityStep = 0.05;
 inline constexpr int kDensityLines = 9;
+
+// The enthalpies of the settings that have a line, whole kJ/kg.
+std::vector<int> EnthalpiesWithLine(const ChartSettings& settings);
+// The piece from saturation into the fog, where its number has room; canvas units of the Mollier
+// chart.
+CanvasPoint EnthalpyStubEnd(const ChartPainting& painting, CanvasPoint saturated);
+void PaintEnthalpyStub(const ChartPainting& painting, int h, CanvasPoint saturated);
 
 // The curves (chart_curves.cpp).
 void PaintHumidityCurves(const ChartPainting& painting);

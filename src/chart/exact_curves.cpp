@@ -9,13 +9,14 @@
 #include "canvas/label_placer.h"
 #include "canvas/palette.h"
 #include "chart/exact_painting.h"
+#include "kernel/exact_air.h"
+#include "kernel/root.h"
 
 namespace zandrell {
 namespace {
 
 constexpr int kCurveParts = 96;  // pieces of a humidity curve, on every zoom
 constexpr int kDensityParts = 10;
-constexpr int kHalvings = 40;
 constexpr double kDensityTolerance = 0.0005;  // kg/m3
 constexpr double kDensityReach = 80;          // K from dry air of a density to saturated air
 
@@ -35,14 +36,13 @@ std::vector<std::optional<CanvasPoint>> CurveOf(const ChartPainting& painting, d
     const double step = (top - visible.t_from) / kCurveParts;
     std::vector<std::optional<CanvasPoint>> points;
     if (!(step > 0)) return points;
+    const ExactAir air(painting.solver);
+    points.reserve(kCurveParts + 1);
     for (int i = 0; i <= kCurveParts; ++i) {
         const double t = visible.t_from + i * step;
-        if (painting.solver.Evaluate(humidity, t, painting.settings.pressure_bar)) {
-            points.push_back(
-                CanvasPoint{painting.scale.Xm(painting.solver.ZustandX), painting.scale.Ym(t)});
-        } else {
-            points.emplace_back();
-        }
+        const auto x = air.XFromHumidity(humidity, t);
+        points.push_back(x ? std::optional(CanvasPoint{painting.scale.Xm(*x), painting.scale.Ym(t)})
+                           : std::nullopt);
     }
     return points;
 }
@@ -89,41 +89,37 @@ void PaintCurve(const ChartPainting& painting, int percent) {
     }
 }
 
-// The temperature at which air of this humidity has the density; empty when there is none.
-std::optional<double> TemperatureOf(const ChartPainting& painting, double density, double humidity,
-                                    double low, double high) {
-    auto& solver = painting.solver;
-    const double p = painting.settings.pressure_bar;
+// The state of this humidity that has the density; empty when there is none.
+std::optional<ExactAirState> StateOfDensity(const ExactAir& air, double density, double humidity,
+                                            double low, double high) {
+    constexpr double kCloseEnough = 1e-6;  // kg/m3
     // Air that would boil has no state: it counts as too thin.
-    const auto is_dense = [&](double t) {
-        return solver.Evaluate(humidity, t, p) && DensityOfBothGases(solver, t) >= density;
+    const auto excess = [&](double t) {
+        const auto state = air.FromHumidity(humidity, t);
+        return state ? state->density - density : -1;
     };
-    if (!is_dense(low)) return std::nullopt;
-    for (int i = 0; i < kHalvings; ++i) {
-        const double middle = (low + high) / 2;
-        (is_dense(middle) ? low : high) = middle;
-    }
-    const bool found = solver.Evaluate(humidity, low, p) &&
-                       std::abs(DensityOfBothGases(solver, low) - density) <= kDensityTolerance;
-    return found ? std::optional(low) : std::nullopt;
+    if (!(excess(low) >= 0 && excess(high) <= 0)) return std::nullopt;
+    const auto found = air.FromHumidity(humidity, RootOfFalling(low, high, kCloseEnough, excess));
+    if (!found || std::abs(found->density - density) > kDensityTolerance) return std::nullopt;
+    return found;
 }
 
 // From dry to saturated air, in the Mollier chart's units.
 Polyline DensityLine(const ChartPainting& painting, double density) {
     constexpr double kSlack = 2;  // K that dry air may lie off the gas law
+    const ExactAir air(painting.solver);
     const double dry =
-        painting.settings.pressure_bar * kPascalPerBar / (kGasConstantAir * density) -
-        kKelvinOffset;
+        air.PressureBar() * kPascalPerBar / (kGasConstantAir * density) - kKelvinOffset;
     Polyline line;
     double high = dry + kSlack;
     for (int i = 0; i <= kDensityParts; ++i) {
         const double low = std::max(kLowestTemperature, high - kDensityReach);
-        const auto t = TemperatureOf(painting, density, static_cast<double>(i) / kDensityParts, low,
-                                     std::min(high, kHighestTemperature));
-        if (!t) break;
-        line.push_back({painting.scale.Xm(painting.solver.ZustandX), painting.scale.Ym(*t)});
+        const auto state = StateOfDensity(air, density, static_cast<double>(i) / kDensityParts, low,
+                                          std::min(high, kHighestTemperature));
+        if (!state) break;
+        line.push_back({painting.scale.Xm(state->x), painting.scale.Ym(state->t)});
         // Moist air is lighter, so it has this density when it is colder.
-        high = *t + kSlack;
+        high = state->t + kSlack;
     }
     return line;
 }

@@ -4,7 +4,7 @@
 #include "base/number_text.h"
 #include "canvas/palette.h"
 #include "chart/exact_painting.h"
-#include "kernel/humid_air_state.h"
+#include "kernel/real_air.h"
 
 namespace zandrell {
 namespace {
@@ -13,8 +13,6 @@ constexpr int kTemperatureParts = 8, kHumidityParts = 6, kPressureParts = 8;
 constexpr double kWidestStep = 5;    // K and g/kg
 constexpr double kMostLines = 2000;  // a broken file could ask for more
 constexpr double kHectopascalPerBar = 1000;
-// Humidity ratio in g/kg per ratio of the partial pressures, in the model's own constants.
-constexpr double kGramsPerPressureRatio = 1000 * kGasConstantAir / kGasConstantSteam;
 
 // Calls `draw` for each multiple of `step` from `from` to `to`.
 template <class Draw>
@@ -28,14 +26,14 @@ void ForMultiples(double from, double to, double step, const Draw& draw) {
 
 void PaintMollierPressure(const ChartPainting& painting, const VisibleRanges& visible) {
     const double p = painting.settings.pressure_bar * kHectopascalPerBar;
-    const auto pressure_of = [p](double x) { return p * x / (kGramsPerPressureRatio + x); };
+    const auto pressure_of = [p](double x) { return p * x / (kRealAirRatio + x); };
     const double from = pressure_of(visible.x_from), to = pressure_of(visible.x_to);
     if (!(to > from) || !(p > 0)) return;
     const double bottom = 0.968 * painting.height;
     const bool printed = painting.on_printer;
     ForMultiples(from, to, RoundStep(to - from, kPressureParts), [&](double vapour) {
         if (!(vapour > 0 && vapour < p)) return;
-        const double place = painting.scale.Xm(kGramsPerPressureRatio * vapour / (p - vapour));
+        const double place = painting.scale.Xm(kRealAirRatio * vapour / (p - vapour));
         painting.canvas.Line(place, bottom - (printed ? 6 : 5), place, bottom, kGrey);
         painting.canvas.Text(place - (printed ? 22 : 12), printed ? 545 : 548, NumberText(vapour));
     });

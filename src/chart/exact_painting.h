@@ -23,6 +23,7 @@ void PaintExactIsotherms(const ChartPainting& painting);
 void PaintExactHumidityGrid(const ChartPainting& painting);
 
 void PaintExactHumidityCurves(const ChartPainting& painting);
+void PaintExactEnthalpyLines(const ChartPainting& painting);
 void PaintExactDensityLines(const ChartPainting& painting);
 
 }  // namespace zandrell

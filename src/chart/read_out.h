@@ -48,7 +48,11 @@ struct ReadOutPanel {
 // numbers: there is no state in the fog. A point outside the limits of the state function shows
 // "-".
 void ShowStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel);
-// The same under Exact: the humidity is that of exactly this x, the density that of both gases.
+// The same under Exact, of the state with exactly this x.
 void ShowExactStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel);
+
+// The humidity fraction of the suite's air at t and x, with one correction step for the slight bend
+// of x over it. The solver is left at that state. Empty when the point is outside the limits.
+std::optional<double> HumidityAt(const ChartState& point, StateSolver& solver);
 
 }  // namespace zandrell

@@ -80,11 +80,10 @@ void TakePage(const Json& json, Sheet& sheet) {
     sheet.chart.Clear(json.at("background"), json.at("foreground"));
     for (const Json& operation : json.at("chart")) DrawFrom(operation, sheet.chart);
     for (const Json& item : json.at("items")) sheet.Add(ItemFrom(item));
+    for (const Json& page : json.at("further")) TakePage(page, sheet.further.emplace_back());
 }
 
-}  // namespace
-
-std::string SheetAsText(const Sheet& sheet) {
+Json AsJson(const Sheet& sheet) {
     Json json = {{"title", sheet.title},
                  {"paper", sheet.paper},
                  {"landscape", sheet.landscape},
@@ -98,8 +97,16 @@ std::string SheetAsText(const Sheet& sheet) {
     }
     Json& items = json["items"] = Json::array();
     for (const SheetItem& item : sheet.Items()) items.push_back(AsJson(item));
+    Json& further = json["further"] = Json::array();
+    for (const Sheet& page : sheet.further) further.push_back(AsJson(page));
+    return json;
+}
+
+}  // namespace
+
+std::string SheetAsText(const Sheet& sheet) {
     // Bytes of a title that are no UTF-8 must not stop a print-out.
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return AsJson(sheet).dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
 bool SheetFromText(const std::string& text, Sheet& sheet) {

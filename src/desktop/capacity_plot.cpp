@@ -41,6 +41,7 @@ void CapacityPlotView::paintEvent(QPaintEvent*) {
     PaintAxis(painter);
     PaintBars(painter);
     PaintDuty(painter);
+    PaintChosenFigure(painter);
 }
 
 void CapacityPlotView::PaintAxis(QPainter& painter) const {
@@ -78,9 +79,22 @@ void CapacityPlotView::PaintBars(QPainter& painter) const {
         painter.drawText(QRectF(0, -line / 2.0, height() - area_.bottom() - 6, line),
                          Qt::AlignLeft | Qt::AlignVCenter, ShownText(point.name));
         painter.restore();
+    }
+}
+
+// In front of all lines and bars, on a ground of its own.
+void CapacityPlotView::PaintChosenFigure(QPainter& painter) const {
+    const double step = area_.width() / static_cast<double>(plot_.points.size());
+    for (std::size_t i = 0; i < plot_.points.size(); ++i) {
+        const auto& point = plot_.points[i];
         if (!point.chosen) continue;
-        painter.drawText(QRectF(bar.center().x() - 4 * line, bar.top() - line, 8 * line, line),
-                         Qt::AlignCenter, ShownText(point.figure));
+        const double middle = area_.left() + (static_cast<double>(i) + 0.5) * step;
+        QRectF place(fontMetrics().boundingRect(ShownText(point.figure)));
+        place.adjust(-4, -1, 4, 1);
+        place.moveCenter({middle, Y(point.capacity) - place.height()});
+        painter.fillRect(place, ColourOf(LookColour::Panel));
+        painter.setPen(ColourOf(LookColour::Ink));
+        painter.drawText(place, Qt::AlignCenter, ShownText(point.figure));
     }
 }
 

@@ -21,6 +21,7 @@ class CapacityPlotView : public QWidget {
     void PaintAxis(QPainter& painter) const;
     void PaintBars(QPainter& painter) const;
     void PaintDuty(QPainter& painter) const;
+    void PaintChosenFigure(QPainter& painter) const;
 
     CapacityPlot plot_;
     QRectF area_;

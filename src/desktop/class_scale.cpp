@@ -19,7 +19,7 @@ struct Step {
 constexpr std::array<Step, 5> kSteps = {
     {{"A++ A+", 0x8CCB86}, {"A", 0xB9DE93}, {"B", 0xE8E28A}, {"C", 0xF0C77E}, {"D E", 0xEFA08E}}};
 constexpr int kTopOfFirst = 60, kTopOfLast = 2135;  // twips of the mark
-constexpr int kStepHeight = 17, kScaleWidth = 130;  // pixels at scale 1
+constexpr int kStepHeight = 17, kScaleWidth = 118;  // pixels at scale 1
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void ClassScale::paintEvent(QPaintEvent*) {
     const double step = height() / static_cast<double>(kSteps.size());
     for (std::size_t i = 0; i < kSteps.size(); ++i) {
         const double y = static_cast<double>(i) * step;
-        const double length = (0.46 + 0.09 * static_cast<double>(i)) * width();
+        const double length = (0.54 + 0.07 * static_cast<double>(i)) * width();
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(QRgb{kSteps[i].colour}));
         painter.drawRoundedRect(QRectF(0, y + 1, length, step - 2), 2, 2);

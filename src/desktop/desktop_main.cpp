@@ -1,6 +1,5 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
-#include <QString>
 #include <QTranslator>
 #include <cstdlib>
 #include <filesystem>
@@ -19,9 +18,8 @@ namespace {
 
 constexpr std::string_view kProgram = "zandrell";
 
-struct Arguments {
-    std::string data_folder, script, size, project;
-    QSize window_size;  // invalid: as the screen allows
+struct Arguments : StartArguments {
+    std::string project;
 };
 
 int Run(const Arguments& arguments, QApplication& application) {
@@ -59,17 +57,8 @@ int Run(const Arguments& arguments, QApplication& application) {
 int main(int argc, char** argv) {
     CLI::App command_line{"Humid air: Mollier and Carrier chart, processes of air treatment"};
     zandrell::Arguments arguments;
-    command_line.add_option("--data", arguments.data_folder, "The data folder")
-        ->type_name("DIR")
-        ->check(zandrell::FolderNameFault);
-    command_line.add_option("--script", arguments.script, "Acts to perform after the start")
-        ->type_name("FILE");
-    command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");
     command_line.add_option("project", arguments.project, "A project to open")->type_name("FILE");
-    CLI11_PARSE(command_line, argc, argv);
-    if (!zandrell::ReadWindowSize(zandrell::kProgram, arguments.size, arguments.window_size)) {
-        return EXIT_FAILURE;
-    }
-    const auto application = zandrell::StartApplication(zandrell::kProgram, argc, argv);
-    return application ? zandrell::Run(arguments, *application) : EXIT_FAILURE;
+    return zandrell::RunProgram(
+        zandrell::kProgram, command_line, arguments, argc, argv,
+        [&](QApplication& application) { return zandrell::Run(arguments, application); });
 }

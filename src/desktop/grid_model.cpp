@@ -20,6 +20,20 @@ bool IsFigure(const QString& text) {
     });
 }
 
+// A long word of a head may break where a unit or its second half begins, and never in a unit.
+QString Breakable(const QString& head) {
+    const QChar break_here(0x200B), keep_together(0x2060);
+    QString text;
+    bool in_unit = false;
+    for (const QChar c : head) {
+        if (c == QLatin1Char('[')) text += break_here;
+        in_unit = (in_unit || c == QLatin1Char('[')) && c != QLatin1Char(']');
+        text += c;
+        if (c == QLatin1Char('/')) text += in_unit ? keep_together : break_here;
+    }
+    return text;
+}
+
 }  // namespace
 
 QColor CellGround(int palette_number) {
@@ -75,12 +89,23 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     }
 }
 
+QString GridModel::SortMarkOf(int section) const {
+    if (!grid_.sort_mark || grid_.sort_mark->column != section) return {};
+    return grid_.sort_mark->descending ? QStringLiteral(" ▼") : QStringLiteral(" ▲");
+}
+
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        return ShownText(grid_.Text(0, section));
+    const QString head = ShownText(grid_.Text(0, section));
+    switch (role) {
+        case Qt::DisplayRole:
+            return Breakable(head) + SortMarkOf(section);
+        case Qt::ToolTipRole:
+        case Qt::AccessibleTextRole:
+            return head + SortMarkOf(section);
+        default:
+            return {};
     }
-    return {};
 }
 
 }  // namespace zandrell

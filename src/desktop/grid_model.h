@@ -25,6 +25,8 @@ class GridModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    QString SortMarkOf(int section) const;
+
     const Grid& grid_;
     long shown_ = -1;
     int rows_ = 0, columns_ = 0;

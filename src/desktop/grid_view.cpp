@@ -1,9 +1,12 @@
 #include "desktop/grid_view.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -14,12 +17,12 @@ namespace zandrell {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
-constexpr int kRowHeight = 22, kLeastColumn = 28, kCellMargin = 9;  // pixels at scale 1
+constexpr int kRowHeight = 22, kLeastColumn = 28, kCellMargin = 8;  // pixels at scale 1
 constexpr int kPreviewPause = 500;  // ms until a row under the pointer counts
 constexpr int kWheelStep = 120;
 constexpr int kNarrowColumn = 1000;  // twips
 constexpr int kNarrowest = 80;       // pixels at scale 1, of a text that gives way
-constexpr double kWidest = 1.6;      // of the width as designed
+constexpr double kHeadFont = 0.92;   // of the font of the rows
 
 // A ground that says whether a unit fits stays to be seen in the chosen row.
 class SignalDelegate : public QStyledItemDelegate {
@@ -35,6 +38,12 @@ class SignalDelegate : public QStyledItemDelegate {
         }
     }
 };
+
+// Where a head may be broken into lines.
+QStringList PartsOf(const QString& head) {
+    static const QRegularExpression breaks(QStringLiteral("[ \\x{200B}]"));
+    return head.split(breaks, Qt::SkipEmptyParts);
+}
 
 }  // namespace
 
@@ -56,6 +65,9 @@ GridView::GridView(Grid& grid, FormMirror& mirror, QWidget* parent)
     verticalHeader()->setDefaultSectionSize(Scaled(*this, kRowHeight));
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter |
                                             static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    QFont head_font = font();
+    head_font.setPointSizeF(kHeadFont * head_font.pointSizeF());
+    horizontalHeader()->setFont(head_font);
     horizontalHeader()->setMinimumSectionSize(0);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
@@ -122,71 +134,77 @@ QRect GridView::CellRect(int row, int column) const {
     return visualRect(model_.index(row - 1, column));
 }
 
-// What a column needs: the longest word of its head, and its texts as far as it was designed for
-// them.
+// What a column needs: the longest part of its head that cannot be broken, and its texts as far as
+// it was designed for them.
 void GridView::MeasureColumns() {
-    needed_.assign(static_cast<std::size_t>(grid_.ColumnCount()), 0);
+    wishes_.assign(static_cast<std::size_t>(grid_.ColumnCount()), {});
     const int margin = Scaled(*this, kCellMargin);
+    const QFontMetrics head_font = horizontalHeader()->fontMetrics();
     for (int column = 0; column < grid_.ColumnCount(); ++column) {
         if (grid_.Width(column) == 0) continue;
-        int needed = Scaled(*this, kLeastColumn);
-        for (const QString& word :
-             ShownText(grid_.Text(0, column)).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-            needed = std::max(needed, fontMetrics().horizontalAdvance(word) + margin);
+        ColumnWish& wish = wishes_[static_cast<std::size_t>(column)];
+        wish.grows = grid_.Width(column) > kNarrowColumn;
+        wish.designed = Scaled(*this, grid_.Width(column) / kTwipsPerPixel);
+        wish.least = Scaled(*this, kLeastColumn);
+        for (const QString& part : PartsOf(HeadText(column))) {
+            wish.least = std::max(wish.least, head_font.horizontalAdvance(part) + margin);
         }
-        const int designed = Scaled(*this, grid_.Width(column) / kTwipsPerPixel);
-        if (grid_.Width(column) <= kNarrowColumn) needed = std::max(needed, designed);
-        for (int row = 1; row < grid_.RowCount() && needed < designed; ++row) {
+        int longest = 0;
+        for (int row = 1; row < grid_.RowCount() && longest < wish.designed; ++row) {
             const QString text = ShownText(grid_.Text(row, column));
-            needed = std::max(needed,
-                              std::min(fontMetrics().horizontalAdvance(text) + margin, designed));
+            longest = std::max(longest, fontMetrics().horizontalAdvance(text) + margin);
         }
-        needed_[static_cast<std::size_t>(column)] = needed;
+        wish.least = std::max(wish.least, std::min(longest, wish.designed));
+        wish.wanted = wish.grows ? wish.least : std::max(wish.least, wish.designed);
     }
 }
 
 void GridView::FitColumns() {
-    if (static_cast<int>(needed_.size()) != grid_.ColumnCount()) return;
+    if (static_cast<int>(wishes_.size()) != grid_.ColumnCount() || wishes_.empty()) return;
     // The names give way where the window leaves no room; a tool tip has them whole.
-    int total = 0, longest = 0, wide = 0;
-    double designed_wide = 0;
+    int longest = 0;
     for (int column = 0; column < grid_.ColumnCount(); ++column) {
-        const int needed = needed_[static_cast<std::size_t>(column)];
-        total += needed;
         if (grid_.Width(column) > grid_.Width(longest)) longest = column;
-        if (grid_.Width(column) <= kNarrowColumn) continue;
-        designed_wide += grid_.Width(column);
-        ++wide;
     }
-    const int room = viewport()->width() - total;
+    const auto widths = WidthsInRoom(wishes_, static_cast<std::size_t>(longest),
+                                     viewport()->width(), Scaled(*this, kNarrowest));
     for (int column = 0; column < grid_.ColumnCount(); ++column) {
         if (grid_.Width(column) == 0) continue;
-        const int designed = Scaled(*this, grid_.Width(column) / kTwipsPerPixel);
-        int width = needed_[static_cast<std::size_t>(column)];
-        if (room < 0 && column == longest && width + room >= Scaled(*this, kNarrowest)) {
-            width += room;
-        }
-        if (room > 0 && grid_.Width(column) > kNarrowColumn) {
-            width += static_cast<int>(room * grid_.Width(column) / designed_wide);
-            // Beyond that the eye loses the row between two columns.
-            if (wide > 1) width = std::min(width, static_cast<int>(kWidest * designed));
-        }
-        setColumnWidth(column, width);
+        setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
     }
     FitHead();
+}
+
+QString GridView::HeadText(int column) const {
+    return model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
 // High enough for the head of the most lines.
 void GridView::FitHead() {
     int height = 2 * Scaled(*this, kRowHeight) - 4;
+    const QFontMetrics font = horizontalHeader()->fontMetrics();
     for (int column = 0; column < grid_.ColumnCount(); ++column) {
         if (isColumnHidden(column)) continue;
-        const QRect lines = fontMetrics().boundingRect(
+        const QRect lines = font.boundingRect(
             QRect(0, 0, columnWidth(column) - Scaled(*this, kCellMargin) / 2, height * 4),
-            Qt::TextWordWrap, ShownText(grid_.Text(0, column)));
+            Qt::TextWordWrap, HeadText(column));
         height = std::max(height, lines.height() + Scaled(*this, 6));
     }
     if (horizontalHeader()->height() != height) horizontalHeader()->setFixedHeight(height);
+}
+
+// What is to be read in the table needs no tool tip over it.
+bool GridView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const QModelIndex index = indexAt(static_cast<QHelpEvent*>(event)->pos());
+        const int needed = fontMetrics().horizontalAdvance(index.data(Qt::DisplayRole).toString()) +
+                           Scaled(*this, kCellMargin);
+        if (!index.isValid() || needed <= columnWidth(index.column())) {
+            QToolTip::hideText();
+            return true;
+        }
+    }
+    return QTableView::viewportEvent(event);
 }
 
 void GridView::TakeCurrent() {

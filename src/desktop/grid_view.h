@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desktop/form_mirror.h"
+#include "desktop/grid_columns.h"
 #include "desktop/grid_model.h"
 
 namespace zandrell {
@@ -32,12 +33,13 @@ class GridView : public QTableView {
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
   private:
     void MeasureColumns();
-    // No column is narrower than it needs; what is left is shared in their proportions.
     void FitColumns();
     void FitHead();
+    QString HeadText(int column) const;
     void TakeCurrent();
     void MoveCurrent(int by);
     void FollowScrolling();
@@ -49,7 +51,7 @@ class GridView : public QTableView {
     QTimer hover_;
     int pointed_row_ = 0;  // of the grid, until the pause is over
     int shown_top_ = 1;
-    std::vector<int> needed_;      // pixels a column; 0: hidden
+    std::vector<ColumnWish> wishes_;
     bool follows_choice_ = false;  // since a fill, until the user moves the list
     int wheel_ = 0;                // eighths of a degree that made no step yet
 };

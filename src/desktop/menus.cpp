@@ -38,7 +38,7 @@ const EntryKey kEntryKeys[] = {
 
 // The first entries of a group.
 constexpr std::string_view kGroupStarts[] = {"ProSpeich", "PrinterSetup", "Ende",        "ZustAe",
-                                             "Leist_Ber", "kopieren",     "HelpSoftware"};
+                                             "Leist_Ber", "StateList",    "HelpSoftware"};
 
 bool OpensMenu(std::string_view entry) {
     return std::any_of(kMenuTree.begin(), kMenuTree.end(),

@@ -79,7 +79,9 @@ QSlider* PanelBuilder::BarOf(const ScrollBar& control, const Control& caption,
     };
     bar->value_text = [bar, &control, counts_tenths] {
         const bool tenths = counts_tenths();
-        const QString unit = tenths ? bar->property("unit").toString() : QStringLiteral("%");
+        const QString named = bar->property("unit").toString();
+        const bool frequency = named == QLatin1String("Hz");
+        const QString unit = tenths || frequency ? named : QStringLiteral("%");
         const std::string value = tenths ? control.TenthsText() : control.PositionText();
         return ShownText(value) + QLatin1Char(' ') + unit;
     };

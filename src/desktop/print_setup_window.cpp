@@ -1,6 +1,7 @@
 #include "desktop/print_setup_window.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -69,6 +70,9 @@ QWidget* PrintSetupWindow::MakePaper() {
         orientations->addButton(button);
         grid->addWidget(button, row, column++);
     }
+    auto* states = new QCheckBox(group);
+    mirror_.Bind(states, setup_.StatesBox);
+    grid->addWidget(states, row + 1, 1, 1, 2);
     grid->setColumnStretch(2, 1);
     return group;
 }

@@ -1,5 +1,6 @@
 #include "desktop/program_start.h"
 
+#include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QScreen>
@@ -46,6 +47,20 @@ int Fail(std::string_view program, const std::string& message) {
     std::fprintf(stderr, "%.*s: %s\n", static_cast<int>(program.size()), program.data(),
                  message.c_str());
     return EXIT_FAILURE;
+}
+
+int RunProgram(std::string_view program, CLI::App& command_line, StartArguments& arguments,
+               int argc, char** argv, const std::function<int(QApplication&)>& run) {
+    command_line.add_option("--data", arguments.data_folder, "The data folder")
+        ->type_name("DIR")
+        ->check(FolderNameFault);
+    command_line.add_option("--script", arguments.script, "Acts to perform after the start")
+        ->type_name("FILE");
+    command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");
+    CLI11_PARSE(command_line, argc, argv);
+    if (!ReadWindowSize(program, arguments.size, arguments.window_size)) return EXIT_FAILURE;
+    const auto application = StartApplication(program, argc, argv);
+    return application ? run(*application) : EXIT_FAILURE;
 }
 
 std::string FolderNameFault(const std::string& name) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTranslator>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,10 +12,25 @@
 #include "shell/start_up.h"
 
 class QApplication;
+namespace CLI {
+class App;
+}
 
 namespace zandrell {
 
 // What the programs with windows have in common before their window stands.
+
+// The options that all of them know.
+struct StartArguments {
+    std::string data_folder, script, size;
+    QSize window_size;  // invalid: as the screen allows
+};
+
+// Adds those options to `command_line`, reads it, and runs `run` under an application of the
+// toolkit. Answers the status of the program: that of `run`, or that of a failure that has been
+// told.
+int RunProgram(std::string_view program, CLI::App& command_line, StartArguments& arguments,
+               int argc, char** argv, const std::function<int(QApplication&)>& run);
 
 // Writes "PROGRAM: message" to the errors and answers the status of a failed program.
 int Fail(std::string_view program, const std::string& message);

@@ -23,6 +23,10 @@ bool PaintOn(QPrinter& printer, const Sheet& sheet) {
     if (!painter.begin(&printer)) return false;
     const QRectF printable(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
     PaintSheet(painter, sheet, printable, printer.resolution() / kPointsPerInch);
+    for (const Sheet& next : sheet.further) {
+        if (!printer.newPage()) return false;
+        PaintSheet(painter, next, printable, printer.resolution() / kPointsPerInch);
+    }
     return painter.end();
 }
 

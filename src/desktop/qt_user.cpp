@@ -15,6 +15,7 @@
 #include "desktop/options_window.h"
 #include "desktop/print_setup_window.h"
 #include "desktop/project_window.h"
+#include "desktop/state_table_window.h"
 #include "painter/chart_file.h"
 #include "shell/help_in_hand.h"
 
@@ -83,6 +84,10 @@ void QtUser::ShowModal(ModalForm& window) {
     }
     if (auto* help = dynamic_cast<HelpForm*>(&window)) {
         HelpWindow dialog(*help, *opener_.pictures, parent);
+        return Run(dialog, window);
+    }
+    if (auto* table = dynamic_cast<StateTableForm*>(&window)) {
+        StateTableWindow dialog(*table, *opener_.pictures, parent);
         return Run(dialog, window);
     }
     Refuse(window);

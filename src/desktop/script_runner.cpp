@@ -4,11 +4,6 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
-#include <QTimer>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <sstream>
 
@@ -41,58 +36,7 @@ void PaintDialog(QPixmap& picture, QWidget& dialog, QWidget& window) {
 }  // namespace
 
 ScriptRunner::ScriptRunner(MainForm& form, MainWindow& window, QtUser& user)
-    : window_(window), script_(form, std::cout) {
-    std::cout << std::unitbuf;  // who reads the dumps acts on them
-    user.on_window = [this](ModalForm* opened) {
-        if (opened) {
-            script_.WindowOpened(*opened);
-        } else {
-            script_.WindowClosed();
-        }
-    };
-    user.on_message = [this](const Message& message) { script_.NoteMessage(message); };
-}
-
-bool ScriptRunner::Start(const std::string& path) {
-    std::error_code error;
-    std::ifstream file(path);
-    if (!file || std::filesystem::is_directory(path, error)) return false;
-    int number = 0;
-    for (std::string line; ReadScriptLine(file, line);) {
-        ++number;
-        if (line.size() > kLongestScriptLine) return false;
-        for (std::string& act : ActsOf(line)) lines_.emplace_back(number, std::move(act));
-    }
-    Schedule();
-    return true;
-}
-
-// A timer of its own for each line: one timer would not fire again inside its own handler.
-void ScriptRunner::Schedule() {
-    QTimer::singleShot(0, &context_, [this] { RunNextLine(); });
-}
-
-// A line that opens a window returns only when that has closed; the lines in between run inside it.
-void ScriptRunner::RunNextLine() {
-    if (lines_.empty()) {
-        if (shot_taken_) QApplication::exit(EXIT_SUCCESS);
-        return;
-    }
-    const auto [number, line] = lines_.front();
-    lines_.pop_front();
-    Schedule();
-    std::string error;
-    if (!RunLine(line, error)) Fail(std::to_string(number), error);
-    RefreshWindows();
-}
-
-void ScriptRunner::Fail(const std::string& line, const std::string& error) {
-    std::fprintf(stderr, "zandrell: line %s: %s\n", line.c_str(), error.c_str());
-    failed_ = true;
-    lines_.clear();
-    shot_taken_ = false;
-    QApplication::exit(EXIT_FAILURE);
-}
+    : WindowScript("zandrell", FormScript(form, std::cout), user), window_(window) {}
 
 bool ScriptRunner::RunLine(const std::string& line, std::string& error) {
     std::istringstream words(line);

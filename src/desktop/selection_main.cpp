@@ -18,10 +18,8 @@ namespace {
 
 constexpr std::string_view kProgram = "zandrell-selection";
 
-struct Arguments {
-    std::string data_folder, script, size;
+struct Arguments : StartArguments {
     double duty = 0, flow = 0;  // kW, m3/h; 0: as the last time
-    QSize window_size;          // invalid: as the screen allows
 };
 
 // What the main program noted goes in front of the duty of the last time.
@@ -67,7 +65,8 @@ int Run(const Arguments& arguments, QApplication& application) {
     window.TakeFocus();
     // The duty in force is kept whenever it is taken: nothing is left to save.
     const EndSignals end_signals([] {}, user);
-    SelectionScript script(desk, planner, window, user);
+    SelectionStage stage(desk);
+    SelectionScript script(stage, planner, window, user);
     if (!arguments.script.empty() && !script.Start(arguments.script)) {
         return Fail(kProgram, arguments.script + ": can not be read");
     }
@@ -81,18 +80,11 @@ int Run(const Arguments& arguments, QApplication& application) {
 int main(int argc, char** argv) {
     CLI::App command_line{"Selects components out of the catalogues of makers"};
     zandrell::Arguments arguments;
-    command_line.add_option("--data", arguments.data_folder, "The data folder")
-        ->type_name("DIR")
-        ->check(zandrell::FolderNameFault);
-    command_line.add_option("--duty", arguments.duty, "Required capacity in kW");
-    command_line.add_option("--flow", arguments.flow, "Air flow in m3/h");
-    command_line.add_option("--script", arguments.script, "Acts to perform after the start")
-        ->type_name("FILE");
-    command_line.add_option("--size", arguments.size, "Size of the window")->type_name("WxH");
-    CLI11_PARSE(command_line, argc, argv);
-    if (!zandrell::ReadWindowSize(zandrell::kProgram, arguments.size, arguments.window_size)) {
-        return EXIT_FAILURE;
-    }
-    const auto application = zandrell::StartApplication(zandrell::kProgram, argc, argv);
-    return application ? zandrell::Run(arguments, *application) : EXIT_FAILURE;
+    command_line.add_option("--duty", arguments.duty, "Required capacity in kW")
+        ->check(CLI::PositiveNumber);
+    command_line.add_option("--flow", arguments.flow, "Air flow in m3/h")
+        ->check(CLI::PositiveNumber);
+    return zandrell::RunProgram(
+        zandrell::kProgram, command_line, arguments, argc, argv,
+        [&](QApplication& application) { return zandrell::Run(arguments, application); });
 }

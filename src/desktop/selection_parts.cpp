@@ -10,7 +10,7 @@
 namespace zandrell {
 namespace {
 
-constexpr int kPictureSide = 92;  // pixels at scale 1
+constexpr int kPictureSide = 84;  // pixels at scale 1
 
 QComboBox* ChoiceOf(const ComboBox& box, const Label& caption, FormMirror& mirror,
                     QWidget* parent) {
@@ -34,7 +34,7 @@ void AddFields(PlannerForm& planner, FormMirror& mirror, QGridLayout& grid, Duty
         auto* caption = build.Caption(field->label);
         caption->setWordWrap(true);
         grid.addWidget(caption, row, 0);
-        auto* edit = build.Field(field->field, field->label, {}, 6);
+        auto* edit = build.Field(field->field, field->label, {}, 5);
         edit->setFixedWidth(edit->sizeHint().width());
         grid.addWidget(edit, row++, 1, Qt::AlignRight);
         if (field->value != &SelectionDuty::capacity) continue;
@@ -69,7 +69,9 @@ QBoxLayout* PictureAndClass(VentZeigControls& c, FormMirror& mirror, const Capti
         scale->update();
     });
     row->addWidget(scale);
-    row->addWidget(PanelBuilder(mirror, panel).Caption(c.R_Label, true));
+    QLabel* name = PanelBuilder(mirror, panel).Caption(c.R_Label, true);
+    name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    row->addWidget(name);
     row->addStretch(1);
     return row;
 }
@@ -111,6 +113,7 @@ QWidget* Frequency(VentZeigControls& c, FormMirror& mirror) {
 QWidget* Energy(VentZeigControls& c, FormMirror& mirror) {
     auto* group = new QGroupBox;
     auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(8, 8, 8, 8);
     PanelBuilder build(mirror, group);
     const struct {
         Label *caption, *figure, *unit;
@@ -119,7 +122,9 @@ QWidget* Energy(VentZeigControls& c, FormMirror& mirror) {
                 {&c.Label46, &c.CO2consum, &c.Label33}};
     int line = 0;
     for (const auto& row : rows) {
-        grid->addWidget(build.Caption(*row.caption), line, 0);
+        auto* caption = build.Caption(*row.caption);
+        caption->setWordWrap(true);
+        grid->addWidget(caption, line, 0);
         grid->addWidget(build.Figure(*row.figure, *row.caption, {}, 5), line, 1);
         if (row.unit) grid->addWidget(build.Caption(*row.unit), line, 2);
         ++line;
@@ -190,6 +195,7 @@ QWidget* MakeUnitColumn(VentZeigControls& c, FormMirror& mirror, const Captions&
     capacity->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     capacity->setWordWrap(true);
     mirror.Bind(capacity, c.Label37_l);
+    mirror.Describe(capacity, c.Label37);
     layout->addWidget(capacity);
     layout->addWidget(Frequency(c, mirror));
     layout->addWidget(Energy(c, mirror));

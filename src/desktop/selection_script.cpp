@@ -2,53 +2,17 @@
 
 #include <QApplication>
 #include <QPixmap>
-#include <QTimer>
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
 #include <iostream>
 
 namespace zandrell {
 
-SelectionScript::SelectionScript(SelectionDesk& desk, PlannerForm& planner, SelectionWindow& window,
-                                 QtUser& user)
-    : planner_(planner), window_(window), stage_(desk), script_(stage_, std::cout) {
-    user.on_window = [this](ModalForm* opened) {
-        if (opened) {
-            script_.WindowOpened(*opened);
-        } else {
-            script_.WindowClosed();
-        }
-    };
-    user.on_message = [this](const Message& message) { script_.NoteMessage(message); };
-}
+SelectionScript::SelectionScript(SelectionStage& stage, PlannerForm& planner,
+                                 SelectionWindow& window, QtUser& user)
+    : WindowScript("zandrell-selection", FormScript(stage, std::cout), user),
+      planner_(planner),
+      window_(window) {}
 
-bool SelectionScript::Start(const std::string& path) {
-    std::ifstream file(path);
-    if (!file) return false;
-    for (std::string line; std::getline(file, line);) {
-        for (std::string& act : ActsOf(line)) lines_.push_back(std::move(act));
-    }
-    Schedule();
-    return true;
-}
-
-void SelectionScript::Schedule() {
-    QTimer::singleShot(0, &context_, [this] { RunNextLine(); });
-}
-
-void SelectionScript::RunNextLine() {
-    if (window_.IsFilling()) return Schedule();
-    if (lines_.empty()) return QApplication::exit(failed_ ? EXIT_FAILURE : EXIT_SUCCESS);
-    const std::string line = lines_.front();
-    lines_.pop_front();
-    Schedule();
-    std::string error;
-    if (!RunLine(line, error)) {
-        std::fprintf(stderr, "zandrell-selection: %s: %s\n", line.c_str(), error.c_str());
-        failed_ = true;
-        lines_.clear();
-    }
+void SelectionScript::RefreshWindows() {
     if (auto* dialog = dynamic_cast<ModalWindow*>(QApplication::activeModalWidget())) {
         dialog->Refresh();
     } else {

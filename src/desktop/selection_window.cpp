@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QKeyEvent>
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -16,19 +16,24 @@
 namespace zandrell {
 namespace {
 
-constexpr int kDutyWidth = 262, kUnitWidth = 262;  // pixels at scale 1
-constexpr int kPreviewSide = 120;                  // pixels at scale 1
-constexpr int kFrameTime = 16;                     // ms
+constexpr int kDutyWidth = 250, kUnitWidth = 262;  // pixels at scale 1
+constexpr int kRoomyDuty = 280;                    // pixels at scale 1, where there is room
+constexpr int kGap = 8;                            // pixels, between the columns
+constexpr int kRoomForBoth = 1150;  // pixels at scale 1, of the two lists beside each other
+constexpr int kDutyShare = 2, kListsShare = 5;  // of the room for both
+constexpr int kPreviewSide = 120;               // pixels at scale 1
+constexpr int kFrameTime = 16;                  // ms
 constexpr int kTwipsPerPixel = 15;
 
 // A column that is scrolled where the window leaves it no room.
-QScrollArea* Scrolled(QWidget* content, int width) {
+QScrollArea* Scrolled(QWidget* content, int least, int most) {
     auto* area = new QScrollArea;
     area->setWidget(content);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFixedWidth(width);
+    area->setMinimumWidth(least);
+    area->setMaximumWidth(most);
     area->setFocusPolicy(Qt::NoFocus);
     return area;
 }
@@ -44,18 +49,19 @@ SelectionWindow::SelectionWindow(SelectionDesk& desk, PlannerForm& planner, QtUs
       planner_mirror_(planner, pictures_) {
     setWindowTitle(ShownText(planner.title));
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(10, 10, 10, 10);
-    layout->setSpacing(10);
+    layout->setContentsMargins(kGap, kGap, kGap, kGap);
+    layout->setSpacing(kGap);
     const DutyColumn duty = MakeDutyColumn(planner, planner_mirror_);
     first_field_ = duty.first_field;
-    layout->addWidget(Scrolled(duty.panel, Scaled(*this, kDutyWidth)));
+    layout->addWidget(Scrolled(duty.panel, Scaled(*this, kDutyWidth), Scaled(*this, kRoomyDuty)),
+                      kDutyShare);
     auto* middle = new QVBoxLayout;
     middle->addWidget(MakeLists(), 1);
     middle->addWidget(MakeFoot());
-    layout->addLayout(middle, 1);
+    layout->addLayout(middle, kListsShare);
     auto* right = new QVBoxLayout;
     QWidget* unit = MakeUnitColumn(desk.window.controls, mirror_, desk.captions);
-    right->addWidget(Scrolled(unit, Scaled(*this, kUnitWidth)), 1);
+    right->addWidget(Scrolled(unit, Scaled(*this, kUnitWidth), Scaled(*this, kUnitWidth)), 1);
     right->addWidget(MakeWishes(planner, planner_mirror_));
     layout->addLayout(right);
     AddWriters();
@@ -63,26 +69,32 @@ SelectionWindow::SelectionWindow(SelectionDesk& desk, PlannerForm& planner, QtUs
                  [this] { desk_.OpenHelp(); }, &desk.help});
     mirror_.after_act = planner_mirror_.after_act = [this] { Refresh(); };
     desk.window.host.show_progress = [this] { ShowProgress(); };
-    planner.show_comparison = [this] {
-        ShowComparison(planner_.lists.Comparison, ShownText(planner_.Compare.text), this);
-    };
-    planner.show_plot = [this](const CapacityPlot& plot) {
-        ShowCapacityPlot(plot, ShownText(planner_.Plot.text), this);
-    };
-    planner.ask_file = [this] {
-        return QFileDialog::getSaveFileName(this, ShownText(planner_.Csv.text), {},
-                                            QStringLiteral("CSV (*.csv)"))
-            .toStdString();
-    };
+    BindPlanner();
     since_progress_.start();
     planner_mirror_.Mirror();
     mirror_.Mirror();
 }
 
+void SelectionWindow::BindPlanner() {
+    const auto words = [this](const Button& button) {
+        return DialogWords{ShownText(button.text), ShownText(desk_.captions[Caption::Back])};
+    };
+    planner_.show_comparison = [this, words] {
+        ShowComparison(planner_.lists.Comparison, words(planner_.Compare), this);
+    };
+    planner_.show_plot = [this, words](const CapacityPlot& plot) {
+        ShowCapacityPlot(plot, words(planner_.Plot), this);
+    };
+    planner_.ask_file = [this](const std::string& proposal) {
+        return AskForCsvFile(ShownText(planner_.Csv.text), proposal, this);
+    };
+}
+
 QWidget* SelectionWindow::MakeLists() {
-    auto* splitter = new QSplitter(Qt::Vertical, this);
-    splitter->setChildrenCollapsible(false);
-    auto* upper = new QWidget(splitter);
+    splitter_ = new QSplitter(Qt::Vertical, this);
+    splitter_->setChildrenCollapsible(false);
+    splitter_->setHandleWidth(kGap);
+    auto* upper = new QWidget(splitter_);
     auto* layout = new QVBoxLayout(upper);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(MakeSearch());
@@ -101,11 +113,18 @@ QWidget* SelectionWindow::MakeLists() {
     tip_->setAutoFillBackground(true);
     tip_->setMargin(4);
     tip_->hide();
-    splitter->addWidget(upper);
-    splitter->addWidget(MakeUnits());
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
-    return splitter;
+    splitter_->addWidget(upper);
+    // The keys go on in the list behind the units when those close; this stands in front of the
+    // writer that hides them.
+    mirror_.AddWriter([this] {
+        if (unit_panel_ == nullptr || desk_.window.controls.pn77.visible) return;
+        if (unit_panel_->isAncestorOf(focusWidget())) series_->setFocus();
+    });
+    unit_panel_ = MakeUnits();
+    splitter_->addWidget(unit_panel_);
+    splitter_->setStretchFactor(0, 2);
+    splitter_->setStretchFactor(1, 3);
+    return splitter_;
 }
 
 QWidget* SelectionWindow::MakeSearch() {
@@ -191,12 +210,19 @@ QWidget* SelectionWindow::MakeFoot() {
 void SelectionWindow::AddWriters() {
     VentZeigControls& c = desk_.window.controls;
     BindPicture(preview_, c.Picture2, kPreviewSide, mirror_);
-    mirror_.AddWriter([this] { PlaceOverlays(); });
-    mirror_.AddWriter([this, &c] {
-        const double share = c.Picture3.width > 0 ? c.Shape9.width / c.Picture3.width : 0;
-        progress_->setVisible(desk_.window.pointer_busy);
-        progress_->setValue(qRound(100 * share));
+    mirror_.AddWriter([this, &c, open = false]() mutable {
+        if (c.pn77.visible && !open) units_->setFocus();
+        open = c.pn77.visible;
     });
+    mirror_.AddWriter([this] { PlaceOverlays(); });
+    mirror_.AddWriter([this] { MirrorProgress(); });
+}
+
+// Only while it runs: the window is busy with other things too.
+void SelectionWindow::MirrorProgress() {
+    const VentZeigControls& c = desk_.window.controls;
+    progress_->setVisible(desk_.window.pointer_busy && c.Shape9.width < c.Picture3.width);
+    progress_->setValue(qRound(100 * c.Shape9.width / c.Picture3.width));
 }
 
 // What floats over the lists stands beside its row.
@@ -207,8 +233,9 @@ void SelectionWindow::PlaceOverlays() {
         preview_->adjustSize();
         const QRect row = series_->CellRect(c.KatalogSpread.hovered_row, 1);
         const int lowest = series_->viewport()->height() - preview_->height();
-        preview_->move(series_->viewport()->width() - preview_->width() - 8,
-                       std::clamp(row.top(), 0, std::max(lowest, 0)));
+        const int rightmost = series_->viewport()->width() - preview_->width() - 8;
+        const int left = Scaled(*this, static_cast<int>(c.Picture2.left) / kTwipsPerPixel);
+        preview_->move(std::min(left, rightmost), std::clamp(row.top(), 0, std::max(lowest, 0)));
         preview_->raise();
     }
     tip_->setVisible(c.AssitPN.visible);
@@ -238,9 +265,7 @@ void SelectionWindow::Refresh() {
 void SelectionWindow::ShowProgress() {
     // One series is read too fast to be told of.
     if (!desk_.window.pointer_busy || since_progress_.elapsed() < kFrameTime) return;
-    const VentZeigControls& c = desk_.window.controls;
-    progress_->setVisible(true);
-    progress_->setValue(qRound(100 * c.Shape9.width / c.Picture3.width));
+    MirrorProgress();
     filling_ = true;
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     filling_ = false;
@@ -267,6 +292,14 @@ void SelectionWindow::keyPressEvent(QKeyEvent* event) {
         if (c.pn77.visible) return mirror_.Click(c.Command3D3.name);
     }
     QWidget::keyPressEvent(event);
+}
+
+// Where there is room for both beside each other, the units stand beside the series.
+void SelectionWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int room = width() - Scaled(*this, kDutyWidth + kUnitWidth);
+    const auto wanted = room >= Scaled(*this, kRoomForBoth) ? Qt::Horizontal : Qt::Vertical;
+    if (splitter_->orientation() != wanted) splitter_->setOrientation(wanted);
 }
 
 void SelectionWindow::closeEvent(QCloseEvent* event) {

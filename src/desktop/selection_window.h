@@ -34,8 +34,10 @@ class SelectionWindow : public QWidget {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void BindPlanner();
     QWidget* MakeLists();
     QWidget* MakeSearch();
     QWidget* MakeUnits();
@@ -43,12 +45,15 @@ class SelectionWindow : public QWidget {
     void AddWriters();
     void PlaceOverlays();
     void ShowProgress();
+    void MirrorProgress();
 
     SelectionDesk& desk_;
     PlannerForm& planner_;
     QtUser& user_;
     Pictures pictures_;
     FormMirror mirror_, planner_mirror_;
+    QSplitter* splitter_ = nullptr;
+    QWidget* unit_panel_ = nullptr;
     GridView* series_ = nullptr;
     GridView* units_ = nullptr;
     QLineEdit* cell_box_ = nullptr;

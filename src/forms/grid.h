@@ -19,6 +19,13 @@ class Grid : public Control {
     int hovered_row = 0;      // under the pointer; 0: none
     int asked_column = 0;     // whose head was acted on last
 
+    // The column by which the rows are sorted; empty while they stand as they were filled.
+    struct SortMark {
+        int column = 0;
+        bool descending = false;
+    };
+    std::optional<SortMark> sort_mark;
+
     int RowCount() const { return static_cast<int>(rows_.size()); }
     int ColumnCount() const { return static_cast<int>(widths_.size()); }
     // New rows are empty and have `height`; rows that stay keep what they hold.

@@ -22,10 +22,8 @@ struct AirState {
     double SiedeTempK = 0;            // boiling temperature of water at the total pressure, K
 };
 
-// Density of the humid air as the sum of what both gases weigh at their partial pressures, kg/m3; t
-// in degC. ZustandDichte, an empirical form, lies up to 1 % off it at 50 degC.
-double DensityOfBothGases(const AirState& state, double t);
-// The dry air in 1 m3 of the humid air, kg.
+// The dry air in 1 m3 of the humid air at its partial pressure, kg; t in degC. ZustandDichte, an
+// empirical form, lies up to 1 % off what both gases weigh at 50 degC.
 double DryAirInAir(const AirState& state, double t);
 
 // Replaces what the state function does not take: a negative humidity becomes 0.01, one above 1

@@ -61,10 +61,6 @@ bool AllFinite(const AirState& state) {
                          state.SiedeTempK);
 }
 
-double DensityOfBothGases(const AirState& state, double t) {
-    return DryAirInAir(state, t) + state.ZustandPDampf / (kGasConstantSteam * (t + kKelvinOffset));
-}
-
 double DryAirInAir(const AirState& state, double t) {
     return state.ZustandPLuft / (kGasConstantAir * (t + kKelvinOffset));
 }

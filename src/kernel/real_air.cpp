@@ -213,6 +213,18 @@ std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar)
     return state;
 }
 
+std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar) {
+    if (!(x >= 0 && x <= kRealAirMostX && t >= kRealAirLowest && t <= kRealAirHighest) ||
+        !PressureWithinLimits(p_bar)) {
+        return std::nullopt;
+    }
+    const double w = VariableAt(t);
+    RealAirState state =
+        StateOf(Virials(w), w, t + kOffset, p_bar * kPascalPerBar, x / (kRealAirRatio + x));
+    state.x = x;
+    return state;
+}
+
 void EvaluateRealAirs(std::span<const double> relF, std::span<const double> t,
                       std::span<const double> p_bar,
                       std::span<std::optional<RealAirState>> states) {

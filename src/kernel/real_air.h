@@ -13,8 +13,11 @@ namespace zandrell {
 // Limits, inclusive.
 inline constexpr double kRealAirLowest = -60, kRealAirHighest = 100;      // degC
 inline constexpr double kRealAirLowestBar = 0.5, kRealAirHighestBar = 2;  // bar
+inline constexpr double kRealAirMostX = 10000;                            // g/kg
+// x of as many moles of vapour as of dry air, g/kg.
+inline constexpr double kRealAirRatio = 1000 * 18.015268 / 28.966;
 inline constexpr double kRealAirMostWater =
-    10 / (10 + 18.015268 / 28.966);  // of the moles: 10 kg/kg
+    kRealAirMostX / (kRealAirMostX + kRealAirRatio);  // of the moles
 
 // Per kg of dry air where not said otherwise.
 struct RealAirState {
@@ -40,8 +43,13 @@ double RealSaturatedVapour(double t, double p_bar);
 // outside the limits, for a humidity outside 0..1 and for more than 10 kg of water per kg.
 std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar);
 
-// The same for arrays: state i from relF[i], t[i] and p_bar[i], or p_bar[0] for all. Requires: as
-// many states and temperatures as humidities, as many pressures or one.
+// The gas with this x in g/kg (0 to 10 kg/kg) at t in degC and p_bar, also where a little more
+// vapour is in it than saturates; far beyond saturation the virial coefficients mean nothing.
+// `enhancement` is left at 1. Empty outside the limits.
+std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar);
+
+// EvaluateRealAir for arrays: state i from relF[i], t[i] and p_bar[i], or p_bar[0] for all.
+// Requires: as many states and temperatures as humidities, as many pressures or one.
 void EvaluateRealAirs(std::span<const double> relF, std::span<const double> t,
                       std::span<const double> p_bar, std::span<std::optional<RealAirState>> states);
 

@@ -11,9 +11,7 @@
 namespace zandrell {
 namespace {
 
-constexpr double kRatio = 1000 * 18.015268 / 28.966;  // g/kg
 constexpr double kPascalPerBar = 100000;
-constexpr double kMostX = 10000;          // g/kg
 constexpr double kLowestDewPoint = -100;  // degC
 constexpr double kCloseEnough = 1e-12;    // of what is bracketed
 constexpr double kRounding = 1e-9;        // by which an end may be missed, relative to 1 + its size
@@ -27,7 +25,7 @@ double VapourPressureOf(GivenFigure given, double p_bar) {
     const double p = p_bar * kPascalPerBar;
     switch (given.figure) {
         case AirFigure::HumidityRatio:
-            return p * given.value / (kRatio + given.value);
+            return p * given.value / (kRealAirRatio + given.value);
         case AirFigure::DewPoint:
             return RealSaturatedVapour(given.value, p_bar);
         default:
@@ -105,7 +103,7 @@ class PairSearch {
                 least = 0, most = 1;
                 break;
             case AirFigure::HumidityRatio:
-                least = 0, most = kMostX;
+                least = 0, most = kRealAirMostX;
                 break;
             case AirFigure::DewPoint:
                 least = kLowestDewPoint, most = HighestTemperature(1, p_bar_);

@@ -39,8 +39,12 @@ QByteArray SheetPdf(const Sheet& sheet) {
     writer.setCreator(QStringLiteral("Zandrell"));
     QPainter painter;
     if (!painter.begin(&writer)) return {};
-    PaintSheet(painter, sheet, QRectF(0, 0, writer.width(), writer.height()),
-               kDotsPerInch / kPointsPerInch);
+    const QRectF page(0, 0, writer.width(), writer.height());
+    PaintSheet(painter, sheet, page, kDotsPerInch / kPointsPerInch);
+    for (const Sheet& next : sheet.further) {
+        writer.newPage();
+        PaintSheet(painter, next, page, kDotsPerInch / kPointsPerInch);
+    }
     painter.end();
     return bytes;
 }

@@ -11,7 +11,8 @@ namespace zandrell {
 // The paper of a page, its whole sheet printable.
 QPageLayout LayoutOf(const Sheet& sheet);
 
-// One page: curves as paths, texts as texts, fonts embedded. Requires: a QGuiApplication.
+// The page and those behind it: curves as paths, texts as texts, fonts embedded. Requires: a
+// QGuiApplication.
 QByteArray SheetPdf(const Sheet& sheet);
 
 // Replaces the file only when the new one is whole. On failure the result is false and `error` one

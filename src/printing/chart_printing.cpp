@@ -1,6 +1,7 @@
 #include "printing/chart_printing.h"
 
 #include "printing/page_printer.h"
+#include "printing/state_page.h"
 
 namespace zandrell {
 namespace {
@@ -81,7 +82,20 @@ Sheet ChartPrinting::ComposeSheet() {
     sheet.SetScale(kChartPage);
     PrintMarks(context_.overlay, sheet);
     PrintFigures(source, sheet);
+    if (context_.shared.prints_states) AddStates(sheet);
     return sheet;
+}
+
+// Without a process there are no states, and no page for them.
+void ChartPrinting::AddStates(Sheet& sheet) {
+    const StateList list = ListStates(context_.processes);
+    if (list.rows.empty()) return;
+    Sheet& page = sheet.further.emplace_back();
+    page.paper = sheet.paper;
+    page.title = sheet.title;
+    PagePrinter(page, context_.shared, context_.captions, context_.chart.controls.Picture_p.picture)
+        .PrintPageHeader(page.title, "2", 0, 0, context_.shared.PaperOrientation);
+    PrintStates(list, context_.captions[Caption::StateTable], page);
 }
 
 }  // namespace zandrell

@@ -47,6 +47,7 @@ class ChartPrinting {
 
   private:
     void TakeProjectTexts();
+    void AddStates(Sheet& sheet);
     void Print();
 
     PrintingContext context_;

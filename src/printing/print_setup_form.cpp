@@ -34,9 +34,9 @@ PrintSetupForm::PrintSetupForm(const DataFiles& files, SharedValues& shared,
 }
 
 void PrintSetupForm::ListControls() {
-    form.Add({&Size_combo, &Date_Combo, &Option1, &Option2, &Landscape, &Text1, &Picture1,
-              &Command1, &fontlist, &fontlist2, &Font_S, &FonttestPN, &font_label, &Slider1,
-              &Slider2, &Line7, &Combo1});
+    form.Add({&Size_combo, &Date_Combo, &Option1, &Option2, &StatesBox, &Landscape, &Text1,
+              &Picture1, &Command1, &fontlist, &fontlist2, &Font_S, &FonttestPN, &font_label,
+              &Slider1, &Slider2, &Line7, &Combo1});
     form.Add({&Label3, &Label4, &Label5, &Label6, &Frame3d1, &iceC});
     form.Add({&Panel3D1, &Pwidth, &Pheight, &Swidth, &Sheight, &Command3D1});
     form.Add({&Okbutt, &Okbutt_l, &Abbutt, &Abbutt_l, &drbutt, &drbutt_l, &prevButt, &prevButt_l,
@@ -97,7 +97,7 @@ void PrintSetupForm::Load() {
                                                             &Line7, &Combo1}) {
         control->visible = ForOtherModule();
     }
-    fontlist.visible = !ForOtherModule();
+    fontlist.visible = StatesBox.visible = !ForOtherModule();
 }
 
 void PrintSetupForm::Activate() {
@@ -108,6 +108,7 @@ void PrintSetupForm::Activate() {
         Size_combo.text = shared_.PaperSize;
     }
     ShowOrientation(shared_.PaperOrientation == 2);
+    StatesBox.on = shared_.prints_states;
     FillDates();
     ShowPrinterInformation(false);
     LoadLogo();
@@ -133,6 +134,7 @@ void PrintSetupForm::SetCaptions() {
     Label6.text = captions_[Caption::Date];
     Option1.text = captions_[Caption::Portrait];
     Option2.text = captions_[Caption::Landscape];
+    StatesBox.text = captions_[Caption::StateTable];
     font_label.text = captions_[Caption::Font];
     FonttestPN.text = "Aa Bb Cc 123 °C kJ/kg";
     Okbutt_l.text = Command3D1.text = "O.K.";
@@ -205,12 +207,14 @@ void PrintSetupForm::ShowPrinterInformation(bool shown) {
 void PrintSetupForm::Preview() {
     const std::string size = shared_.PaperSize, code = shared_.DateFormatCode;
     const int orientation = shared_.PaperOrientation;
+    const bool states = shared_.prints_states;
     TakeTypedLogo();
     shared_.DateFormatCode = ChosenDateCode();
     TakePaper();
     if (show_preview) show_preview();
     shared_.PaperSize = size;
     shared_.PaperOrientation = orientation;
+    shared_.prints_states = states;
     shared_.DateFormatCode = code;
 }
 
@@ -227,6 +231,7 @@ std::string PrintSetupForm::ChosenDateCode() const {
 
 void PrintSetupForm::TakePaper() {
     shared_.PaperOrientation = Option2.on ? 2 : 1;
+    shared_.prints_states = StatesBox.on;
     if (std::find(Size_combo.items.begin(), Size_combo.items.end(), Size_combo.text) !=
         Size_combo.items.end()) {
         shared_.PaperSize = Size_combo.text;

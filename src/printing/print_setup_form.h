@@ -25,6 +25,7 @@ class PrintSetupForm : public ModalForm {
 
     ComboBox Size_combo{"Size_combo"}, Date_Combo{"Date_Combo"}, Font_S{"Font_S"}, Combo1{"Combo1"};
     OptionButton Option1{"Option1", true}, Option2{"Option2"};  // portrait, landscape
+    CheckBox StatesBox{"StatesBox"};  // a second page with the table of states
     Panel Landscape{"Landscape", ControlKind::Picture}, Picture1{"Picture1", ControlKind::Picture},
         iceC{"iceC", ControlKind::Picture};
     TextField Text1{"Text1"};  // path of the logo

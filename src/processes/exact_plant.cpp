@@ -3,36 +3,40 @@
 #include <algorithm>
 
 #include "base/unit_factors.h"
-#include "kernel/air_from_x.h"
 
 namespace zandrell {
 namespace {
 
 constexpr double kGramsPerKg = 1000;
 
-std::optional<double> XOf(StateSolver& solver, double percent, double t) {
-    if (!solver.Evaluate(percent / 100, t)) return std::nullopt;
-    return solver.ZustandX;
+// A percentage above 100 counts as 100, as everywhere.
+std::optional<double> XOf(const ExactAir& air, double percent, double t) {
+    double fraction = percent / 100, p_bar = air.PressureBar();
+    ClampArguments(fraction, p_bar);
+    return air.XFromHumidity(fraction, t);
 }
 
 // The percentage of x at t, and x itself brought down to saturation.
-bool Raise(StateSolver& solver, double t, double& percent, double& x) {
-    const auto fraction = FractionFromX(solver, t, x);
+bool Raise(const ExactAir& air, double t, double& percent, double& x) {
+    const auto fraction = air.Fraction(t, x);
     if (!fraction) return false;
     percent = 100 * *fraction;
     if (percent <= 100) return true;
     percent = 100;
-    x = solver.ZustandX;
+    x = air.SaturatedX(t).value_or(x);
     return true;
 }
 
-// Asks for air after air and remembers whether one is outside the limits.
+// Asks for state after state and remembers whether one is outside the limits.
 class Airs {
   public:
-    explicit Airs(StateSolver& solver) : solver_(solver) {}
-    AirPoint At(double t, double x) { return {t, x, Known(EnthalpyFromX(solver_, t, x))}; }
-    AirPoint WithEnthalpy(double h, double x) {
-        return {Known(TemperatureFromEnthalpy(solver_, h, x)), x, h};
+    explicit Airs(const ExactAir& air) : air_(air) {}
+    AirPoint At(double t, double x) { return {t, x, Known(air_.Enthalpy(t, x))}; }
+    AirPoint WithEnthalpy(double h, double x) { return {Known(air_.Temperature(h, x)), x, h}; }
+    // kg in 1 m3.
+    double DryAir(double t, double x) {
+        const auto state = air_.FromX(t, x);
+        return 1 / Known(state ? std::optional(state->volume) : std::nullopt);
     }
     bool AllKnown() const { return all_known_; }
 
@@ -41,17 +45,16 @@ class Airs {
         if (!figure) all_known_ = false;
         return figure.value_or(0);
     }
-    StateSolver& solver_;
+    const ExactAir& air_;
     bool all_known_ = true;
 };
 
-MixingSection MixingOf(Airs& airs, const PlantInputs& inputs, const ExactHumidities& humidities,
-                       double p_bar) {
+MixingSection MixingOf(Airs& airs, const PlantInputs& inputs, const ExactHumidities& humidities) {
     MixingSection section;
     section.exhaust = airs.At(inputs.tAb, humidities.xAb);
     section.behind_fan = airs.At(inputs.tAb + inputs.dt2, humidities.xAb);
     section.outside = airs.At(inputs.tAus, humidities.xAus);
-    section.mL = inputs.V * DryAirFromX(p_bar, inputs.tAb, humidities.xAb);
+    section.mL = inputs.V * airs.DryAir(inputs.tAb, humidities.xAb);
     const double outer_share = 1 / (1 + inputs.r);
     const AirPoint &inner = section.behind_fan, &outer = section.outside;
     section.mixed = airs.WithEnthalpy(inner.h + (outer.h - inner.h) * outer_share,
@@ -69,31 +72,31 @@ RoomLoads LoadsOfRoom(Airs& airs, const MixingSection& mixing, const AirPoint& s
 
 }  // namespace
 
-std::optional<ExactHumidities> RaiseExactly(StateSolver& solver, PlantInputs& inputs) {
-    const auto xAb = XOf(solver, inputs.phiAb, inputs.tAb);
-    const auto xZu = XOf(solver, inputs.phiZu, inputs.tZu);
-    const auto xAus = XOf(solver, inputs.phiAus, inputs.tAus);
-    const auto xKa = XOf(solver, inputs.phiKa, inputs.tKA);
+std::optional<ExactHumidities> RaiseExactly(const ExactAir& air, PlantInputs& inputs) {
+    const auto xAb = XOf(air, inputs.phiAb, inputs.tAb);
+    const auto xZu = XOf(air, inputs.phiZu, inputs.tZu);
+    const auto xAus = XOf(air, inputs.phiAus, inputs.tAus);
+    const auto xKa = XOf(air, inputs.phiKa, inputs.tKA);
     if (!xAb || !xZu || !xAus || !xKa) return std::nullopt;
     ExactHumidities found{*xAb, *xZu, *xAus, *xKa, inputs.tAus <= inputs.tKA};
     const double least = found.nothing_to_cool ? found.xAus : found.xKa;
     if (found.xZu < least) {
         found.xZu = least;
-        if (!Raise(solver, inputs.tZu, inputs.phiZu, found.xZu)) return std::nullopt;
+        if (!Raise(air, inputs.tZu, inputs.phiZu, found.xZu)) return std::nullopt;
     }
     if (found.xAb < found.xZu) {
         found.xAb = found.xZu;
-        if (!Raise(solver, inputs.tAb, inputs.phiAb, found.xAb)) return std::nullopt;
+        if (!Raise(air, inputs.tAb, inputs.phiAb, found.xAb)) return std::nullopt;
     }
     return found;
 }
 
-std::optional<ExactPlantRun> RunExactly(StateSolver& solver, const PlantInputs& inputs,
+std::optional<ExactPlantRun> RunExactly(const ExactAir& air, const PlantInputs& inputs,
                                         const ExactHumidities& humidities) {
-    Airs airs(solver);
+    Airs airs(air);
     ExactPlantRun run;
     run.inputs = inputs;
-    run.mixing = MixingOf(airs, inputs, humidities, solver.ChartDruckBar);
+    run.mixing = MixingOf(airs, inputs, humidities);
     run.supply = airs.At(inputs.tZu, humidities.xZu);
     run.room = LoadsOfRoom(airs, run.mixing, run.supply);
     run.Anzeigefaktor = AnzeigefaktorOf(run.room.total_kw);

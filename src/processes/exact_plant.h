@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "kernel/exact_air.h"
 #include "processes/plant.h"
 
 // The plant of plant.h in exact balances, all per kg of dry air: fans and heater keep x, a water
@@ -20,7 +21,7 @@ struct ExactHumidities {
 // Raises the supply humidity to what coil or outside air leave in it, and then the exhaust humidity
 // where the room could not take up moisture; `inputs` receives the percentages, at most 100. Air
 // that cannot hold as much stays saturated.
-std::optional<ExactHumidities> RaiseExactly(StateSolver& solver, PlantInputs& inputs);
+std::optional<ExactHumidities> RaiseExactly(const ExactAir& air, PlantInputs& inputs);
 
 struct ExactPlantRun : PlantRun {
     RoomLoads room;
@@ -30,7 +31,7 @@ struct ExactPlantRun : PlantRun {
 };
 
 // Requires: inputs that RaiseExactly has seen, and its humidities.
-std::optional<ExactPlantRun> RunExactly(StateSolver& solver, const PlantInputs& inputs,
+std::optional<ExactPlantRun> RunExactly(const ExactAir& air, const PlantInputs& inputs,
                                         const ExactHumidities& humidities);
 
 }  // namespace zandrell

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "kernel/state_solver.h"
+#include "kernel/exact_air.h"
 #include "processes/air_point.h"
 
 // The apparatuses of tools.h in exact balances: what leaves is a state of its own, not one read
@@ -18,18 +18,18 @@ struct ToolOutlet {
 
 // Behind a cooler the x of the inlet, or less where 90 % end it: a coil does not leave saturated
 // air.
-std::optional<ToolOutlet> ExactBehindCooler(StateSolver& solver, const AirPoint& inlet, double t2);
+std::optional<ToolOutlet> ExactBehindCooler(const ExactAir& air, const AirPoint& inlet, double t2);
 
 // Behind a heater the x of the inlet. Above 100 % tells that t2 lies below the dew point.
-std::optional<ToolOutlet> ExactBehindHeater(StateSolver& solver, const AirPoint& inlet, double t2);
+std::optional<ToolOutlet> ExactBehindHeater(const ExactAir& air, const AirPoint& inlet, double t2);
 
 // Behind a water humidifier the h of the inlet, and the x that it takes at t2. Where there is no
 // such air the humidity is shown as 99 % and the state is that of it.
-std::optional<ToolOutlet> ExactBehindWaterHumidifier(StateSolver& solver, const AirPoint& inlet,
+std::optional<ToolOutlet> ExactBehindWaterHumidifier(const ExactAir& air, const AirPoint& inlet,
                                                      double t2);
 
 // Behind a steam humidifier the t of the inlet.
-std::optional<ToolOutlet> ExactBehindSteamHumidifier(StateSolver& solver, const AirPoint& inlet,
+std::optional<ToolOutlet> ExactBehindSteamHumidifier(const ExactAir& air, const AirPoint& inlet,
                                                      double rel_percent);
 
 }  // namespace zandrell

@@ -214,6 +214,7 @@ bool PlantPanel::CoolAndHeat(const PlantRun& run) {
     const auto way = CoolerWayOf(context_.solver, run.inputs.steam, run.coil, run.fan_inlet.air);
     if (!way) return false;
     StartWay(false);
+    KeepWay(run, way->heated);
     Drawing().DrawCoolerWay(run, way->heated);
     Heiz2.text = "0";
     ShowCoolerFigures(run, *way);
@@ -225,6 +226,7 @@ bool PlantPanel::HeatOnly(const PlantRun& run) {
                                     run.fan_inlet.air, run.coil.air.h);
     if (!heated) return false;
     StartWay(true);
+    KeepWay(run, *heated);
     Drawing().DrawHeaterWay(run, *heated);
     Heiz2.text = "0";
     ShowHeaterFigures(run, *heated);

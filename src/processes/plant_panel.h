@@ -10,6 +10,7 @@
 #include "processes/field_notes.h"
 #include "processes/plant_drawing.h"
 #include "processes/process_context.h"
+#include "processes/process_states.h"
 
 namespace zandrell {
 
@@ -76,6 +77,8 @@ class PlantPanel {
     // Marks the fields that are not used or not confirmed, and the figures of other inputs.
     void NoteFields();
 
+    ProcessStates States() const;
+
   private:
     // A field, the bar that writes it, and what Return in the field does before the plant is
     // computed; false where that leaves nothing to compute.
@@ -123,8 +126,17 @@ class PlantPanel {
     PlantDrawing Drawing() const;
     std::string Basis() const;
     std::optional<Refusal> RefusalOf(const TextField& field) const;
+    void KeepWay(const PlantRun& run, const AirPoint& heated);
+
+    // The states of the last run, for the table of states.
+    struct Way {
+        MixingSection mixing;
+        AirPoint supply, before_fan, heated;
+        std::optional<AirPoint> coil;  // empty without cooling
+    };
 
     ProcessContext context_;
+    Way way_;
     // What the last run took, and what the shown figures rest on.
     TakenTexts taken_{&vhAnlage,  &aussenAnt, &vhinnen,   &vhaussen, &tabLuft,
                       &PHIAbluft, &Taus,      &PhiAussen, &TZuluft,  &PHIZuluft,

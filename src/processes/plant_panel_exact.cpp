@@ -27,7 +27,7 @@ bool PlantPanel::CorrectExactly(PlantInputs& inputs, ExactHumidities& humidities
     HoldSupplyAboveCoil(inputs);
     if (asked_again_) return true;
     const double phiAb = inputs.phiAb, phiZu = inputs.phiZu;
-    const auto found = RaiseExactly(context_.solver, inputs);
+    const auto found = RaiseExactly(ExactAir(context_.solver), inputs);
     if (!found) return false;
     humidities = *found;
     // A raised humidity is shown cut: read again it lies a little lower, and is raised to the same.
@@ -47,7 +47,7 @@ bool PlantPanel::RunBySettledInputs() {
     PlantInputs inputs;
     ExactHumidities humidities;
     if (!SettleInputs(inputs, humidities)) return false;
-    const auto run = RunExactly(context_.solver, inputs, humidities);
+    const auto run = RunExactly(ExactAir(context_.solver), inputs, humidities);
     if (!run) return false;
     ShowExactly(*run);
     return true;
@@ -58,6 +58,7 @@ void PlantPanel::ShowExactly(const ExactPlantRun& run) {
     AssignFinite(context_.figures.MischTemp, run.mixing.mixed.t);
     Drawing().DrawMixing(run.mixing);
     ShowRoomLoads(run.room, factor);
+    KeepWay(run, run.heated);
     StartWay(run.OhneKuehler);
     humidifier_shown_ = true;
     const double heater_kw = Cut(run.heater_kw, factor);

@@ -33,9 +33,9 @@ void CentreFlowBar(ScrollBar& bar, double& step, double flow) {
     bar.SetPosition(kFlowBarMiddle);
 }
 
-void ShowStateTexts(const AirState& state, Label& absolute, Label& enthalpy) {
-    ShowNumber(absolute, Cut(state.ZustandX, 100));
-    ShowEnthalpy(enthalpy, state.ZustandH);
+void ShowStateTexts(double x, double h, Label& absolute, Label& enthalpy) {
+    ShowNumber(absolute, Cut(x, 100));
+    ShowEnthalpy(enthalpy, h);
 }
 
 }  // namespace
@@ -135,35 +135,40 @@ bool PointPanel::FillInByTexts(Calculation mode, const Inputs& inputs) {
 
 // False, with everything as it was, when an input is outside the limits.
 bool PointPanel::EvaluateStates(const Inputs& inputs) {
-    StateSolver& solver = context_.solver;
     if (!WithinChart(inputs)) return false;
-    if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
-    const AirState first = solver;
-    if (!solver.Evaluate(inputs.relF2 / 100, inputs.t2)) return false;
-    const AirState second = solver;
-    ZustandX1 = first.ZustandX;
-    enthalpy1_ = first.ZustandH;
-    density1_ = FlowDensity(first, inputs.t1);
-    ZustandX2 = second.ZustandX;
-    enthalpy2_ = second.ZustandH;
-    density2_ = FlowDensity(second, inputs.t2);
-    ShowStateTexts(first, absF1, enth1);
-    ShowStateTexts(second, absF2, enth2);
+    const auto first = AirOf(inputs.relF1, inputs.t1);
+    const auto second = first ? AirOf(inputs.relF2, inputs.t2) : std::nullopt;
+    if (!second) return false;
+    ZustandX1 = first->x;
+    enthalpy1_ = first->h;
+    density1_ = first->flow_density;
+    ZustandX2 = second->x;
+    enthalpy2_ = second->h;
+    density2_ = second->flow_density;
+    ShowStateTexts(first->x, first->h, absF1, enth1);
+    ShowStateTexts(second->x, second->h, absF2, enth2);
     return true;
+}
+
+// The suite takes the humid air of a flow for dry.
+std::optional<PointPanel::GivenAir> PointPanel::AirOfTheSuite(double relF_percent, double t) {
+    const StateSolver& solver = context_.solver;
+    if (!context_.solver.Evaluate(relF_percent / 100, t)) return std::nullopt;
+    return GivenAir{solver.ZustandX, solver.ZustandH, solver.ZustandDichte};
 }
 
 // State 1 of a tool. Only what the user gives is tested: the figure of state 2 that the tool wrote
 // in the run before must not lock it.
 bool PointPanel::EvaluateGivenState(Calculation mode, const Inputs& inputs) {
-    StateSolver& solver = context_.solver;
     const bool gives_humidity = mode == Calculation::SteamHumidifier;
     const bool second_given = gives_humidity ? IsHumidityInput(inputs.relF2) : InRange(inputs.t2);
     if (!IsHumidityInput(inputs.relF1) || !InRange(inputs.t1) || !second_given) return false;
-    if (!solver.Evaluate(inputs.relF1 / 100, inputs.t1)) return false;
-    ZustandX1 = solver.ZustandX;
-    enthalpy1_ = solver.ZustandH;
-    density1_ = FlowDensity(solver, inputs.t1);
-    ShowStateTexts(solver, absF1, enth1);
+    const auto air = AirOf(inputs.relF1, inputs.t1);
+    if (!air) return false;
+    ZustandX1 = air->x;
+    enthalpy1_ = air->h;
+    density1_ = air->flow_density;
+    ShowStateTexts(air->x, air->h, absF1, enth1);
     return true;
 }
 
@@ -245,8 +250,11 @@ void PointPanel::ShowCapacity(Calculation mode, const Inputs& inputs) {
     if (!(inputs.LuftM1 > 0)) return;
     // The density of state 1 holds for the whole change.
     const double air_kg_per_s = inputs.LuftM1 * density1_ / kSecondsPerHour;
-    const auto signed_loads = (IsExact() ? ExactLoadsBetween : LoadsBetween)(
-        context_.solver, FirstState(inputs.t1), SecondState(inputs.t2), air_kg_per_s);
+    const auto signed_loads =
+        IsExact() ? ExactLoadsBetween(ExactAir(context_.solver), FirstState(inputs.t1),
+                                      SecondState(inputs.t2), air_kg_per_s)
+                  : LoadsBetween(context_.solver, FirstState(inputs.t1), SecondState(inputs.t2),
+                                 air_kg_per_s);
     if (!signed_loads) return;
     const Decimals decimals = DecimalsOf(*signed_loads);  // of the signed load also for the tools
     const Loads loads = LoadsOfTool(mode, *signed_loads);

@@ -10,6 +10,7 @@
 #include "processes/exact_tools.h"
 #include "processes/field_notes.h"
 #include "processes/process_context.h"
+#include "processes/process_states.h"
 #include "processes/state_change.h"
 
 namespace zandrell {
@@ -74,6 +75,8 @@ class PointPanel {
     // Marks the fields that are not used or not confirmed, and the figures of other inputs.
     void NoteFields();
 
+    ProcessStates States() const;
+
   private:
     // A volume flow, its bar and the flow per unit of the bar.
     struct FlowInput {
@@ -109,9 +112,16 @@ class PointPanel {
     AirPoint SecondState(double t2) const { return {t2, ZustandX2, enthalpy2_}; }
 
     bool IsExact() const { return context_.settings.convention == Convention::Exact; }
-    // What a cubic metre counts in the balances, kg/m3: the suite takes the humid air for dry.
-    double FlowDensity(const AirState& state, double t) const {
-        return IsExact() ? DryAirInAir(state, t) : state.ZustandDichte;
+    // A state as the fields give it.
+    struct GivenAir {
+        double x = 0, h = 0;      // g/kg, kJ/kg
+        double flow_density = 0;  // what a cubic metre counts in the balances, kg/m3
+    };
+    // By each convention; empty outside the limits.
+    std::optional<GivenAir> AirOfTheSuite(double relF_percent, double t);
+    std::optional<GivenAir> ExactAirOf(double relF_percent, double t);
+    std::optional<GivenAir> AirOf(double relF_percent, double t) {
+        return IsExact() ? ExactAirOf(relF_percent, t) : AirOfTheSuite(relF_percent, t);
     }
 
     // State 2 of a tool by each convention; false when it is outside the limits.
@@ -143,7 +153,7 @@ class PointPanel {
     bool capacity_refused_ = false;  // no flow gives what was asked for
     // Of the two states; kept while the inputs are outside the limits, and so are the figures.
     double enthalpy1_ = 0, enthalpy2_ = 0;  // kJ/kg
-    double density1_ = 0, density2_ = 0;    // kg/m3, of FlowDensity
+    double density1_ = 0, density2_ = 0;    // kg/m3, of GivenAir
 };
 
 }  // namespace zandrell

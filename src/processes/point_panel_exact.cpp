@@ -6,18 +6,24 @@
 // What the point panel does under Exact in place of its ways by the suite.
 namespace zandrell {
 
+std::optional<PointPanel::GivenAir> PointPanel::ExactAirOf(double relF_percent, double t) {
+    const auto state = ExactAir(context_.solver).FromHumidity(relF_percent / 100, t);
+    if (!state) return std::nullopt;
+    return GivenAir{state->x, state->enthalpy, 1 / state->volume};
+}
+
 std::optional<ToolOutlet> PointPanel::OutletOf(Calculation mode, const Inputs& inputs) {
-    StateSolver& solver = context_.solver;
+    const ExactAir air(context_.solver);
     const AirPoint inlet = FirstState(inputs.t1);
     switch (mode) {
         case Calculation::Cooler:
-            return ExactBehindCooler(solver, inlet, inputs.t2);
+            return ExactBehindCooler(air, inlet, inputs.t2);
         case Calculation::Heater:
-            return ExactBehindHeater(solver, inlet, inputs.t2);
+            return ExactBehindHeater(air, inlet, inputs.t2);
         case Calculation::WaterHumidifier:
-            return ExactBehindWaterHumidifier(solver, inlet, inputs.t2);
+            return ExactBehindWaterHumidifier(air, inlet, inputs.t2);
         case Calculation::SteamHumidifier:
-            return ExactBehindSteamHumidifier(solver, inlet, inputs.relF2);
+            return ExactBehindSteamHumidifier(air, inlet, inputs.relF2);
         case Calculation::None:
         case Calculation::StateChange:
         case Calculation::Capacity:
@@ -49,7 +55,8 @@ bool PointPanel::FillInExactly(Calculation mode, const Inputs& inputs) {
 }
 
 std::optional<Mixture> PointPanel::MixExactly(const Inputs& inputs) {
-    return ExactMixtureOf(context_.solver, {FirstState(inputs.t1), inputs.LuftM1 * density1_},
+    return ExactMixtureOf(ExactAir(context_.solver),
+                          {FirstState(inputs.t1), inputs.LuftM1 * density1_},
                           {SecondState(inputs.t2), inputs.LuftM2 * density2_});
 }
 

@@ -5,7 +5,7 @@ namespace zandrell {
 ProcessPanels::ProcessPanels(const ProcessSurroundings& around)
     : point({around, figures, Rechenmodus}),
       plant({around, figures, Rechenmodus}),
-      overlay_(around.overlay) {
+      around_(around) {
     point.Anlage1PN.visible = false;
     plant.Frame1.visible = false;
 }
@@ -20,6 +20,10 @@ void ProcessPanels::NoteFields() {
     if (plant.Frame1.visible) plant.NoteFields();
 }
 
+ProcessStates ProcessPanels::States() const {
+    return Rechenmodus == Calculation::Plant ? plant.States() : point.States();
+}
+
 void ProcessPanels::BindActs(ActTable& acts) {
     point.BindActs(acts);
     plant.BindActs(acts);
@@ -30,7 +34,7 @@ void ProcessPanels::Repeat() {
         plant.AnlageBerechnen();
         return;
     }
-    const bool mixed = Rechenmodus == Calculation::Mixing && overlay_.PP3.visible;
+    const bool mixed = Rechenmodus == Calculation::Mixing && around_.overlay.PP3.visible;
     point.MarkenSetzen(Rechenmodus, mixed ? MarkPlacing::WithMixture : MarkPlacing::FromFields);
 }
 

@@ -26,11 +26,16 @@ class ProcessPanels {
     // Marks fields and figures of the open panel; after whatever may have changed them.
     void NoteFields();
 
+    // Of the calculation in force.
+    ProcessStates States() const;
+
     // Draws the process in force again, after the scale of the chart has changed.
     void Repeat();
 
+    const ProcessSurroundings& Around() const { return around_; }
+
   private:
-    const Overlay& overlay_;
+    ProcessSurroundings around_;
 };
 
 }  // namespace zandrell

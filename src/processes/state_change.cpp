@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "kernel/air_from_x.h"
 #include "kernel/inverse_state.h"
 #include "processes/process_context.h"
 
@@ -34,7 +33,7 @@ std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
     return SplitLoads(first, second, solver.ZustandH, air_kg_per_s);
 }
 
-std::optional<Loads> ExactLoadsBetween(StateSolver& solver, const AirPoint& first,
+std::optional<Loads> ExactLoadsBetween(const ExactAir& air, const AirPoint& first,
                                        const AirPoint& second, double dry_air_kg_per_s) {
     const bool first_is_warmer = first.t >= second.t;
     const AirPoint& warmer = first_is_warmer ? first : second;
@@ -45,7 +44,7 @@ std::optional<Loads> ExactLoadsBetween(StateSolver& solver, const AirPoint& firs
     if (colder.t == warmer.t) {
         auxiliary_h = colder.h;
     } else if (colder.x != warmer.x) {
-        auxiliary_h = EnthalpyFromX(solver, warmer.t, colder.x);
+        auxiliary_h = air.Enthalpy(warmer.t, colder.x);
     }
     if (!auxiliary_h) return std::nullopt;
     return SplitLoads(first, second, *auxiliary_h, dry_air_kg_per_s);
@@ -95,20 +94,17 @@ Mixture MixtureOf(StateSolver& solver, const AirPoint& first, double flow1_m3_pe
     return mixture;
 }
 
-std::optional<Mixture> ExactMixtureOf(StateSolver& solver, const AirFlow& first,
+std::optional<Mixture> ExactMixtureOf(const ExactAir& air, const AirFlow& first,
                                       const AirFlow& second) {
     const double weight =
         first.dry_air_kg_per_h / (first.dry_air_kg_per_h + second.dry_air_kg_per_h);
     Mixture mixture;
     mixture.MischX = second.air.x + weight * (first.air.x - second.air.x);
     const double h = second.air.h + weight * (first.air.h - second.air.h);
-    const auto t = TemperatureFromEnthalpy(solver, h, mixture.MischX);
-    if (!t) return std::nullopt;
-    const auto fraction = FractionFromX(solver, *t, mixture.MischX);
-    if (!fraction) return std::nullopt;
-    mixture.MischTemp = *t;
-    mixture.rel_percent = 100 * std::min(*fraction, 1.0);
-    solver.Evaluate(std::min(*fraction, 1.0), *t);
+    const auto state = air.FromEnthalpy(h, mixture.MischX);
+    if (!state) return std::nullopt;
+    mixture.MischTemp = state->t;
+    mixture.rel_percent = 100 * std::min(state->fraction, 1.0);
     return mixture;
 }
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "kernel/state_solver.h"
+#include "kernel/exact_air.h"
 #include "processes/air_point.h"
 #include "processes/calculation.h"
 
@@ -28,7 +28,7 @@ std::optional<Loads> LoadsBetween(StateSolver& solver, const AirPoint& first,
 
 // The same for a flow of dry air, the auxiliary point at exactly the other x: where x is kept there
 // is no latent load, where t is kept no sensible one.
-std::optional<Loads> ExactLoadsBetween(StateSolver& solver, const AirPoint& first,
+std::optional<Loads> ExactLoadsBetween(const ExactAir& air, const AirPoint& first,
                                        const AirPoint& second, double dry_air_kg_per_s);
 
 // The loads as the tool of that mode reports them: without sign, and with the share that cannot
@@ -62,7 +62,7 @@ struct AirFlow {
 
 // The mixture by the dry air of both flows: x and h lie between those of the two states, and t is
 // the temperature that belongs to them. Empty when there is none.
-std::optional<Mixture> ExactMixtureOf(StateSolver& solver, const AirFlow& first,
+std::optional<Mixture> ExactMixtureOf(const ExactAir& air, const AirFlow& first,
                                       const AirFlow& second);
 
 }  // namespace zandrell

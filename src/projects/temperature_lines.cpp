@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "chart/saturation.h"
+
 namespace zandrell {
 namespace {
 
@@ -14,9 +16,10 @@ void DrawTemperatureLines(const TemperatureLines& lines, const ChartScale& scale
                           StateSolver& solver, Canvas& canvas) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const double t = lines[i].temperature;
-        if (!solver.Evaluate(1, t)) continue;
+        const auto saturated = SaturatedX(scale.convention, solver, t);
+        if (!saturated) continue;
         const CanvasPoint from = scale.Turned({kLeftEnd, scale.Ym(t)});
-        const CanvasPoint to = scale.PointOf(solver.ZustandX, t);
+        const CanvasPoint to = scale.PointOf(*saturated, t);
         if (!std::isfinite(to.x) || !std::isfinite(to.y)) continue;
         canvas.Line(from.x, from.y, to.x, to.y, kColours[i]);
         canvas.Text(to.x, to.y, lines[i].text);

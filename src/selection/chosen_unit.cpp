@@ -33,6 +33,10 @@ class UnitLabels {
         return family_ != KatalogFamilie::RegulatingComponents &&
                family_ != KatalogFamilie::LineComponents && family_ != KatalogFamilie::Unknown;
     }
+    Caption CapacityWord() const {
+        return Is(KatalogFamilie::Condensers) ? Caption::HeatRejection
+                                              : Caption::RefrigeratingCapacity;
+    }
     std::string DutyText() const;
     void ShowPairs();
     static void SetVisible(bool visible, std::initializer_list<Label*> labels) {
@@ -81,10 +85,11 @@ void UnitLabels::ShowDuty() {
     c_.Label3.text = NumberText(Cut(duty_.evaporating, 10)) + " " + std::string(UnitDegC);
     c_.Label14.text = NumberText(Cut(duty_.condensing, 10)) + " " + std::string(UnitDegC);
     c_.Label30.text = words_[Caption::RequiredVolumeFlow] + InBrackets(UnitM3h);
-    c_.Label31.text = words_[Caption::PowerInput] + InBrackets(UnitKW);
+    c_.Label31.text = words_[Caption::RequiredPower] + InBrackets(UnitKW);
     c_.Label32.text = words_[Caption::PowerInput] + InBrackets(UnitKW);
     c_.Label24.text = HasCapacity() ? words_[Caption::VolumeFlow] + InBrackets(UnitM3h)
                                     : words_[Caption::PressureDrop] + InBrackets(UnitMbar);
+    c_.Label37.text = words_[CapacityWord()];
     c_.Label6.text = words_[Caption::Weight] + InBrackets(UnitKg);
     c_.Label26.text = Cut2(selection_.inputs.Label26);
     c_.Label27.text = Cut2(selection_.inputs.Label27);
@@ -115,9 +120,7 @@ void UnitLabels::ShowUnit(const ChosenUnit& unit) {
     if (unit.power > 0) c_.Label28.text = Cut2(unit.power);
     if (HasCapacity()) {
         c_.Label1.text = Cut2(unit.figures.Q);
-        const Caption word = Is(KatalogFamilie::Condensers) ? Caption::HeatRejection
-                                                            : Caption::RefrigeratingCapacity;
-        c_.Label37_l.text = words_[word] + " : " + Cut2(unit.figures.Q) + "kW";
+        c_.Label37_l.text = words_[CapacityWord()] + " : " + Cut2(unit.figures.Q) + "kW";
     }
     if (Is(KatalogFamilie::Compressors)) {
         selection_.inputs.VolumenNenn = unit.numbers.KatWert;
@@ -132,10 +135,10 @@ void UnitLabels::ShowUnit(const ChosenUnit& unit) {
 
 }  // namespace
 
-std::optional<ChosenUnit> ReadChosenUnit(SeriesReader& reader, const SeriesPlace& place,
-                                         int position, const SelectionDuty& duty,
-                                         SelectionInputs inputs) {
-    const Serie serie = reader.SerieLesen(place.KatalogDatei, place.SerieStart - 2);
+std::optional<ChosenUnit> ReadChosenUnit(SeriesReader& reader, const UnitPlace& place,
+                                         const SelectionDuty& duty, SelectionInputs inputs) {
+    const int position = place.position;
+    const Serie serie = reader.SerieLesen(place.series.KatalogDatei, place.series.SerieStart - 2);
     if (position < 1 || position > serie.Units()) return std::nullopt;
     ChosenUnit unit;
     unit.record = serie.Satz(position);

@@ -12,6 +12,13 @@
 
 namespace zandrell {
 
+// Where a unit stands: its series, and its position there from 1; 0: none.
+struct UnitPlace {
+    SeriesPlace series;
+    int position = 0;
+    bool operator==(const UnitPlace&) const = default;
+};
+
 // A unit out of a catalogue with its figures for a duty.
 struct ChosenUnit {
     std::string name;
@@ -21,11 +28,9 @@ struct ChosenUnit {
     double power = 0;  // kW: stored for coolers and condensers, estimated for compressors, else 0
 };
 
-// The unit at `position` of a series, from 1; empty where the series has none. Its record lives as
-// long as the reader.
-std::optional<ChosenUnit> ReadChosenUnit(SeriesReader& reader, const SeriesPlace& place,
-                                         int position, const SelectionDuty& duty,
-                                         SelectionInputs inputs);
+// The unit at a place; empty where the series has none. Its record lives as long as the reader.
+std::optional<ChosenUnit> ReadChosenUnit(SeriesReader& reader, const UnitPlace& place,
+                                         const SelectionDuty& duty, SelectionInputs inputs);
 
 // What a year of it costs, in the currency of the settings, and brings in t of CO2.
 struct YearlyFigures {

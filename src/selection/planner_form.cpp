@@ -1,8 +1,5 @@
 #include "selection/planner_form.h"
 
-#include <array>
-
-#include "base/delimited_text.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/unit_texts.h"
@@ -10,40 +7,7 @@
 namespace zandrell {
 namespace {
 
-constexpr std::string_view kDutyFile = "selection.dat";
 constexpr int kRefusedBack = 12;
-
-struct DutyRow {
-    std::string_view name, label;
-    Caption word;
-    std::string_view unit;  // behind the word; "$" stands for the currency
-    double SelectionDuty::*value;
-};
-
-using D = SelectionDuty;
-
-constexpr std::array<DutyRow, 18> kDutyRows = {{
-    {"Capacity", "CapacityLabel", Caption::RefrigeratingCapacity, " /[kW]", &D::capacity},
-    {"AddedLoad", "AddedLoadLabel", Caption::AddedLoad, " /[kW]", &D::added_load},
-    {"Rejection", "RejectionLabel", Caption::HeatRejection, " /[kW]", &D::heat_rejection},
-    {"Evaporating", "EvaporatingLabel", Caption::Evaporation, " to /[°C]", &D::evaporating},
-    {"Condensing", "CondensingLabel", Caption::Condensation, " tc /[°C]", &D::condensing},
-    {"Superheat", "SuperheatLabel", Caption::Superheat, " /[K]", &D::superheat},
-    {"Subcooling", "SubcoolingLabel", Caption::Subcooling, " /[K]", &D::subcooling},
-    {"LossSuction", "LossSuctionLabel", Caption::PressureDrop, " po /[mbar]", &D::loss_suction},
-    {"LossDischarge", "LossDischargeLabel", Caption::PressureDrop, " pc /[mbar]",
-     &D::loss_discharge},
-    {"MeanDifference", "MeanDifferenceLabel", Caption::MeanDifference, " /[K]",
-     &D::mean_difference},
-    {"RatingBasis", "RatingBasisLabel", Caption::RatingBasis, " /[0-2]", &D::rating_basis},
-    {"Correction", "CorrectionLabel", Caption::CorrectionFactor, " /[-]", &D::correction},
-    {"Efficiency", "EfficiencyLabel", Caption::ReferenceEfficiency, " /[-]", &D::efficiency},
-    {"OpeningLimit", "OpeningLimitLabel", Caption::OpeningLimit, " /[%]", &D::opening},
-    {"Mains", "MainsLabel", Caption::MainsFrequencyWord, " /[Hz]", &D::mains_frequency},
-    {"Price", "PriceLabel", Caption::ElectricityPrice, " /[$/kWh]", &D::price},
-    {"Hours", "HoursLabel", Caption::OperatingHours, " /[h/a]", &D::hours},
-    {"EmissionFactor", "EmissionFactorLabel", Caption::EmissionFactor, " /[kg/kWh]", &D::emission},
-}};
 
 Caption WordOf(KatalogFamilie family) {
     switch (family) {
@@ -60,14 +24,6 @@ Caption WordOf(KatalogFamilie family) {
         default:
             return Caption::LineComponentUnits;
     }
-}
-
-bool IsNumber(const std::string& text) {
-    const std::string word = Trimmed(text);
-    const auto digit = word.find_first_of("0123456789");
-    return digit != std::string::npos && digit <= 2 &&
-           word.find_first_not_of("0123456789.,-+") == std::string::npos &&
-           word.find_last_of("-+") + 1 <= 1;
 }
 
 }  // namespace
@@ -150,12 +106,26 @@ void PlannerForm::ShowDuty() {
         if (kKatalogArten[i] == duty.KatalogArt) KindBox.Choose(static_cast<int>(i));
     }
     RefrigerantBox.Choose(duty.refrigerant);
+    ShowFieldsOfKind();
     for (const auto& field : fields) field->field.text = TrimmedNumberText(duty.*field->value);
+}
+
+// What the kind does not ask for keeps its figure, and does not stand in the way.
+void PlannerForm::ShowFieldsOfKind() {
+    const KatalogFamilie family = FamilyOf(opener_.duty.KatalogArt);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        fields[i]->field.visible = fields[i]->label.visible = IsAskedFor(kDutyRows[i], family);
+    }
 }
 
 void PlannerForm::Start(const SelectionDuty& first) {
     opener_.Load();
     opener_.duty = first;
+    const RefrigerantTables& refrigerants = opener_.Refrigerants();
+    // The duty of the last time may know one that the tables lack by now.
+    if (!refrigerants.tables.empty() && refrigerants.Find(first.refrigerant) == nullptr) {
+        opener_.duty.refrigerant = refrigerants.tables.front().Name();
+    }
     FillKinds();
     ShowDuty();
     ApplyDutyNow();
@@ -172,7 +142,8 @@ bool PlannerForm::TakeFields() {
     bool all = true;
     Message.text.clear();
     for (const auto& field : fields) {
-        const bool number = IsNumber(field->field.text);
+        if (!field->field.visible) continue;
+        const bool number = IsDutyNumber(field->field.text);
         field->field.background = number ? std::nullopt : std::optional(kRefusedBack);
         field->field.tool_tip.clear();
         if (number) {
@@ -203,6 +174,7 @@ void PlannerForm::ApplyDutyNow() {
         Message.text = *message;
         return;
     }
+    ShowFieldsOfKind();
     // What cannot be kept costs nothing but typing it anew.
     WriteDuty(context_.files, opener_.duty);
     lists.Follow();
@@ -214,23 +186,21 @@ SelectionEnd PlannerForm::Follow() {
     return end;
 }
 
-void PlannerForm::CompareChosen() {
+// The unit in hand, or that of the chosen row while a series is open.
+UnitPlace PlannerForm::PlaceInHand() const {
     const SelectionShared& selection = context_.selection;
-    const bool open = selection.OffeneSerie == kSeriesIsOpen;
+    if (selection.OffeneSerie != kSeriesIsOpen) return opener_.Place();
     const Grid& grid = window_.controls.Venttab;
-    std::optional<ChosenUnit> unit;
-    SeriesReader reader(context_.files);
-    if (open) {
-        const double position = ParsedNumber(grid.Text(grid.row, kUnitPosition));
-        unit = ReadChosenUnit(reader, {selection.SerieStart, selection.KatalogDatei},
-                              RoundToInteger(position).value_or(0), opener_.duty, selection.inputs);
-    } else {
-        unit = opener_.Unit();
-    }
-    Message.text = unit ? "" : context_.captions[Caption::NoUnitChosen];
-    if (!unit) return;
-    lists.Compare(*unit, opener_.duty);
-    if (show_comparison) show_comparison();
+    const double position = ParsedNumber(grid.Text(grid.row, kUnitPosition));
+    return {{selection.SerieStart, selection.KatalogDatei}, RoundToInteger(position).value_or(0)};
+}
+
+void PlannerForm::CompareChosen() {
+    const UnitPlace place = PlaceInHand();
+    if (place.position > 0) lists.Compare(place, opener_.duty);
+    const bool any = lists.CompareAnew(opener_.duty);
+    Message.text = any ? "" : context_.captions[Caption::NoUnitChosen];
+    if (any && show_comparison) show_comparison();
 }
 
 void PlannerForm::ShowPlot() {
@@ -240,42 +210,19 @@ void PlannerForm::ShowPlot() {
 }
 
 void PlannerForm::WriteCsv() {
-    const std::string file = ask_file ? ask_file() : "";
+    const VentZeigControls& c = window_.controls;
+    const bool units = c.pn77.visible;
+    std::string proposal =
+        units ? c.KatalogSpread.Text(c.KatalogSpread.row, kSeriesTextColumn) : KindBox.text;
+    for (const char sign : std::string_view("/\\:*?\"<>|")) std::erase(proposal, sign);
+    const std::string file = ask_file ? ask_file(proposal + ".csv") : "";
     if (file.empty()) return;
-    const bool units = window_.controls.pn77.visible;
     std::string reason;
     const FileStatus status = context_.files.ReplaceBytes(
-        file, GridAsCsv(units ? window_.controls.Venttab : window_.controls.KatalogSpread),
-        Durability::Flushed, &reason);
+        file, GridAsCsv(units ? c.Venttab : c.KatalogSpread), Durability::Flushed, &reason);
     Message.text = status == FileStatus::Ok
                        ? file
                        : FilledIn(context_.captions[Caption::SavingFailed], {file, reason});
-}
-
-void ReadDuty(const DataFiles& files, SelectionDuty& duty) {
-    const FileText file = files.OpenForInput(kDutyFile);
-    DelimitedReader items(file.text);
-    for (std::string name, value; items.ReadText(name) && items.ReadText(value);) {
-        if (name == "Refrigerant") duty.refrigerant = value;
-        if (name == "Kind") duty.KatalogArt = RoundToInteger(ToDouble(value)).value_or(0);
-        for (const DutyRow& row : kDutyRows) {
-            if (row.name == name && IsNumber(value)) duty.*row.value = ToDouble(value);
-        }
-    }
-    if (FamilyOf(duty.KatalogArt) == KatalogFamilie::Unknown) {
-        duty.KatalogArt = SelectionDuty().KatalogArt;
-    }
-}
-
-FileStatus WriteDuty(const DataFiles& files, const SelectionDuty& duty) {
-    DelimitedWriter writer;
-    const auto item = [&](std::string_view name, const std::string& value) {
-        writer.Text(name).Text(value).EndLine();
-    };
-    item("Kind", TrimmedNumberText(duty.KatalogArt));
-    item("Refrigerant", duty.refrigerant);
-    for (const DutyRow& row : kDutyRows) item(row.name, TrimmedNumberText(duty.*row.value));
-    return files.OpenForOutput(kDutyFile, writer.Result());
 }
 
 }  // namespace zandrell

@@ -8,6 +8,7 @@
 
 #include "forms/choice_list.h"
 #include "forms/window_form.h"
+#include "selection/duty_fields.h"
 #include "selection/planner_lists.h"
 #include "selection/selection_opener.h"
 
@@ -40,7 +41,7 @@ class PlannerForm : public WindowForm {
     // What the windows do with a comparison, a plot, and where a list is to be written.
     std::function<void()> show_comparison;
     std::function<void(const CapacityPlot&)> show_plot;
-    std::function<std::string()> ask_file;
+    std::function<std::string(const std::string& proposal)> ask_file;
 
     // The words of all controls; a window that is built needs them first.
     void SetCaptions();
@@ -58,7 +59,9 @@ class PlannerForm : public WindowForm {
     void ListControls();
     void FillKinds();
     void ShowDuty();
+    void ShowFieldsOfKind();
     bool TakeFields();
+    UnitPlace PlaceInHand() const;
     void ApplyDutyNow();
     void CompareChosen();
     void ShowPlot();
@@ -68,9 +71,5 @@ class PlannerForm : public WindowForm {
     VentZeigForm& window_;
     SelectionOpener& opener_;
 };
-
-// The duty of the last time, from the data folder; numbers that are not there stay as they are.
-void ReadDuty(const DataFiles& files, SelectionDuty& duty);
-FileStatus WriteDuty(const DataFiles& files, const SelectionDuty& duty);
 
 }  // namespace zandrell

@@ -13,6 +13,7 @@ namespace {
 constexpr int kRed = 12, kStripe = 7;
 constexpr int kRowHeight = 240, kWordWidth = 2600, kUnitWidth = 2200;  // twips
 constexpr int kTicks = 5;
+constexpr const char* kNoFigure = "-";
 
 // A step of 1, 2 or 5 times a power of ten that divides a span in about five.
 double NiceStep(double span) {
@@ -24,10 +25,31 @@ double NiceStep(double span) {
     return 10 * power;
 }
 
+// In the order of HeadsToCompare.
+std::vector<std::string> FiguresToCompare(const ChosenUnit& unit, const SelectionDuty& duty) {
+    using enum KatalogFeld;
+    const YearlyFigures year = YearlyFiguresOf(unit, duty);
+    const auto family = FamilyOf(duty.KatalogArt);
+    const bool line =
+        family == KatalogFamilie::RegulatingComponents || family == KatalogFamilie::LineComponents;
+    const auto figure = [](double value) { return NumberText(Cut(value, 100)); };
+    const auto powered = [&](double value) { return unit.power > 0 ? figure(value) : kNoFigure; };
+    return {unit.name,
+            line ? kNoFigure : figure(unit.figures.Q),
+            line ? figure(unit.figures.pressure_drop) : kNoFigure,
+            std::string(EfficiencyClass(family, unit.figures.class_ratio)),
+            unit.record.Text(KatVolumen),
+            powered(unit.power),
+            powered(year.ratio),
+            powered(year.cost),
+            powered(year.emission),
+            unit.record.Text(KatGewicht)};
+}
+
 }  // namespace
 
 PlannerLists::PlannerLists(const SelectionContext& context, VentZeigControls& controls)
-    : context_(context), controls_(controls) {}
+    : context_(context), controls_(controls), compared_reader_(context.files) {}
 
 void PlannerLists::Sort(Grid& grid) {
     GridOrder& order = &grid == &controls_.Venttab ? unit_order_ : series_order_;
@@ -69,7 +91,7 @@ void PlannerLists::PaintStripes(Grid& grid) const {
 // By the colours that the lists give; a unit that is only near its duty does not meet it.
 bool PlannerLists::Fits(const Grid& grid, int row) const {
     if (&grid == &controls_.KatalogSpread) return grid.Back(row, 1) != kRed;
-    if (grid.IsEmptyRow(row)) return true;
+    if (grid.IsEmptyRow(row)) return false;
     if (grid.Back(row, kUnitFigure) == kRed || grid.Back(row, kUnitThrow) == kRed) return false;
     const double target = TargetCapacity(context_.selection.inputs);
     return target <= 0 || ParsedNumber(grid.Text(row, kUnitFigure)) >= target;
@@ -82,24 +104,51 @@ void PlannerLists::HideRows(Grid& grid) const {
     }
 }
 
-void PlannerLists::Compare(const ChosenUnit& unit, const SelectionDuty& duty) {
-    using enum KatalogFeld;
-    const YearlyFigures year = YearlyFiguresOf(unit, duty);
-    const auto family = FamilyOf(duty.KatalogArt);
-    const bool line =
-        family == KatalogFamilie::RegulatingComponents || family == KatalogFamilie::LineComponents;
-    const auto figure = [](double value) { return NumberText(Cut(value, 100)); };
-    const auto powered = [&](double value) { return unit.power > 0 ? figure(value) : "-"; };
-    compared_.push_back({unit.name, line ? "-" : figure(unit.figures.Q),
-                         line ? figure(unit.figures.pressure_drop) : "-",
-                         std::string(EfficiencyClass(family, unit.figures.class_ratio)),
-                         unit.record.Text(KatVolumen), powered(unit.power), powered(year.ratio),
-                         powered(year.cost), powered(year.emission), unit.record.Text(KatGewicht)});
+void PlannerLists::Compare(const UnitPlace& unit, const SelectionDuty& duty) {
+    if (duty.KatalogArt != compared_kind_) compared_.clear();
+    compared_kind_ = duty.KatalogArt;
+    if (std::find(compared_.begin(), compared_.end(), unit) == compared_.end()) {
+        compared_.push_back(unit);
+    }
     if (compared_.size() > kMostCompared) compared_.erase(compared_.begin());
-    FillComparison();
+    CompareAnew(duty);
 }
 
-void PlannerLists::FillComparison() {
+bool PlannerLists::CompareAnew(const SelectionDuty& duty) {
+    if (duty.KatalogArt != compared_kind_) compared_.clear();
+    std::vector<std::vector<std::string>> texts;
+    for (const UnitPlace& place : compared_) {
+        const auto unit = ReadChosenUnit(compared_reader_, place, duty, context_.selection.inputs);
+        if (unit) texts.push_back(FiguresToCompare(*unit, duty));
+    }
+    FillComparison(texts);
+    return !texts.empty();
+}
+
+// Figures that none of the units has get no line.
+void PlannerLists::FillComparison(const std::vector<std::vector<std::string>>& units) {
+    const auto heads = HeadsToCompare();
+    Comparison.SetColumns(static_cast<int>(units.size()) + 1);
+    Comparison.SetRows(0, 0);
+    Comparison.SetRows(static_cast<int>(heads.size()), kRowHeight);
+    Comparison.SetWidth(0, kWordWidth);
+    int row = 0;
+    for (std::size_t line = 0; line < heads.size(); ++line) {
+        const auto has_figure = [line](const auto& unit) {
+            return !unit[line].empty() && unit[line] != kNoFigure;
+        };
+        if (std::none_of(units.begin(), units.end(), has_figure)) continue;
+        Comparison.SetText(row, 0, heads[line]);
+        for (std::size_t i = 0; i < units.size(); ++i) {
+            Comparison.SetWidth(static_cast<int>(i) + 1, kUnitWidth);
+            Comparison.SetText(row, static_cast<int>(i) + 1, units[i][line]);
+        }
+        ++row;
+    }
+    Comparison.SetRows(row, kRowHeight);
+}
+
+std::vector<std::string> PlannerLists::HeadsToCompare() const {
     const Captions& words = context_.captions;
     const auto with_unit = [&](Caption word, std::string_view unit) {
         return words[word] + " [" + std::string(unit) + "]";
@@ -108,28 +157,16 @@ void PlannerLists::FillComparison() {
         FamilyOf(context_.selection.inputs.KatalogArt) == KatalogFamilie::Condensers
             ? Caption::HeatRejection
             : Caption::RefrigeratingCapacity;
-    const std::array<std::string, 10> heads = {
-        words[Caption::Designation],
-        with_unit(capacity, UnitKW),
-        with_unit(Caption::PressureDrop, UnitMbar),
-        words[Caption::EfficiencyClass],
-        with_unit(Caption::VolumeFlow, UnitM3h),
-        with_unit(Caption::PowerInput, UnitKW),
-        "EER/COP",
-        with_unit(Caption::RunningCost, context_.shared.CurrencyTag + "/a"),
-        words[Caption::Emission] + " CO2 [t/a]",
-        with_unit(Caption::Weight, UnitKg)};
-    Comparison.SetColumns(static_cast<int>(compared_.size()) + 1);
-    Comparison.SetRows(static_cast<int>(heads.size()), kRowHeight);
-    Comparison.SetWidth(0, kWordWidth);
-    for (int row = 0; row < static_cast<int>(heads.size()); ++row) {
-        const auto place = static_cast<std::size_t>(row);
-        Comparison.SetText(row, 0, heads[place]);
-        for (std::size_t i = 0; i < compared_.size(); ++i) {
-            Comparison.SetWidth(static_cast<int>(i) + 1, kUnitWidth);
-            Comparison.SetText(row, static_cast<int>(i) + 1, compared_[i][place]);
-        }
-    }
+    return {words[Caption::Designation],
+            with_unit(capacity, UnitKW),
+            with_unit(Caption::PressureDrop, UnitMbar),
+            words[Caption::EfficiencyClass],
+            with_unit(Caption::VolumeFlow, UnitM3h),
+            with_unit(Caption::PowerInput, UnitKW),
+            "EER/COP",
+            with_unit(Caption::RunningCost, context_.shared.CurrencyTag + "/a"),
+            words[Caption::Emission] + " CO2 [t/a]",
+            with_unit(Caption::Weight, UnitKg)};
 }
 
 std::optional<CapacityPlot> PlannerLists::Plot() const {

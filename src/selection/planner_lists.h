@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/grid_order.h"
 #include "selection/chosen_unit.h"
-#include "selection/grid_order.h"
 #include "selection/vent_zeig_controls.h"
 
 namespace zandrell {
@@ -45,8 +45,11 @@ class PlannerLists {
     void Sort(Grid& grid);
     // Brings order and hidden rows in line with what the grids hold now.
     void Follow();
-    // Puts a unit beside those that are there; the fifth takes the place of the first.
-    void Compare(const ChosenUnit& unit, const SelectionDuty& duty);
+    // Puts a unit beside those of its kind that are there, once; the fifth takes the place of the
+    // first. All figures are those of `duty`.
+    void Compare(const UnitPlace& unit, const SelectionDuty& duty);
+    // The comparison as it stands, for another duty. False when there is nothing to compare.
+    bool CompareAnew(const SelectionDuty& duty);
     // Empty unless a series of a kind with a capacity is open.
     std::optional<CapacityPlot> Plot() const;
 
@@ -54,14 +57,17 @@ class PlannerLists {
     bool Fits(const Grid& grid, int row) const;
     void HideRows(Grid& grid) const;
     void PaintStripes(Grid& grid) const;
-    void FillComparison();
+    std::vector<std::string> HeadsToCompare() const;
+    void FillComparison(const std::vector<std::vector<std::string>>& units);
 
     SelectionContext context_;
     VentZeigControls& controls_;
     GridOrder series_order_, unit_order_;
     long series_revision_ = 0, unit_revision_ = 0;
     bool hidden_ = false;
-    std::vector<std::vector<std::string>> compared_;  // the texts of one unit
+    SeriesReader compared_reader_;
+    std::vector<UnitPlace> compared_;
+    int compared_kind_ = 0;
 };
 
 }  // namespace zandrell

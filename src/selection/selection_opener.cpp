@@ -7,10 +7,14 @@ namespace zandrell {
 void SelectionOpener::Load() { refrigerants_ = ReadRefrigerants(context_.files); }
 
 std::optional<std::string> SelectionOpener::Open() {
+    if (refrigerants_.tables.empty()) {
+        return FilledIn(context_.captions[Caption::CatalogueUnreadable],
+                        {context_.files.Resolve(kRefrigerantFile).string()});
+    }
     SelectionShared& selection = context_.selection;
     if (auto message = ApplyDuty(duty, refrigerants_, context_.captions, selection)) return message;
     if (duty.KatalogArt != kind_) {
-        position_ = 0;
+        place_.position = 0;
         selection.OffeneSerie = 0;
         selection.AuswahlZeile = 0;
         selection.BildDatei.clear();
@@ -73,32 +77,31 @@ void SelectionOpener::Recalculate() {
 
 void SelectionOpener::TakeUnit() {
     const SelectionShared& selection = context_.selection;
-    place_ = {selection.SerieStart, selection.KatalogDatei};
-    position_ = selection.AuswahlZeile;
+    place_ = {{selection.SerieStart, selection.KatalogDatei}, selection.AuswahlZeile};
     ShowUnit();
 }
 
 void SelectionOpener::Step(int by) {
     Label& status = window_.controls.StatusLab;
-    if (position_ == 0) {
+    if (!HasUnit()) {
         status.text = context_.captions[Caption::NoUnitChosen];
         return;
     }
-    const int before = position_;
-    position_ += by;
+    const int before = place_.position;
+    place_.position += by;
     if (!Unit()) {
-        position_ = before;
+        place_.position = before;
         status.text = context_.captions[Caption::NextUnitMissing];
         return;
     }
     status.text.clear();
-    context_.selection.AuswahlZeile = position_;
+    context_.selection.AuswahlZeile = place_.position;
     ShowUnit();
 }
 
 std::optional<ChosenUnit> SelectionOpener::Unit() {
-    if (position_ == 0) return std::nullopt;
-    return ReadChosenUnit(reader_, place_, position_, duty, context_.selection.inputs);
+    if (!HasUnit()) return std::nullopt;
+    return ReadChosenUnit(reader_, place_, duty, context_.selection.inputs);
 }
 
 void SelectionOpener::ShowUnit() {

@@ -34,7 +34,9 @@ class SelectionOpener {
     SelectionEnd React();
 
     bool wants_settings = false;
-    bool HasUnit() const { return position_ > 0; }
+    bool HasUnit() const { return place_.position > 0; }
+    // Of the chosen unit.
+    const UnitPlace& Place() const { return place_; }
     // Of the chosen unit; empty when none is chosen.
     std::optional<ChosenUnit> Unit();
 
@@ -49,9 +51,8 @@ class SelectionOpener {
     VentZeigForm& window_;
     SeriesReader reader_;
     RefrigerantTables refrigerants_;
-    SeriesPlace place_;
-    int position_ = 0;  // of the chosen unit in its series; 0: none
-    int kind_ = 0;      // of the list that is shown
+    UnitPlace place_;
+    int kind_ = 0;  // of the list that is shown
 };
 
 }  // namespace zandrell

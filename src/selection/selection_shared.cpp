@@ -5,40 +5,92 @@
 namespace zandrell {
 namespace {
 
-constexpr bool kFromOpener = true;
+constexpr bool kFromOpener = true, kFromWindow = false;
+
+NamedValue Number(std::string_view name, double& target, bool from_opener) {
+    return {name, &target, nullptr, nullptr, nullptr, from_opener};
+}
+
+NamedValue Whole(std::string_view name, int& target, bool from_opener) {
+    return {name, nullptr, &target, nullptr, nullptr, from_opener};
+}
+
+NamedValue Text(std::string_view name, std::string& target, bool from_opener) {
+    return {name, nullptr, nullptr, nullptr, &target, from_opener};
+}
 
 void AddInputs(SelectionInputs& inputs, std::vector<NamedValue>& values) {
     for (const NumberInput& input : kNumberInputs) {
         // These three are what labels show.
         if (input.name.starts_with("Label")) continue;
-        NamedValue value{input.name};
-        value.from_opener = input.name != "QoFreq";
-        if (input.number != nullptr) value.number = &(inputs.*input.number);
-        if (input.whole != nullptr) value.whole = &(inputs.*input.whole);
-        values.push_back(value);
+        const bool from_opener = input.name != "QoFreq";
+        values.push_back(input.number != nullptr
+                             ? Number(input.name, inputs.*input.number, from_opener)
+                             : Whole(input.name, inputs.*input.whole, from_opener));
     }
-    values.push_back({"KaelteMittel", nullptr, nullptr, nullptr, &inputs.KaelteMittel, true});
+    values.push_back(Text("KaelteMittel", inputs.KaelteMittel, kFromOpener));
 }
 
 void AddEconomizer(EconomizerState& eco, std::vector<NamedValue>& values) {
-    const auto number = [&](std::string_view name, double& target, bool from_opener) {
-        values.push_back({name, &target, nullptr, nullptr, nullptr, from_opener});
-    };
-    number("HDampf", eco.HDampf, kFromOpener);
-    number("HFluessig", eco.HFluessig, kFromOpener);
-    number("HZwischen", eco.HZwischen, kFromOpener);
-    number("CpDampf", eco.CpDampf, kFromOpener);
-    number("CpFluessig", eco.CpFluessig, kFromOpener);
-    number("Ueberhitzung", eco.Ueberhitzung, kFromOpener);
-    number("Unterkuehlung", eco.Unterkuehlung, kFromOpener);
-    number("DruckMitte1", eco.DruckMitte1, kFromOpener);
-    number("DruckMitte2", eco.DruckMitte2, kFromOpener);
-    values.push_back({"EcoStufe", nullptr, &eco.EcoStufe, nullptr, nullptr, kFromOpener});
-    number("EcoLeistung", eco.EcoLeistung, false);
-    number("EcoMassenStrom", eco.EcoMassenStrom, false);
-    number("EcoDruck", eco.EcoDruck, false);
-    number("EcoAnteil", eco.EcoAnteil, false);
-    number("EcoUnterkuehlung", eco.EcoUnterkuehlung, false);
+    for (const NamedValue& value :
+         {Number("HDampf", eco.HDampf, kFromOpener),
+          Number("HFluessig", eco.HFluessig, kFromOpener),
+          Number("HZwischen", eco.HZwischen, kFromOpener),
+          Number("CpDampf", eco.CpDampf, kFromOpener),
+          Number("CpFluessig", eco.CpFluessig, kFromOpener),
+          Number("Ueberhitzung", eco.Ueberhitzung, kFromOpener),
+          Number("Unterkuehlung", eco.Unterkuehlung, kFromOpener),
+          Number("DruckMitte1", eco.DruckMitte1, kFromOpener),
+          Number("DruckMitte2", eco.DruckMitte2, kFromOpener),
+          Whole("EcoStufe", eco.EcoStufe, kFromOpener),
+          Number("EcoLeistung", eco.EcoLeistung, kFromWindow),
+          Number("EcoMassenStrom", eco.EcoMassenStrom, kFromWindow),
+          Number("EcoDruck", eco.EcoDruck, kFromWindow),
+          Number("EcoAnteil", eco.EcoAnteil, kFromWindow),
+          Number("EcoUnterkuehlung", eco.EcoUnterkuehlung, kFromWindow)}) {
+        values.push_back(value);
+    }
+}
+
+void AddOpener(SelectionShared& selection, SharedValues& shared, std::vector<NamedValue>& values) {
+    for (const NamedValue& value :
+         {Number("T0", selection.T0, kFromOpener), Number("Tc", selection.Tc, kFromOpener),
+          Number("dtM", selection.dtM, kFromOpener), Number("tSL", selection.tSL, kFromOpener),
+          Number("xd", selection.xd, kFromOpener), Number("GWP", selection.GWP, kFromOpener),
+          Number("MainsFrequency", shared.MainsFrequency, kFromOpener),
+          Whole("VentAufruf", selection.VentAufruf, kFromOpener),
+          Whole("TiefSuche", selection.TiefSuche, kFromOpener),
+          Text("FreqTitel", selection.FreqTitel, kFromOpener),
+          Text("ViewDatei1", selection.ViewDatei1, kFromOpener),
+          Text("ViewDatei2", selection.ViewDatei2, kFromOpener),
+          Text("ModuleTag", shared.ModuleTag, kFromOpener),
+          Text("ProjectTitle", shared.ProjectTitle, kFromOpener),
+          Text("ProjectRemark", shared.ProjectRemark, kFromOpener),
+          Text("ProjectFileName", shared.ProjectFileName, kFromOpener)}) {
+        values.push_back(value);
+    }
+}
+
+void AddWindow(SelectionShared& selection, SharedValues& shared, std::vector<NamedValue>& values) {
+    for (const NamedValue& value : {Whole("DialogMode", shared.DialogMode, kFromWindow),
+                                    Whole("ErgebnisDa", selection.ErgebnisDa, kFromWindow),
+                                    Whole("AnlagePending", selection.AnlagePending, kFromWindow),
+                                    Whole("Rueckkehr", selection.Rueckkehr, kFromWindow),
+                                    Whole("FensterZu", selection.FensterZu, kFromWindow),
+                                    Whole("OffeneSerie", selection.OffeneSerie, kFromWindow),
+                                    Whole("VentAufruf2", selection.VentAufruf2, kFromWindow),
+                                    Whole("AuswahlZeile", selection.AuswahlZeile, kFromWindow),
+                                    Whole("PrintOwner", selection.PrintOwner, kFromWindow),
+                                    Text("KatalogDatei", selection.KatalogDatei, kFromWindow),
+                                    Text("BildDatei", selection.BildDatei, kFromWindow),
+                                    Text("ResultText", shared.ResultText, kFromWindow),
+                                    Text("ResultLeer", selection.ResultLeer, kFromWindow),
+                                    Number("QErster", selection.QErster, kFromWindow),
+                                    Number("QLetzter", selection.QLetzter, kFromWindow),
+                                    Number("LeistungFreq", selection.LeistungFreq, kFromWindow)}) {
+        values.push_back(value);
+    }
+    values.push_back({"SerieStart", nullptr, nullptr, &selection.SerieStart, nullptr, kFromWindow});
 }
 
 }  // namespace
@@ -48,56 +100,8 @@ std::vector<NamedValue> NamedValuesOf(SelectionShared& selection, SharedValues& 
     values.reserve(80);
     AddInputs(selection.inputs, values);
     AddEconomizer(selection.eco, values);
-    const auto number = [&](std::string_view name, double& target, bool from_opener) {
-        values.push_back({name, &target, nullptr, nullptr, nullptr, from_opener});
-    };
-    const auto whole = [&](std::string_view name, int& target, bool from_opener) {
-        values.push_back({name, nullptr, &target, nullptr, nullptr, from_opener});
-    };
-    const auto text = [&](std::string_view name, std::string& target, bool from_opener) {
-        values.push_back({name, nullptr, nullptr, nullptr, &target, from_opener});
-    };
-    for (auto& [name, target] : {std::pair<std::string_view, double*>{"T0", &selection.T0},
-                                 {"Tc", &selection.Tc},
-                                 {"dtM", &selection.dtM},
-                                 {"tSL", &selection.tSL},
-                                 {"xd", &selection.xd},
-                                 {"GWP", &selection.GWP},
-                                 {"MainsFrequency", &shared.MainsFrequency}}) {
-        number(name, *target, kFromOpener);
-    }
-    whole("VentAufruf", selection.VentAufruf, kFromOpener);
-    whole("TiefSuche", selection.TiefSuche, kFromOpener);
-    for (auto& [name, target] :
-         {std::pair<std::string_view, std::string*>{"FreqTitel", &selection.FreqTitel},
-          {"ViewDatei1", &selection.ViewDatei1},
-          {"ViewDatei2", &selection.ViewDatei2},
-          {"ModuleTag", &shared.ModuleTag},
-          {"ProjectTitle", &shared.ProjectTitle},
-          {"ProjectRemark", &shared.ProjectRemark},
-          {"ProjectFileName", &shared.ProjectFileName}}) {
-        text(name, *target, kFromOpener);
-    }
-    for (auto& [name, target] :
-         {std::pair<std::string_view, int*>{"DialogMode", &shared.DialogMode},
-          {"ErgebnisDa", &selection.ErgebnisDa},
-          {"AnlagePending", &selection.AnlagePending},
-          {"Rueckkehr", &selection.Rueckkehr},
-          {"FensterZu", &selection.FensterZu},
-          {"OffeneSerie", &selection.OffeneSerie},
-          {"VentAufruf2", &selection.VentAufruf2},
-          {"AuswahlZeile", &selection.AuswahlZeile},
-          {"PrintOwner", &selection.PrintOwner}}) {
-        whole(name, *target, false);
-    }
-    values.push_back({"SerieStart", nullptr, nullptr, &selection.SerieStart, nullptr, false});
-    text("KatalogDatei", selection.KatalogDatei, false);
-    text("BildDatei", selection.BildDatei, false);
-    text("ResultText", shared.ResultText, false);
-    text("ResultLeer", selection.ResultLeer, false);
-    number("QErster", selection.QErster, false);
-    number("QLetzter", selection.QLetzter, false);
-    number("LeistungFreq", selection.LeistungFreq, false);
+    AddOpener(selection, shared, values);
+    AddWindow(selection, shared, values);
     return values;
 }
 

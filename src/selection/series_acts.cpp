@@ -49,9 +49,12 @@ void SeriesActs::ShowUnits(int row) {
     selection.AuswahlZeile = 0;
     units_.SerieLesen(selection.SerieStart - 2, kFillTable, row);
     // The range is read behind the run, which writes it anew for a series of 48 units.
-    controls_.SerienPN.text = grid.Text(row, kSeriesTextColumn) + ":" + std::string(CrLf) +
-                              "Qo min = " + grid.Text(row, 1) +
-                              " kW, Qo max = " + grid.Text(row, 2) + " kW";
+    controls_.SerienPN.text = grid.Text(row, kSeriesTextColumn) + ":";
+    // Kinds with a kv value have no range.
+    if (!grid.Text(row, 1).empty()) {
+        controls_.SerienPN.text += std::string(CrLf) + "Qo min = " + grid.Text(row, 1) +
+                                   " kW, Qo max = " + grid.Text(row, 2) + " kW";
+    }
     if (selection.AuswahlZeile > 0) {
         controls_.Venttab.row = selection.AuswahlZeile;
     } else {

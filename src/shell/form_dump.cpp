@@ -142,7 +142,8 @@ const std::vector<const std::vector<ProgramValue>*>& AllValues() {
 }  // namespace
 
 std::vector<ModalForm*> WindowsOf(MainForm& main) {
-    return {&main.options, &main.Projects().dialog, &main.printing.setup, &main.help};
+    return {&main.options, &main.Projects().dialog, &main.printing.setup, &main.help,
+            &main.state_table};
 }
 
 Json DumpForm(MainForm& main) {

@@ -55,6 +55,7 @@ void BindMenuActs(MainForm& main) {
     on_menu(controls.Heiz_start, opens_tool(Calculation::Heater));
     on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
     on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
+    on_menu(controls.StateList, [&main] { main.ShowStates(); });
     on_menu(controls.kopieren, [&main] {
         main.User().CopyChart();
         main.status.Say(main.captions[Caption::Copied]);

@@ -69,6 +69,7 @@ void SetMenuCaptions(MainControls& c, const Captions& words, const std::string& 
           calculate + words[Caption::WaterHumidifier] + " " + words[Caption::HumidifierSecond]);
     entry(c.Humid_D_Start,
           calculate + words[Caption::SteamHumidifier] + " " + words[Caption::HumidifierSecond]);
+    entry(c.StateList, words[Caption::StateTable]);
     entry(c.kopieren, words[Caption::ModuleName] + " &" + words[Caption::CopyToClipboard]);
     entry(c.Hsich, words[Caption::SaveButton]);
     entry(c.Hlad, words[Caption::Load]);

@@ -23,7 +23,7 @@ void MainControls::ListControls(Form& form) {
     for (MenuEntry& entry : recent_entries) form.Add({&entry});
     form.Add({&Opt, &qveinst, &wrgEinst, &KompAusw});
     form.Add({&Bearb, &ZustAe, &Misch, &Kleis, &AnlageS, &Leist_Ber, &Heiz_start, &Kuehl_start,
-              &Humid_W_Start, &Humid_D_Start, &kopieren, &Hsich, &Hlad});
+              &Humid_W_Start, &Humid_D_Start, &StateList, &kopieren, &Hsich, &Hlad});
     form.Add({&HelpMenu, &HelpHere, &HelpSoftware, &HelpChart, &HelpAirTreatment, &HelpProject,
               &HelpValues, &HelpSettings});
 }

@@ -46,8 +46,8 @@ struct MainControls {
     MenuEntry Opt{"Opt"}, qveinst{"qveinst"}, wrgEinst{"wrgEinst"}, KompAusw{"KompAusw"};
     MenuEntry Bearb{"Bearb"}, ZustAe{"ZustAe"}, Misch{"Misch"}, Kleis{"Kleis"}, AnlageS{"AnlageS"},
         Leist_Ber{"Leist_Ber"}, Heiz_start{"Heiz_start"}, Kuehl_start{"Kuehl_start"},
-        Humid_W_Start{"Humid_W_Start"}, Humid_D_Start{"Humid_D_Start"}, kopieren{"kopieren"},
-        Hsich{"Hsich"}, Hlad{"Hlad"};
+        Humid_W_Start{"Humid_W_Start"}, Humid_D_Start{"Humid_D_Start"}, StateList{"StateList"},
+        kopieren{"kopieren"}, Hsich{"Hsich"}, Hlad{"Hlad"};
     MenuEntry HelpMenu{"HelpMenu"}, HelpHere{"HelpHere"}, HelpSoftware{"HelpSoftware"},
         HelpChart{"HelpChart"}, HelpAirTreatment{"HelpAirTreatment"}, HelpProject{"HelpProject"},
         HelpValues{"HelpValues"}, HelpSettings{"HelpSettings"};
@@ -62,7 +62,7 @@ struct MenuBranch {
     std::string_view entry;
     std::string_view parent;  // empty: in the menu bar
 };
-inline constexpr std::array<MenuBranch, 45> kMenuTree = {{
+inline constexpr std::array<MenuBranch, 46> kMenuTree = {{
     {"proj", ""},
     {"NeuPro", "proj"},
     {"ProLad", "proj"},
@@ -97,6 +97,7 @@ inline constexpr std::array<MenuBranch, 45> kMenuTree = {{
     {"Kuehl_start", "Leist_Ber"},
     {"Humid_W_Start", "Leist_Ber"},
     {"Humid_D_Start", "Leist_Ber"},
+    {"StateList", "Bearb"},
     {"kopieren", "Bearb"},
     {"Hsich", ""},
     {"Hlad", ""},

@@ -45,6 +45,7 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
       printing({user, files, shared, captions, chart, overlay, processes, controls.Proj_T,
                 controls.Schr_T}),
       help(files, shared, captions, user),
+      state_table(files, captions, user),
       user_(user),
       files_(files),
       named_folder_(std::move(named)),
@@ -197,6 +198,12 @@ void MainForm::ShowPreview() {
     if (ended) return;
     printing.ShowPreview();
     SetTitle();
+}
+
+void MainForm::ShowStates() {
+    if (ended) return;
+    state_table.ShowStates(ListStates(processes), processes.point.tool_name.text);
+    shared.ZurueckVomDialog = DialogEcho::Expected;
 }
 
 void MainForm::OpenHelp(HelpTopic topic) {

@@ -21,6 +21,7 @@
 #include "shell/panel_keeper.h"
 #include "shell/pointer_machine.h"
 #include "shell/start_up.h"
+#include "shell/state_table_form.h"
 #include "shell/status_line.h"
 #include "shell/undo_keeper.h"
 
@@ -47,6 +48,7 @@ class MainForm : public WindowForm {
     OptionsForm options;
     ChartPrinting printing;
     HelpForm help;
+    StateTableForm state_table;
     StatusLine status;
     // Starts the program of the component selection with these arguments; false when there is none.
     std::function<bool(const std::vector<std::string>& arguments)> start_selection;
@@ -75,6 +77,8 @@ class MainForm : public WindowForm {
     // The print setup, and the print-out when it is confirmed.
     void Print();
     void ShowPreview();
+    // The states of the process in force, in a window of their own.
+    void ShowStates();
     // Notes duty and air flow of the process for the selection of a component.
     void AuswahlOeffnen();
     // Starts the component selection with the duty and the air flow that were noted last.

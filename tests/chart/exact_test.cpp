@@ -9,6 +9,7 @@
 #include "canvas/palette.h"
 #include "chart/exact_painting.h"
 #include "painted_chart.h"
+#include "tests/processes/independent_air.h"
 
 namespace zandrell {
 namespace {
@@ -198,9 +199,9 @@ TEST(Exact, VapourPressureIsThatOfTheHumidityBelow) {
                 ++ticks;
                 EXPECT_EQ(all[i - 1].x1, all[i - 1].x2);
                 const double x = chart.engine.scale.StateAt({all[i - 1].x1, 0}).x / 1000;
-                const double hectopascal = 1000 * chart.pressure * x / (0.62198 + x);
+                const double hectopascal = 1000 * chart.pressure * x / (0.621945 + x);
                 const double number = ParsedNumber(all[i].text);
-                EXPECT_NEAR(hectopascal, number, 1e-4 * number) << pressure;
+                EXPECT_NEAR(hectopascal, number, 1e-6 * number) << pressure;
                 EXPECT_NEAR(10 * number, std::round(10 * number), 1e-9) << "no round number";
             }
             EXPECT_GE(ticks, 5) << pressure;
@@ -209,23 +210,15 @@ TEST(Exact, VapourPressureIsThatOfTheHumidityBelow) {
     }
 }
 
-// Relative humidity in per cent at a point of the chart, by halving; the solver is left there.
-double HumidityAt(PaintedChart& chart, const ChartState& state) {
-    double low = 0, high = 1;
-    for (int i = 0; i < 50; ++i) {
-        const double middle = (low + high) / 2;
-        const bool drier =
-            chart.solver.Evaluate(middle, state.t) && chart.solver.ZustandX < state.x;
-        (drier ? low : high) = middle;
-    }
-    return 100 * low;
+// Relative humidity in per cent at a point of the chart, and density in kg/m3, by formulas that the
+// program does not have.
+double HumidityAt(const PaintedChart& chart, const ChartState& at) {
+    const double p = 1e5 * chart.pressure;
+    const double saturated = independent::ShareOfSteam(independent::X(1, at.t, p));
+    return 100 * independent::ShareOfSteam(at.x) / saturated;
 }
-
-// What both gases weigh at their partial pressures.
-double DensityAt(PaintedChart& chart, const ChartState& state) {
-    HumidityAt(chart, state);
-    return (chart.solver.ZustandPLuft / 287.04 + chart.solver.ZustandPDampf / 461.5) /
-           (state.t + 273.15);
+double DensityAt(const PaintedChart& chart, const ChartState& at) {
+    return (1 + at.x / 1000) * independent::DryAir(at.t, at.x, 1e5 * chart.pressure);
 }
 
 TEST(Exact, ADensityLineLiesWhereItsDensityIs) {
@@ -262,6 +255,56 @@ TEST(Exact, ADensityLineLiesWhereItsDensityIs) {
     thin.Paint();
     EXPECT_EQ(FindText(thin.engine.picture, " 1.35 kg/m³"), nullptr);
     EXPECT_NE(FindText(thin.engine.picture, " .95 kg/m³"), nullptr);
+}
+
+// The states along a line on the canvas, at its ends and in its middle.
+std::vector<ChartState> StatesAlong(const PaintedChart& chart, const CanvasOperation& line) {
+    std::vector<ChartState> states;
+    for (const double share : {0.0, 0.5, 1.0}) {
+        states.push_back(chart.engine.scale.StateAt(
+            {line.x1 + share * (line.x2 - line.x1), line.y1 + share * (line.y2 - line.y1)}));
+    }
+    return states;
+}
+
+// Every piece of the saturation line and of the enthalpy lines, on the whole chart and in a zoom.
+// An enthalpy line is what comes before its stub and its number.
+TEST(Exact, SaturationAndEnthalpyLinesLieWhereTheirFiguresAre) {
+    for (const char* pressure : {"1.013", "0.8"}) {
+        for (const int kind : {kMollier, kCarrier}) {
+            for (const bool zoomed : {false, true}) {
+                PaintedChart chart(Settings("-20,40,0,40", kind, pressure));
+                chart.Paint();
+                if (zoomed && kind == kMollier) chart.Zoom(200, 20, 600, 250);
+                if (zoomed && kind == kCarrier) chart.Zoom(900, 250, 700, 240);
+                int saturated = 0, lines = 0;
+                const auto& all = chart.engine.picture.Operations();
+                for (std::size_t i = 0; i < all.size(); ++i) {
+                    if (all[i].stroke == Stroke::Line && all[i].colour == kDarkRed) {
+                        ++saturated;
+                        const auto states = StatesAlong(chart, all[i]);
+                        EXPECT_NEAR(HumidityAt(chart, states.front()), 100, 0.1) << states[0].t;
+                        EXPECT_NEAR(HumidityAt(chart, states.back()), 100, 0.1) << states[0].t;
+                    }
+                    if (all[i].text.find("kJ/kg") == std::string::npos) continue;
+                    const double h = ParsedNumber(all[i].text.substr(0, all[i].text.find('k')));
+                    for (std::size_t k = i - 2;
+                         all[k].stroke == Stroke::Line && all[k].colour == kGrey; --k) {
+                        const auto states = StatesAlong(chart, all[k]);
+                        if (std::abs(states[0].t - states[2].t) < 1e-9) break;  // a stub
+                        ++lines;
+                        for (const ChartState& at : states) {
+                            EXPECT_NEAR(independent::H(at.t, at.x, 1e5 * chart.pressure), h,
+                                        0.03 + 2e-4 * std::abs(h))
+                                << pressure << ": " << at.t << " degC, " << at.x << " g/kg";
+                        }
+                    }
+                }
+                EXPECT_GE(saturated, 90) << pressure;
+                EXPECT_GE(lines, 12 * (zoomed ? 3 : 10)) << pressure;
+            }
+        }
+    }
 }
 
 TEST(Exact, AHumidityLabelStandsAtItsOwnCurve) {

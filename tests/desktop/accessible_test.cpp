@@ -3,59 +3,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
 
+#include "desktop/accessible_walk.h"
 #include "desktop/first_run_hint.h"
 #include "desktop/window_session.h"
 
 namespace zandrell {
 namespace {
 
-struct Found {
-    int focusable = 0, figures = 0, bars = 0;
-};
-
-void Walk(QAccessibleInterface& item, Found& found) {
-    const auto text = [&item](QAccessible::Text kind) { return item.text(kind).toStdString(); };
-    const std::string name = text(QAccessible::Name);
-    const std::string which = item.object() ? item.object()->objectName().toStdString() : name;
-    const auto* widget = qobject_cast<QWidget*>(item.object());
-    if (widget != nullptr && !widget->isVisible()) return;
-    if (item.state().focusable && item.role() != QAccessible::Window) {
-        ++found.focusable;
-        EXPECT_NE(name, "") << which;
-    }
-    if (const auto* figure = dynamic_cast<const FigureLabel*>(widget)) {
-        const std::string shown = figure->text().toStdString();
-        if (!shown.empty()) ++found.figures;
-        EXPECT_NE(name, "") << which;
-        EXPECT_NE(name, shown) << which << " is named by its value";
-        EXPECT_EQ(text(QAccessible::Value).substr(0, shown.size()), shown) << which;
-    }
-    if (dynamic_cast<const Bar*>(widget) != nullptr) {
-        ++found.bars;
-        const std::string value = text(QAccessible::Value);
-        EXPECT_TRUE(value.ends_with(" °C") || value.ends_with(" %")) << which << ": " << value;
-        EXPECT_NE(item.valueInterface(), nullptr) << which;
-    }
-    for (int i = 0; i < item.childCount(); ++i) {
-        if (QAccessibleInterface* child = item.child(i)) Walk(*child, found);
-    }
-}
-
 class AccessibleTest : public WindowSession {
   protected:
-    static Found Look(QWidget& window) {
-        Found found;
-        QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window);
-        EXPECT_NE(root, nullptr);
-        if (root) Walk(*root, found);
-        return found;
-    }
     static QAccessibleInterface& Of(QWidget* widget) {
         return *QAccessible::queryAccessibleInterface(widget);
     }
@@ -88,7 +49,7 @@ TEST_F(AccessibleTest, NothingThatTakesFocusIsUnnamedAndNoFigureWithoutValue) {
     } panels[] = {{"ZAButt", 4, 4}, {"BearButt", 7, 5}, {"MischButt", 7, 6}, {"AnlageButt", 5, 6}};
     for (const auto& panel : panels) {
         Open(panel.tool);
-        const Found found = Look(*window_);
+        const Found found = LookAt(*window_);
         EXPECT_GT(found.focusable, 20) << panel.tool;
         EXPECT_GE(found.figures, panel.figures) << panel.tool;
         EXPECT_GE(found.bars, panel.bars) << panel.tool;
@@ -97,7 +58,7 @@ TEST_F(AccessibleTest, NothingThatTakesFocusIsUnnamedAndNoFigureWithoutValue) {
     QTimer::singleShot(0, window_.get(), [&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
-        EXPECT_GT(Look(*dialog).focusable, 10);
+        EXPECT_GT(LookAt(*dialog).focusable, 10);
         looked = true;
         Key(*dialog, Qt::Key_Escape);
     });

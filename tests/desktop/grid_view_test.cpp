@@ -118,6 +118,13 @@ TEST_F(GridViewTest, ShowsTextsWidthsAndHiddenRows) {
     };
     EXPECT_EQ(model->rowCount(), kRows);
     EXPECT_EQ(model->headerData(1, Qt::Horizontal), QStringLiteral("Qo"));
+    grid_.SetText(0, 1, "Typ/Flow[m³/h]");
+    EXPECT_EQ(model->headerData(1, Qt::Horizontal),
+              QStringLiteral("Typ/\u200BFlow\u200B[m³/\u2060h]"))
+        << "breaks in front of a unit, not in it";
+    EXPECT_EQ(model->headerData(1, Qt::Horizontal, Qt::AccessibleTextRole),
+              QStringLiteral("Typ/Flow[m³/h]"));
+    grid_.SetText(0, 1, "Qo");
     EXPECT_EQ(cell(4, 2, Qt::DisplayRole), QStringLiteral("Ulmak 4"));
     EXPECT_TRUE(cell(4, 2, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
     EXPECT_TRUE(cell(4, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
@@ -147,6 +154,25 @@ TEST_F(GridViewTest, ShowsTextsWidthsAndHiddenRows) {
     Show();
     EXPECT_FALSE(view_.isRowHidden(4));
     EXPECT_EQ(model->rowCount(), 2);
+}
+
+// Number, name, figure: 30 designed 40, 80 designed 300, 60 designed 100.
+TEST(ColumnWidths, GiveWayAndFillTheRoom) {
+    const std::vector<ColumnWish> wishes = {
+        {30, 40, 40, false}, {80, 80, 300, true}, {60, 60, 100, true}, {}};
+    const struct {
+        int room;
+        std::vector<int> widths;
+    } cases[] = {
+        {180, {40, 80, 60, 0}},    {260, {40, 140, 80, 0}},  // 80 more, 3 to 1
+        {1000, {40, 800, 160, 0}},  // 160 is the most for a figure, the name takes the rest
+        {172, {32, 80, 60, 0}},     // the number gives way first
+        {150, {30, 60, 60, 0}},     // then the name
+        {100, {30, 50, 60, 0}},     // which stays to be read
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(WidthsInRoom(wishes, 1, c.room, 50), c.widths) << c.room;
+    }
 }
 
 TEST_F(GridViewTest, KeysAndWheelReachTheForm) {

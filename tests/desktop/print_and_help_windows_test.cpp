@@ -1,9 +1,11 @@
 #include <QComboBox>
+#include <QHeaderView>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
+#include <QTableView>
 #include <QTimer>
 
 #include "desktop/modal_window.h"
@@ -101,6 +103,47 @@ TEST_F(PrintAndHelpWindows, TheHelpOfAWindowCanBeRewritten) {
     });
     EXPECT_EQ(form_.help.InfoText.text, "own\nwords");
     EXPECT_NE(folder_.Read("Zandhelp.ENG").find("#own\r\nwords "), std::string::npos);
+}
+
+// What the form says reaches the table, and a click on a head sorts it.
+TEST_F(PrintAndHelpWindows, TheTableOfStatesShowsThePlant) {
+    for (const auto& [field, text] : {std::pair{"tabLuft", "26"},
+                                      {"PHIAbluft", "50"},
+                                      {"Taus", "32"},
+                                      {"PhiAussen", "40"},
+                                      {"TZuluft", "18"},
+                                      {"PHIZuluft", "60"},
+                                      {"tKA", "12"},
+                                      {"phiKanal", "95"},
+                                      {"vhAnlage", "10000"},
+                                      {"aussenAnt", "3"},
+                                      {"dtVent1", "1"},
+                                      {"dtVent2", "0"}}) {
+        form_.UserSetText(field, text);
+    }
+    window_->Mirror().Click("AnlageButt");
+    Within<ModalWindow>(
+        [this] { window_->Mirror().Click("StateList"); },
+        [this](ModalWindow& table) {
+            EXPECT_EQ(table.windowTitle(), QStringLiteral("State Table - AHU"));
+            auto* grid = In<QTableView>(table, "States");
+            QAbstractItemModel* cells = grid->model();
+            ASSERT_EQ(cells->rowCount(), form_.state_table.States.RowCount() - 1);
+            ASSERT_GT(cells->rowCount(), 4);
+            const auto shown = [cells](int row, int column) {
+                return cells->index(row, column).data().toString().toStdString();
+            };
+            EXPECT_EQ(shown(0, 0), "Extract Air");
+            EXPECT_EQ(shown(0, 1), "26");
+            QHeaderView* heads = grid->horizontalHeader();
+            const QPoint head(heads->sectionViewportPosition(1) + 5, heads->height() / 2);
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, head, heads->viewport()->mapToGlobal(head), Qt::LeftButton,
+                                  Qt::LeftButton, Qt::NoModifier);
+                QApplication::sendEvent(heads->viewport(), &event);
+            }
+            EXPECT_EQ(shown(0, 1), "12") << "the coldest comes first";
+        });
 }
 
 }  // namespace

@@ -5,85 +5,16 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QDialog>
+#include <QLineEdit>
 #include <QScrollArea>
-#include <QTest>
-#include <QTimer>
+#include <QScrollBar>
 #include <set>
 
 #include "desktop/look_colours.h"
-#include "desktop/window_session.h"
+#include "desktop/selection_session.h"
 
 namespace zandrell {
 namespace {
-
-class SelectionWindowTest : public ::testing::Test {
-  protected:
-    SelectionWindowTest() {
-        folder_.CopyWholeSet();
-        desk_.Load();
-        planner_.SetCaptions();
-        window_ = std::make_unique<SelectionWindow>(desk_, planner_, user_);
-        window_->resize(1280, 800);
-        window_->show();
-        SelectionDuty duty;
-        duty.capacity = 12;
-        planner_.Start(duty);
-        window_->Refresh();
-        window_->TakeFocus();
-        for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
-    }
-
-    template <class Widget>
-    Widget* Find(const char* name) {
-        auto* widget = window_->findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
-    }
-
-    void Act(const std::function<void(VentZeigForm&)>& act) {
-        act(desk_.window);
-        window_->Refresh();
-        QApplication::processEvents();
-    }
-
-    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QWidget* focused = window_->focusWidget();
-        ASSERT_NE(focused, nullptr);
-        QTest::keyClick(focused, static_cast<Qt::Key>(key), modifiers);
-        QApplication::processEvents();
-    }
-
-    static QColor GroundOf(const GridView& view, int row, int column) {
-        const QRect cell = view.CellRect(row, column);
-        return QColor(view.viewport()->grab().toImage().pixel(cell.center().x(), cell.top() + 2));
-    }
-
-    // Lets `user` look at the dialog that `button` opens, which is closed behind him.
-    void InDialog(const char* button, const std::function<void(QDialog&)>& user) {
-        bool seen = false;
-        QTimer::singleShot(0, window_.get(), [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog) return;
-            seen = true;
-            user(*dialog);
-            dialog->reject();
-        });
-        Find<QPushButton>(button)->click();
-        EXPECT_TRUE(seen) << button;
-    }
-
-    QApplication& application_ = TheApplication();
-    TestFolder folder_;
-    DataFiles files_{folder_.Path()};
-    QtUser user_;
-    SelectionDesk desk_{user_, files_, NamedFolder(folder_.Path())};
-    SelectionContext context_{files_, desk_.shared, desk_.captions, user_, desk_.selection};
-    SelectionOpener opener_{context_, desk_.window};
-    PlannerForm planner_{context_, desk_.window, opener_};
-    VentZeigControls& c_ = desk_.window.controls;
-    std::unique_ptr<SelectionWindow> window_;
-};
 
 // 12 kW: the second series ends at 11 kW, the tenth at .62 kW; unit 21 of the third has 12.8 kW,
 // unit 26 18.5 kW, unit 30 24.7 kW.
@@ -129,7 +60,7 @@ TEST_F(SelectionWindowTest, TakesAUnitByKeysAlone) {
     EXPECT_TRUE(units->isVisible());
     EXPECT_TRUE(units->viewport()->rect().contains(units->CellRect(21, 1))) << "what does the duty";
     EXPECT_FALSE(box->isVisible());
-    units->setFocus();
+    EXPECT_EQ(window_->focusWidget(), units) << "the keys go on in the units";
     Press(Qt::Key_Return);
     EXPECT_TRUE(box->isVisible());
     EXPECT_EQ(box->geometry(), units->CellRect(c_.Venttab.row, c_.Venttab.column));
@@ -141,6 +72,7 @@ TEST_F(SelectionWindowTest, TakesAUnitByKeysAlone) {
     Press(Qt::Key_Return);
     Press(Qt::Key_Return);
     EXPECT_FALSE(units->isVisible()) << "the list of units closes behind the choice";
+    EXPECT_EQ(window_->focusWidget(), series) << "and the keys go back to the series";
     EXPECT_EQ(Find<QLabel>("ventlabel")->text(), QStringLiteral("AW 21 7 mm"));
     EXPECT_EQ(Find<QLabel>("R_Label")->text(), ShownText(c_.R_Label.text));
 }
@@ -225,6 +157,10 @@ TEST_F(SelectionWindowTest, ComparesAndPlots) {
             EXPECT_EQ(model.columnCount(), row - 19);
             EXPECT_EQ(model.headerData(row - 20, Qt::Horizontal).toString().toStdString(),
                       "AW " + std::to_string(row) + " 7 mm");
+            EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0) << "nothing is cut off";
+            auto* back = dialog.findChild<QPushButton*>(QStringLiteral("Back"));
+            ASSERT_NE(back, nullptr);
+            EXPECT_EQ(back->text(), QStringLiteral("Back"));
         });
     }
     InDialog("Plot", [](QDialog& dialog) {
@@ -236,6 +172,58 @@ TEST_F(SelectionWindowTest, ComparesAndPlots) {
         EXPECT_TRUE(told) << "the chosen unit";
     });
 }
+
+// A name without an ending gets that of the list.
+TEST_F(SelectionWindowTest, TheListIsWrittenAsCsv) {
+    InDialog("Csv", [this](QDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>();
+        ASSERT_NE(name, nullptr);
+        EXPECT_EQ(name->text(), QStringLiteral("600 Air Coolers.csv"));
+        name->setText(QString::fromStdString((folder_ / "list").string()));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_NE(folder_.Read("list.csv").find("Ulmrain AW"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "list"));
+}
+
+TEST_F(SelectionWindowTest, WideWindowsHaveBothListsBesideEachOther) {
+    Act([](VentZeigForm& form) { form.UserPickCell("KatalogSpread", 3, 3); });
+    auto* series = Find<GridView>("KatalogSpread");
+    auto* units = Find<GridView>("Venttab");
+    for (const auto& [width, beside] : {std::pair(1280, false), {2600, true}, {1024, false}}) {
+        window_->resize(width, 800);
+        QApplication::processEvents();
+        const QPoint left = series->mapTo(window_.get(), QPoint()),
+                     right = units->mapTo(window_.get(), QPoint());
+        EXPECT_EQ(right.x() > left.x() + series->width(), beside) << width;
+        EXPECT_EQ(units->horizontalScrollBar()->maximum(), 0) << width;
+        EXPECT_NEAR(units->horizontalHeader()->length(), units->viewport()->width(), 2)
+            << width << ": the table ends where the window does";
+    }
+}
+
+// Languages with long words.
+class SmallWindowTest : public SelectionWindowTest,
+                        public ::testing::WithParamInterface<const char*> {
+  protected:
+    SmallWindowTest() : SelectionWindowTest(GetParam()) {}
+};
+
+TEST_P(SmallWindowTest, ShowsAllColumnsAndFigures) {
+    window_->resize(1008, 650);
+    QApplication::processEvents();
+    EXPECT_LE(window_->width(), 1008);
+    for (const int kind : {600, 650, 550, 250}) {
+        OpenUnit(kind, 3, 0);
+        EXPECT_EQ(Find<GridView>("Venttab")->horizontalScrollBar()->maximum(), 0) << kind;
+        if (kind == 600 || kind == 550) OpenUnit(kind, 3, 1);
+        for (const QScrollArea* area : window_->findChildren<QScrollArea*>()) {
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << kind << " cuts figures off";
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, SmallWindowTest, ::testing::Values("DEU", "FRA", "POR"));
 
 }  // namespace
 }  // namespace zandrell

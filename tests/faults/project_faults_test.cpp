@@ -1,40 +1,16 @@
 // Every act that writes what a user has typed, against every fault at every call of the system.
 #include <gtest/gtest.h>
 
-#include <iostream>
-
+#include "faults/fault_folder.h"
 #include "faults/faulty_run.h"
 #include "projects/desk_session.h"
 
 namespace zandrell {
 namespace {
 
-using faults::FaultCounts;
 using faults::FaultyAct;
 using faults::FolderContent;
 using faults::Ready;
-
-namespace fs = std::filesystem;
-
-// In memory where the system has such a folder: hundreds of flushes would keep a disk busy.
-class FaultFolder {
-  public:
-    FaultFolder() {
-        std::error_code error;
-        const bool memory = fs::is_directory("/dev/shm", error);
-        std::string pattern =
-            (memory ? "/dev/shm" : fs::temp_directory_path().string()) + "/zandrell.XXXXXX";
-        path_ = ::mkdtemp(pattern.data());
-    }
-    ~FaultFolder() {
-        std::error_code error;
-        fs::remove_all(path_, error);
-    }
-    const fs::path& Path() const { return path_; }
-
-  private:
-    fs::path path_;
-};
 
 std::string State(const std::string& text) {
     DeskFields fields;
@@ -62,17 +38,9 @@ class ProjectFaults : public testing::Test {
         };
     }
 
-    void Try(const FaultyAct& faulty) {
-        const FaultCounts counts = TryAllFaults(folder_.Path(), faulty);
-        EXPECT_GT(counts.points, 8) << faulty.name;
-        EXPECT_GT(counts.old_content, 0) << faulty.name;
-        EXPECT_GT(counts.new_content, 0) << faulty.name;
-        std::cout << faulty.name << ": " << counts.points << " faults, " << counts.killed
-                  << " of them kills; all new " << counts.new_content << ", something old "
-                  << counts.old_content << ", told " << counts.told << "\n";
-    }
+    void Try(const FaultyAct& faulty) { faults::TryAndReport(folder_.Path(), faulty); }
 
-    FaultFolder folder_;
+    faults::FaultFolder folder_;
     const FolderContent before_ = {{"QV_ACT.dat", State("old")},
                                    {"ZANDData.dat", "0,0\r\n"},
                                    {"QV_ACT.bak", State("older")},

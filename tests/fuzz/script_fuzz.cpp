@@ -3,28 +3,15 @@
 #include <sstream>
 
 #include "base/text_encoding.h"
+#include "fuzz/cancelling_user.h"
 #include "fuzz/fuzz_folder.h"
 #include "shell/form_script.h"
 
-namespace {
-
 using namespace zandrell;
-
-class CancellingUser : public UserInterface {
-  public:
-    void ShowMessage(const Message&) override {}
-    bool Confirm(const Message&) override { return false; }
-    void ShowModal(ModalForm& window) override { window.UserClick(window.cancel_control); }
-    void WaitMilliseconds(int) override {}
-    void CopyChart() override {}
-    bool ChoosePrinter(const std::string&) override { return false; }
-};
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static fuzz::Folder folder;
-    static CancellingUser user;
+    static fuzz::CancellingUser user;
     static MainForm* form = [] {
         const NamedFolder named(folder.Files().DataFolder());
         auto* made = new MainForm(user, folder.Files(), named);

@@ -108,7 +108,6 @@ struct NumberException {
 };
 constexpr NumberException kNumberExceptions[] = {
     {"desktop/program_start.cpp", "sscanf"},         // the size asked for on the command line
-    {"desktop/script_runner.cpp", "to_string"},      // the number of a script's line
     {"desktop/script_runner.cpp", "istringstream"},  // the words of a script's line
     {"painter/chart_file.cpp", "to_string"},         // the largest side, in a message
 };

@@ -1,9 +1,11 @@
 #include "printing/chart_print_out.h"
 
 #include <map>
+#include <set>
 
 #include "base/number_text.h"
 #include "printing_session.h"
+#include "processes/state_list.h"
 
 namespace zandrell {
 namespace {
@@ -164,6 +166,32 @@ TEST(PrintOut, AZoomedChartPrintsZoomed) {
     EXPECT_DOUBLE_EQ(session.chart.scale.MassstabX, scale);
     EXPECT_GT(scale, 100);
     EXPECT_GT(sheet.chart.Operations().size(), 100U);
+}
+
+// On demand, and never without a process.
+TEST(PrintOut, StatesOnASecondPage) {
+    PrintingSession session;
+    session.shared.prints_states = true;
+    session.shared.PaperOrientation = 2;
+    EXPECT_TRUE(session.printing.ComposeSheet().further.empty());
+    session.RunPlant();
+    const Sheet sheet = session.printing.ComposeSheet();
+    ASSERT_EQ(sheet.further.size(), 1U);
+    const Sheet& page = sheet.further[0];
+    EXPECT_TRUE(page.landscape);
+    const StateList list = ListStates(session.processes);
+    ASSERT_GT(list.rows.size(), 5U);
+    std::multiset<std::string> printed;
+    for (const SheetItem& item : page.Items()) {
+        if (item.kind == SheetItem::Kind::Text) printed.insert(item.text);
+    }
+    for (const auto& row : list.rows) {
+        for (std::size_t i = 1; i < row.size(); ++i)
+            EXPECT_TRUE(printed.contains(row[i])) << row[i];
+    }
+    EXPECT_TRUE(printed.contains(session.captions[Caption::Page] + std::string(ColonSuffix) + "2"));
+    session.shared.prints_states = false;
+    EXPECT_TRUE(session.printing.ComposeSheet().further.empty());
 }
 
 }  // namespace

@@ -8,9 +8,8 @@
 
 #include "base/number_text.h"
 #include "canvas/palette.h"
-#include "hand_air.h"
 #include "independent_air.h"
-#include "kernel/air_from_x.h"
+#include "kernel/exact_air.h"
 #include "process_window.h"
 
 namespace zandrell {
@@ -30,17 +29,21 @@ struct ExactWindow : ProcessWindow {
     }
 };
 
+constexpr double kPascal = 101300;
+double H(double t, double x) { return independent::H(t, x, kPascal); }
+
 double Number(const Control& control) { return ParsedNumber(control.text); }
 
-// 1000 m3/h of 20 degC and 50 % hold 1189.96 kg of dry air per hour with 7.2647 g/kg. Heated to 30
-// degC, each kilogram takes up 10.049 + 0.0072647 * 18.5 = 10.184 kJ: 3.366 kW. 26 degC and 40 %
-// (8.365 g/kg) leave a cooler of 15 degC dry; one of 5 degC is capped at 90 %: 4.85 g/kg.
+// Vapour saturates air of 20 degC at 1.0042 * 2339.2 Pa: 50 % are 7.296 g/kg, and 1000 m3/h hold
+// 1190.4 kg of dry air. Heated to 30 degC, each kilogram takes up 10.06 + 0.0073 * 18.6 = 10.196
+// kJ: 3.371 kW. 26 degC and 40 % (8.40 g/kg) leave a cooler of 15 degC dry; one of 5 degC is capped
+// at 90 %: 0.9 * 1.0041 * 872.6 Pa are 4.88 g/kg.
 TEST(ExactTools, KeepWhatTheApparatusKeeps) {
     ExactWindow window;
     PointPanel& panel = window.point;
     window.UseTool(Calculation::Heater, "20", "50", "30", "0");
-    EXPECT_EQ(panel.Kleist.text, " 3.36");
-    EXPECT_EQ(panel.Ksensibel.text, " 3.36");
+    EXPECT_EQ(panel.Kleist.text, " 3.37");
+    EXPECT_EQ(panel.Ksensibel.text, " 3.37");
     EXPECT_EQ(panel.ZustandX2, panel.ZustandX1);
     EXPECT_EQ(panel.absF2.text, panel.absF1.text);
     EXPECT_NEAR(Number(panel.enth2) - Number(panel.enth1), 10.2, 0.11);
@@ -50,28 +53,28 @@ TEST(ExactTools, KeepWhatTheApparatusKeeps) {
     EXPECT_EQ(panel.KLatent.text, " 0");
     EXPECT_EQ(panel.KondW.text, " 0");
     EXPECT_EQ(panel.Kleist.text, panel.Ksensibel.text);
-    const double x = hand::X(0.4, 26);
-    EXPECT_NEAR(Number(panel.Kleist),
-                hand::DryAirDensity(0.4, 26) * (hand::H(26, x) - hand::H(15, x)) / 3.6, 0.02);
+    const double x = independent::X(0.4, 26, kPascal);
+    const double dry = independent::DryAir(26, x, kPascal);
+    EXPECT_NEAR(Number(panel.Kleist), dry * (H(26, x) - H(15, x)) / 3.6, 0.011);
 
     window.UseTool(Calculation::Cooler, "26", "40", "5", "0");
     EXPECT_EQ(panel.relF2.text, " 90");
-    EXPECT_NEAR(panel.ZustandX2, hand::X(0.9, 5), 0.02);
+    EXPECT_NEAR(panel.ZustandX2, independent::X(0.9, 5, kPascal), 0.002);
     EXPECT_NEAR(Number(panel.absF2), panel.ZustandX2, 0.01) << "not that of the inlet";
-    EXPECT_NEAR(Number(panel.KondW), hand::DryAirDensity(0.4, 26) * (x - panel.ZustandX2), 0.02);
+    EXPECT_NEAR(Number(panel.KondW), dry * (x - independent::X(0.9, 5, kPascal)), 0.012);
 }
 
-// 30 degC and 20 % (5.26 g/kg, 43.6 kJ/kg) take up water down to 20 degC: x = (43.6 - 20.09) /
-// 2538.6 = 9.26 g/kg, 63.7 %. Down to 10 degC they would lie in the fog.
+// 30 degC and 20 % (5.28 g/kg, 43.68 kJ/kg) take up water down to 20 degC: x = (43.68 - 20.12) /
+// 2537.2 = 9.29 g/kg, 63.5 %. Down to 10 degC they would lie in the fog.
 TEST(ExactTools, HumidifiersKeepEnthalpyOrTemperature) {
     ExactWindow window;
     PointPanel& panel = window.point;
     window.UseTool(Calculation::WaterHumidifier, "30", "20", "20", "0");
     EXPECT_EQ(panel.enth2.text, panel.enth1.text);
-    const double x = 1000 * (hand::H(30, hand::X(0.2, 30)) - hand::H(20, 0)) / (2501.6 + 1.85 * 20);
-    EXPECT_NEAR(panel.ZustandX2, x, 0.02);
-    EXPECT_NEAR(Number(panel.relF2), 100 * x / hand::X(1, 20), 0.6);
-    EXPECT_NEAR(*FractionFromX(window.solver, 20, panel.ZustandX2), Number(panel.relF2) / 100,
+    const double x = (H(30, independent::X(0.2, 30, kPascal)) - H(20, 0)) / (H(20, 1) - H(20, 0));
+    EXPECT_NEAR(panel.ZustandX2, x, 0.006);
+    EXPECT_NEAR(Number(panel.relF2), 63.5, 0.15);
+    EXPECT_NEAR(*ExactAir(window.solver).Fraction(20, panel.ZustandX2), Number(panel.relF2) / 100,
                 0.001);
     EXPECT_EQ(panel.Ksensibel.text, " 0");
     window.UseTool(Calculation::WaterHumidifier, "30", "20", "10", "0");
@@ -80,7 +83,7 @@ TEST(ExactTools, HumidifiersKeepEnthalpyOrTemperature) {
 
     window.UseTool(Calculation::SteamHumidifier, "20", "30", "0", "60");
     EXPECT_EQ(panel.Temp2.text, "20");
-    EXPECT_NEAR(panel.ZustandX2, hand::X(0.6, 20), 0.02);
+    EXPECT_NEAR(panel.ZustandX2, independent::X(0.6, 20, kPascal), 0.002);
     EXPECT_EQ(panel.Ksensibel.text, " 0");
 }
 
@@ -97,21 +100,48 @@ TEST(ExactTools, HeaterLineFollowsXOnBothCharts) {
     }
 }
 
-// By dry air: 1000 m3/h of 26 degC, 50 % are 1160.3 kg, as many of -10 degC, 80 % 1338.0 kg. x is
-// (1160.3 * 10.49 + 1338 * 1.41) / 2498.3 = 5.63 g/kg; t follows from the enthalpies 52.95 and
-// -6.5.
+// By dry air: 1000 m3/h of 26 degC, 50 % are 1160.4 kg, as many of -10 degC, 80 % 1339.1 kg. x is
+// (1160.4 * 10.54 + 1339.1 * 1.28) / 2499.5 = 5.58 g/kg, since below 0 degC humidity counts over
+// ice; t is that of the mixed enthalpy, to which the independent formulas agree.
 TEST(ExactMixing, WeighsByDryAir) {
     ExactWindow window;
     window.Open(Calculation::Mixing);
     window.SetStates("26", "50", "-10", "80");
     window.point.LuftM1.text = window.point.LuftM2.text = "1000";
     window.Calculate();
-    const double one = hand::DryAirDensity(0.5, 26), other = hand::DryAirDensity(0.8, -10);
-    const double x1 = hand::X(0.5, 26), x2 = hand::X(0.8, -10);
+    const double x1 = independent::X(0.5, 26, kPascal), x2 = independent::X(0.8, -10, kPascal);
+    const double one = independent::DryAir(26, x1, kPascal);
+    const double other = independent::DryAir(-10, x2, kPascal);
     const double x = (one * x1 + other * x2) / (one + other);
-    const double h = (one * hand::H(26, x1) + other * hand::H(-10, x2)) / (one + other);
-    EXPECT_NEAR(Number(window.point.absFM), x, 0.02);
-    EXPECT_NEAR(Number(window.point.TempM), (h - 2.5016 * x) / (1.0044 + 0.00185 * x), 0.03);
+    const double h = (one * H(26, x1) + other * H(-10, x2)) / (one + other);
+    EXPECT_NEAR(Number(window.point.absFM), x, 0.011);
+    EXPECT_NEAR(H(Number(window.point.TempM), x), h, 0.02);
+}
+
+// Room air of 24 degC, 60 % and outside air of -15 degC, 90 %, in several ratios, meet in
+// the fog: the mixture is warmer than air that keeps its water as vapour, by what condenses. The
+// water balance of the independent formulas has it at the temperature where saturated air and the
+// liquid (4.2 kJ/(kg K)) or ice (-333.4 kJ/kg at 0 degC, 2.06 kJ/(kg K)) have the mixed enthalpy.
+TEST(ExactMixing, InTheFogGivesOffTheHeatOfWhatCondenses) {
+    ExactWindow window;
+    window.Open(Calculation::Mixing);
+    window.SetStates("24", "60", "-15", "90");
+    for (const double share : {3.0, 1.0, 0.2}) {
+        window.point.LuftM1.text = "1000";
+        window.point.LuftM2.text = TrimmedNumberText(1000 * share);
+        window.Calculate();
+        const double x1 = independent::X(0.6, 24, kPascal), x2 = independent::X(0.9, -15, kPascal);
+        const double one = independent::DryAir(24, x1, kPascal);
+        const double other = share * independent::DryAir(-15, x2, kPascal);
+        const double x = (one * x1 + other * x2) / (one + other);
+        const double h = (one * H(24, x1) + other * H(-15, x2)) / (one + other);
+        const double t = window.figures.MischTemp;
+        const double xs = std::min(x, independent::X(1, t, kPascal));
+        const double condensed = t <= 0.01 ? -333.4 + 2.06 * t : 4.2 * t;
+        EXPECT_NEAR(H(t, xs) + (x - xs) / 1000 * condensed, h, 0.03) << share;
+        EXPECT_EQ(x > xs, share != 0.2) << share;
+        EXPECT_EQ(window.point.relFM.text == " 100", x > xs) << share;
+    }
 }
 
 struct Row {
@@ -190,7 +220,7 @@ TEST(ExactPlant, ADecimalCommaCountsOnOpening) {
 }
 
 // What goes in and out of a plant by formulas and constants of its own; only the humidity ratios
-// are those of the run, since 0.2 % of them hang on the saturation pressures.
+// are those of the run.
 struct IndependentPlant {
     IndependentPlant(const ExactPlantRun& run, double p_pa) : run_(run), p_(p_pa) {
         const PlantInputs& in = run.inputs;
@@ -243,15 +273,16 @@ TEST(ExactPlant, EnergyAndWaterCloseOverDrawnPlants) {
         in.tKA = between(5, 13), in.phiKa = between(80, 100);
         in.dt1 = between(0, 3), in.dt2 = i % 5 == 0 ? 0 : between(0, 3);
         window.solver.ChartDruckBar = between(0.8, 1.05);
+        const ExactAir air_at_p(window.solver);
         const double p = 1e5 * window.solver.ChartDruckBar, phiAb = in.phiAb, phiZu = in.phiZu;
-        const auto humidities = RaiseExactly(window.solver, in);
+        const auto humidities = RaiseExactly(air_at_p, in);
         ASSERT_TRUE(humidities) << i;
-        const auto run = RunExactly(window.solver, in, *humidities);
+        const auto run = RunExactly(air_at_p, in, *humidities);
         ASSERT_TRUE(run) << i;
         // The independent formulas know no fog.
         const AirPoint* const airs[] = {&run->mixing.mixed, &run->heated, &run->fan_inlet.air};
         if (std::any_of(std::begin(airs), std::end(airs), [&](const AirPoint* air) {
-                return *FractionFromX(window.solver, air->t, air->x) > 1;
+                return air_at_p.FromX(air->t, air->x)->IsFog();
             })) {
             ++in_fog;
             continue;

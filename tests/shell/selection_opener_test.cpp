@@ -189,14 +189,74 @@ TEST_F(OpenerTest, PlannerHidesSortsAndCompares) {
     EXPECT_EQ(c.Venttab.Text(1, kUnitFigure), " 85");
     EXPECT_EQ(c.Venttab.Back(1, kUnitName), 7) << "the stripes stay where they were";
     EXPECT_FALSE(c.Venttab.Back(2, kUnitName));
-    for (const int row : {1, 2, 3, 4, 5}) {
+    for (const int row : {1, 2, 3, 4, 5, 5}) {
         desk.window.UserPickCell("Venttab", row, 1);
         planner.UserClick("Compare");
     }
     const Grid& comparison = planner.lists.Comparison;
     ASSERT_EQ(comparison.ColumnCount(), 1 + PlannerLists::kMostCompared);
     EXPECT_EQ(comparison.Text(0, 1), c.Venttab.Text(2, kUnitName)) << "the first one has gone";
+    EXPECT_EQ(comparison.Text(0, 4), c.Venttab.Text(5, kUnitName)) << "and none stands twice";
     EXPECT_EQ(comparison.Text(1, 4), c.Venttab.Text(5, kUnitFigure));
+    for (int row = 0; row < comparison.RowCount(); ++row) {
+        EXPECT_NE(comparison.Text(row, 0), "Pressure Drop [mbar]") << "a cooler has none";
+    }
+    // The figures of the duty in force, not those of the time of the choice: half the correction,
+    // half the capacity.
+    const double whole = ParsedNumber(comparison.Text(1, 4));
+    planner.UserSetText("Correction", "0.5");
+    planner.UserReturn("Correction");
+    EXPECT_TRUE(planner.lists.CompareAnew(opener.duty));
+    EXPECT_NEAR(ParsedNumber(comparison.Text(1, 4)), whole / 2, 0.01);
+    // Units of another kind have nothing to be compared by.
+    planner.UserPick("KindBox", "550 Compressors");
+    planner.UserClick("Compare");
+    EXPECT_EQ(planner.Message.text, "No unit is chosen");
+    EXPECT_EQ(comparison.ColumnCount(), 1);
+}
+
+TEST_F(OpenerTest, PlannerAsksForWhatTheKindNeeds) {
+    PlannerForm planner(context, desk.window, opener);
+    planner.SetCaptions();
+    planner.Start({});
+    const struct {
+        const char *kind, *asked, *not_asked;
+    } kinds[] = {{"600 Air Coolers", "AddedLoad", "Rejection"},
+                 {"650 Condensers", "Rejection", "MeanDifference"},
+                 {"550 Compressors", "LossSuction", "Correction"},
+                 {"250 Regulating Valves", "OpeningLimit", "Price"}};
+    for (const auto& kind : kinds) {
+        EXPECT_TRUE(planner.UserPick("KindBox", kind.kind)) << kind.kind;
+        EXPECT_TRUE(planner.form.Find(kind.asked)->visible) << kind.kind;
+        EXPECT_FALSE(planner.form.Find(kind.not_asked)->visible) << kind.kind;
+        EXPECT_TRUE(planner.form.Find("Capacity")->visible);
+    }
+    // What is not seen must not stand in the way.
+    planner.form.Find("Price")->text = "abc";
+    planner.UserSetText("Capacity", "7");
+    planner.UserReturn("Capacity");
+    EXPECT_EQ(planner.Message.text, "");
+    EXPECT_EQ(desk.selection.inputs.QoSoll, 7);
+}
+
+TEST_F(OpenerTest, SaysThatTheRefrigerantsAreMissing) {
+    std::filesystem::remove(folder / "refrigerants.csv");
+    PlannerForm planner(context, desk.window, opener);
+    planner.SetCaptions();
+    planner.Start({});
+    EXPECT_EQ(planner.Message.text,
+              "The file " + (folder / "refrigerants.csv").string() + " cannot be read");
+    EXPECT_FALSE(desk.window.loaded);
+}
+
+TEST_F(OpenerTest, AnotherRefrigerantStandsInForOneThatIsUnknown) {
+    PlannerForm planner(context, desk.window, opener);
+    planner.SetCaptions();
+    SelectionDuty duty;
+    duty.refrigerant = "R999";
+    planner.Start(duty);
+    EXPECT_EQ(planner.Message.text, "");
+    EXPECT_EQ(desk.selection.inputs.KaelteMittel, opener.Refrigerants().tables.front().Name());
 }
 
 TEST_F(OpenerTest, PlannerWritesTheListHeSees) {
@@ -206,9 +266,14 @@ TEST_F(OpenerTest, PlannerWritesTheListHeSees) {
     const std::string old = "kept";
     folder.Write("list.csv", old);
     std::string file;
-    planner.ask_file = [&file] { return file; };
+    std::string proposed;
+    planner.ask_file = [&](const std::string& proposal) {
+        proposed = proposal;
+        return file;
+    };
     planner.UserClick("Csv");
     EXPECT_EQ(planner.Message.text, "") << "nobody named a file";
+    EXPECT_EQ(proposed, "600 Air Coolers.csv");
     file = (folder / "nowhere" / "list.csv").string();
     planner.UserClick("Csv");
     EXPECT_NE(planner.Message.text.find(file), std::string::npos);
@@ -231,6 +296,7 @@ TEST_F(OpenerTest, PlannerWritesTheListHeSees) {
     planner.UserClick("Csv");
     const std::string units = folder.Read("list.csv");
     EXPECT_NE(units.find("AW 21 7 mm"), std::string::npos) << "the units of the open series";
+    EXPECT_EQ(proposed, "Ulmrain AW Würfelkühler.csv");
     EXPECT_EQ(units.find("Ulmrain"), std::string::npos);
 }
 

@@ -6,21 +6,10 @@
 namespace zandrell {
 namespace {
 
+using selection_test::Cooler;
 using selection_test::EndMark;
 using selection_test::RecordBytes;
 using enum KatalogFeld;
-
-std::string Cooler(const std::string& name, const std::string& capacity) {
-    return RecordBytes({{KatTyp, name},
-                        {KatTyp2, "4 mm"},
-                        {KatWert2, "DT 8"},
-                        {KatGewicht, "70"},
-                        {KatVolumen, "7090"},
-                        {KatWurf, "19"},
-                        {KatLamelle, "4,5"},
-                        {KatLeistung, capacity},
-                        {KatAntrieb, "0,5"}});
-}
 
 // A duty of 10 kW, and series that fit it in different ways. The last one has 48 units.
 std::string CoolerSession(const TestFolder& folder) {
@@ -183,6 +172,7 @@ TEST(SelectionWindow, ShowsPressureDropsOfLineComponents) {
     EXPECT_EQ(cells[2][5], " 50");
     EXPECT_EQ(backs[2][5], 12) << "above 40 %";
     EXPECT_EQ(backs[3][2], 12) << "27 mbar, 30 are needed";
+    EXPECT_EQ(regulating.at("SerienPN").at("text"), "Zwi MV:") << "there is no range";
     EXPECT_EQ(regulating.at("AuswahlZeile"), 2) << "the unit in front of the first that fails";
     EXPECT_EQ(Cells(regulating, "KatalogSpread")[1], Json({"1", "", "", "Zwi MV", "0#$§  VALVE"}));
     EXPECT_EQ(regulating.at("KatalogSpread").at("widths"), Json({450, 0, 0, 6000, 0}));
@@ -310,18 +300,6 @@ TEST(SelectionWindow, RescalesACompressorToAFrequency) {
         EXPECT_EQ(text(dumps[i], "StatusLab"),
                   "Only frequencies between 0 and 100 Hz can be taken");
     }
-}
-
-TEST(SelectionWindow, SaysWhichCatalogueIsMissing) {
-    SelectionSession session;
-    const auto dumps = session.Run(
-        "share KatalogArt 600\nopen\ndump\nset search ulm\nclick GoButt\ndump StatusLab\n");
-    ASSERT_EQ(dumps.size(), 2U);
-    for (const Json& dump : dumps) {
-        EXPECT_EQ(dump.at("StatusLab").at("text"),
-                  "The file " + (session.folder / "I600.DAT").string() + " cannot be read");
-    }
-    EXPECT_EQ(Cells(dumps[0], "KatalogSpread").size(), 1U);
 }
 
 TEST(SelectionWindow, HandsItsDocumentsToTheViewer) {

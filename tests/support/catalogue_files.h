@@ -24,6 +24,20 @@ inline std::string Unit(const std::string& name, const std::string& KatWert = "1
     return RecordBytes({{KatalogFeld::KatTyp, name}, {KatalogFeld::KatWert, KatWert}});
 }
 
+// An air cooler with a throw, a weight and a class, of a capacity in kW.
+inline std::string Cooler(const std::string& name, const std::string& capacity) {
+    using enum KatalogFeld;
+    return RecordBytes({{KatTyp, name},
+                        {KatTyp2, "4 mm"},
+                        {KatWert2, "DT 8"},
+                        {KatGewicht, "70"},
+                        {KatVolumen, "7090"},
+                        {KatWurf, "19"},
+                        {KatLamelle, "4,5"},
+                        {KatLeistung, capacity},
+                        {KatAntrieb, "0,5"}});
+}
+
 inline std::string EndMark() { return RecordBytes({}); }
 
 }  // namespace zandrell::selection_test

@@ -1,4 +1,4 @@
-#include "selection/grid_order.h"
+#include "forms/grid_order.h"
 
 #include <algorithm>
 #include <numeric>
@@ -54,7 +54,11 @@ void GridOrder::Ask(int asked_column) {
 }
 
 void SortRows(Grid& grid, const GridOrder& order) {
-    if (order.column < 0 || order.column >= grid.ColumnCount() || grid.RowCount() < 2) return;
+    const bool sorts = order.column >= 0 && order.column < grid.ColumnCount();
+    grid.sort_mark.reset();
+    if (!sorts) return;
+    grid.sort_mark = {order.column, order.descending};
+    if (grid.RowCount() < 2) return;
     std::vector<SortKey> keys;
     keys.reserve(static_cast<std::size_t>(grid.RowCount()));
     for (int row = 0; row < grid.RowCount(); ++row) keys.push_back(KeyOf(grid, row, order.column));

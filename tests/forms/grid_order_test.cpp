@@ -1,4 +1,4 @@
-#include "selection/grid_order.h"
+#include "forms/grid_order.h"
 
 #include <gtest/gtest.h>
 

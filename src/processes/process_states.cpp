@@ -1,0 +1,101 @@
+#include "processes/process_states.h"
+
+#include "base/number_text.h"
+#include "base/unit_texts.h"
+#include "processes/plant_panel.h"
+#include "processes/point_panel.h"
+
+namespace zandrell {
+namespace {
+
+std::optional<double> Positive(double figure) {
+    return figure > 0 ? std::optional(figure) : std::nullopt;
+}
+
+}  // namespace
+
+std::string FigureAlone(const std::string& text) {
+    const auto start = text.find_first_not_of(' ');
+    if (start == std::string::npos) return {};
+    const bool number = text.find_first_of("0123456789", start) <= start + 2;
+    return number ? TrimmedNumberText(ParsedNumber(text)) : "";
+}
+
+ProcessStates PointPanel::States() const {
+    const Calculation mode = context_.Rechenmodus;
+    const std::string basis = Basis(mode);
+    if (!IsPointMode(mode) || !states_of_.Hold(basis)) return {};
+    const Inputs inputs = ReadInputs();
+    ProcessStates states = {{"1", inputs.t1, ZustandX1, enthalpy1_, inputs.relF1},
+                            {"2", inputs.t2, ZustandX2, enthalpy2_, inputs.relF2}};
+    // Behind a tool the suite shows another x than it counts with.
+    if (!IsExact()) states[1].x = ParsedNumber(absF2.text);
+    if (mode == Calculation::StateChange || !outcome_of_.Hold(basis)) return states;
+    const double dry_air = inputs.LuftM1 * density1_;
+    states[0].flow = Positive(inputs.LuftM1);
+    states[0].dry_air = states[1].dry_air = Positive(dry_air);
+    if (mode == Calculation::Mixing) {
+        const double second = inputs.LuftM2 * density2_;
+        states[1].flow = Positive(inputs.LuftM2);
+        states[1].dry_air = Positive(second);
+        const ProcessFigures& figures = context_.figures;
+        ProcessState& mixture = states.emplace_back();
+        mixture = {context_.captions[Caption::Mixing], figures.MischTemp, figures.MischX};
+        mixture.dry_air = Positive(dry_air + second);
+    } else {
+        states[1].capacity = FigureAlone(Kleist.text);
+        states[1].water = FigureAlone(KondW.text);
+    }
+    return states;
+}
+
+ProcessStates PlantPanel::States() const {
+    if (context_.Rechenmodus != Calculation::Plant || !figures_of_.Hold(Basis())) return {};
+    const Captions& words = context_.captions;
+    const std::string leaving = words[Caption::Leaving] + " ";
+    const double total = way_.mixing.mL, share = 1 / (1 + ParsedNumber(aussenAnt.text));
+    ProcessStates states;
+    const auto add = [&states](const std::string& name, const AirPoint& air, double dry_air) {
+        ProcessState& state = states.emplace_back();
+        state = {name, air.t, air.x, air.h};
+        state.dry_air = Positive(dry_air);
+        return &state;
+    };
+    const auto fan = [](const TextField& rise) {
+        return std::string(" + ").append(FigureAlone(rise.text)).append(" ").append(UnitK);
+    };
+    ProcessState* extract = add(words[Caption::ExtractAir], way_.mixing.exhaust, total);
+    extract->flow = Positive(ParsedNumber(vhAnlage.text));
+    extract->capacity = FigureAlone(RaumLeist.text);
+    extract->water = FigureAlone(RaumWasserLeist.text);
+    if (way_.mixing.behind_fan.t != way_.mixing.exhaust.t) {
+        add(words[Caption::ExtractAir] + fan(dtVent2), way_.mixing.behind_fan, total);
+    }
+    add(words[Caption::OutdoorAir], way_.mixing.outside, total * share);
+    add(words[Caption::Mixing], way_.mixing.mixed, total);
+    if (way_.coil) {
+        add(leaving + words[Caption::Cooler], *way_.coil, total)->capacity =
+            FigureAlone(Kuehl.text);
+    }
+    ProcessState* heated = add(leaving + words[Caption::Heater], way_.heated, total);
+    heated->capacity = FigureAlone(Heiz2.text);
+    if (!IsExact()) heated->h.reset();  // the suite's way has none there
+    const bool warmed = way_.supply.t != way_.before_fan.t;
+    const bool humidified =
+        way_.before_fan.x != way_.heated.x || way_.before_fan.t != way_.heated.t;
+    if (humidified || !warmed) {
+        ProcessState* humid =
+            add(warmed ? leaving + words[Caption::HumidifierSecond] : words[Caption::SupplyAir],
+                way_.before_fan, total);
+        if (humidified && humidifier_shown_) humid->water = FigureAlone(Bef.text);
+    }
+    if (warmed) add(words[Caption::SupplyAir], way_.supply, total);
+    return states;
+}
+
+void PlantPanel::KeepWay(const PlantRun& run, const AirPoint& heated) {
+    way_ = {run.mixing, run.supply, run.fan_inlet.air, heated, {}};
+    if (!run.OhneKuehler) way_.coil = run.coil.air;
+}
+
+}  // namespace zandrell

@@ -1,0 +1,158 @@
+// The states of the process in force as a table: what stands in it belongs to the panel beside it,
+// and it can be sorted, copied and saved.
+#include "shell/state_table_form.h"
+
+#include <gmock/gmock.h>
+
+#include "base/number_text.h"
+#include "script_session.h"
+
+namespace zandrell {
+namespace {
+
+constexpr const char* kExact = "click optButt\ncheck qvopt.ExactBox on\nclick qvopt.Command3D1\n";
+constexpr const char* kSummer =
+    "set vhAnlage 10000\nset aussenAnt 3\nset tabLuft 26\nset PHIAbluft 50\nset Taus 32\n"
+    "set PhiAussen 40\nset TZuluft 18\nset PHIZuluft 80\nset tKA 12\nset phiKanal 95\n"
+    "set dtVent1 1\nset dtVent2 .5\nclick AnlageButt\n";
+constexpr const char* kTable = "click StateList\ndump StateTable.States\n";
+
+using Cells = std::vector<std::vector<std::string>>;
+
+Cells CellsOf(const Json& dump) { return dump.at("StateTable.States").at("cells").get<Cells>(); }
+
+std::size_t ColumnOf(const Cells& cells, std::string_view head) {
+    for (std::size_t i = 0; i < cells[0].size(); ++i) {
+        if (cells[0][i].starts_with(head)) return i;
+    }
+    ADD_FAILURE() << head;
+    return 0;
+}
+
+double NumberIn(const Cells& cells, std::size_t row, std::string_view head) {
+    return ParsedNumber(cells.at(row).at(ColumnOf(cells, head)));
+}
+
+// Row by row from the table's own figures: dry air times the change of enthalpy is the capacity
+// that the panel shows, dry air times the change of x the water.
+TEST(StateTable, ThePlantClosesFromRowToRow) {
+    ScriptSession session;
+    const Cells cells =
+        CellsOf(session.RunOnce(std::string(kExact) + kSummer + "return Taus\n" + kTable));
+    ASSERT_EQ(cells.size(), 9U);
+    ASSERT_EQ(cells[0].size(), 13U);
+    const auto figure = [&cells](std::size_t row, std::string_view head) {
+        return NumberIn(cells, row, head);
+    };
+    const double dry_air = figure(1, "Mass Flow");
+    // Air of 26 degC, 50 %: dew point 14.8, wet bulb 18.7 degC, 0.862 m3/kg (ASHRAE Handbook).
+    EXPECT_NEAR(figure(1, "Dew Point"), 14.8, 0.11);
+    EXPECT_NEAR(figure(1, "Wet Bulb"), 18.7, 0.11);
+    EXPECT_NEAR(dry_air, 10000 / 0.862, 20);
+    EXPECT_NEAR(figure(3, "Mass Flow"), dry_air / 4, 1);  // three parts are recirculated
+    const auto heat = [&](std::size_t from, std::size_t to) {
+        return dry_air * std::abs(figure(to, "Enthalpy") - figure(from, "Enthalpy")) / 3600;
+    };
+    const double tenth = dry_air * 0.1 / 3600;  // of a kJ/kg
+    EXPECT_NEAR(figure(5, "Capacity"), heat(4, 5), tenth);
+    EXPECT_NEAR(figure(6, "Capacity"), heat(5, 6), tenth);
+    EXPECT_NEAR(figure(1, "Capacity"), heat(8, 1), tenth);
+    EXPECT_NEAR(figure(7, "Water"),
+                dry_air * (figure(7, "Humidity") - figure(6, "Humidity")) / 1000, dry_air * 2e-5);
+}
+
+TEST(StateTable, TellsWhatThePanelTells) {
+    const std::string states =
+        "set Temp1 20\nset relF1 50\nset Temp2 30\nset relF2 40\n"
+        "set LuftM1 1000\nset LuftM2 500\n";
+    const struct {
+        const char* start;
+        std::size_t rows;
+        const char* capacity;
+    } cases[] = {{"click ZAButt\n", 2, ""},
+                 {"click BearButt\n", 2, "Kleist"},
+                 {"click MischButt\n", 3, ""},
+                 {"click Heiz_start\n", 2, "Kleist"}};
+    for (const char* convention : {"", kExact}) {
+        for (const auto& c : cases) {
+            ScriptSession session;
+            const auto dumps =
+                session.Run(convention + states + c.start + "return Temp1\ndump\n" + kTable);
+            const Cells cells = CellsOf(dumps.at(1));
+            ASSERT_EQ(cells.size(), c.rows + 1) << c.start;
+            EXPECT_EQ(cells[0].size(), *convention ? 13U : 9U);
+            const Json& panel = dumps[0];
+            for (const auto& [row, t, rel, x, h] :
+                 {std::tuple{1, "Temp1", "relF1", "absF1", "enth1"},
+                  {2, "Temp2", "relF2", "absF2", "enth2"}}) {
+                const auto r = static_cast<std::size_t>(row);
+                EXPECT_EQ(NumberIn(cells, r, "Temp"), ParsedNumber(TextOf(panel, t))) << c.start;
+                EXPECT_EQ(NumberIn(cells, r, "Rel"), ParsedNumber(TextOf(panel, rel)));
+                EXPECT_EQ(NumberIn(cells, r, "Humidity"), ParsedNumber(TextOf(panel, x)));
+                EXPECT_EQ(NumberIn(cells, r, "Enthalpy"), ParsedNumber(TextOf(panel, h)));
+            }
+            const double capacity = *c.capacity ? ParsedNumber(TextOf(panel, c.capacity)) : 0;
+            EXPECT_EQ(NumberIn(cells, 2, "Capacity"), capacity) << c.start;
+            if (c.rows == 3) {
+                EXPECT_NEAR(NumberIn(cells, 3, "Temp"), ParsedNumber(TextOf(panel, "TempM")), 0.1);
+            }
+        }
+    }
+}
+
+TEST(StateTable, HasNoRowsForInputsThatWereNotComputed) {
+    for (const char* script : {"",
+                               "set Temp1 20\nset relF1 50\nset Temp2 30\nset relF2 40\n"
+                               "click ZAButt\nset Temp1 21\n"}) {
+        ScriptSession session;
+        const auto dump = session.RunOnce(std::string(script) + "click StateList\ndump\n");
+        EXPECT_EQ(dump.at("StateTable.States").at("rows"), 1) << script;
+        EXPECT_EQ(TextOf(dump, "StateTable.StatesMessage"), "no process is calculated");
+        EXPECT_FALSE(dump.at("StateTable.SaveStates").at("enabled").get<bool>());
+    }
+}
+
+struct Visitor : ScriptedUser {
+    using ScriptedUser::ScriptedUser;
+    std::function<void(StateTableForm&)> visit;
+    void ShowModal(ModalForm& window) override {
+        if (auto* table = dynamic_cast<StateTableForm*>(&window)) visit(*table);
+        window.UserClick(window.cancel_control);
+    }
+};
+
+TEST(StateTable, IsSortedCopiedAndSaved) {
+    TestFolder folder;
+    folder.CopyWholeSet();
+    std::istringstream script(
+        "set Temp1 30\nset relF1 40\nset Temp2 5\nset relF2 90\n"
+        "click ZAButt\nreturn Temp1\nclick StateList\n");
+    std::ostringstream output;
+    Visitor user(script, output);
+    DataFiles files(folder.Path());
+    MainForm form(user, files, NamedFolder(folder.Path()));
+    const std::string file = (folder / "states.csv").string();
+    std::string copied, refused;
+    user.visit = [&](StateTableForm& table) {
+        table.copy_text = [&copied](const std::string& text) { copied = text; };
+        EXPECT_TRUE(table.UserSort("States", 1));  // by temperature
+        EXPECT_TRUE(table.UserClick("CopyStates"));
+        table.ask_file = [&] { return file; };
+        EXPECT_TRUE(table.UserClick("SaveStates"));
+        EXPECT_EQ(table.Message.text, "Saved " + file);
+        table.ask_file = [&] { return (folder / "none" / "states.csv").string(); };
+        EXPECT_TRUE(table.UserClick("SaveStates"));
+        refused = table.Message.text;
+    };
+    std::string error;
+    EXPECT_TRUE(user.Run(form, error)) << error;
+    EXPECT_THAT(copied, ::testing::HasSubstr("\n2\t5\t"));
+    EXPECT_LT(copied.find("\n2\t5\t"), copied.find("\n1\t30\t"));
+    const std::string saved = folder.Read("states.csv");
+    EXPECT_THAT(saved, ::testing::StartsWith("State,Temperature /[°C],"));
+    EXPECT_LT(saved.find("\r\n2,5,"), saved.find("\r\n1,30,"));
+    EXPECT_THAT(refused, ::testing::HasSubstr("none"));
+}
+
+}  // namespace
+}  // namespace zandrell
