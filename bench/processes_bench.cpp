@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/data_files.h"
+#include "kernel/state_solver.h"
 #include "processes/process_panels.h"
 
 namespace zandrell {

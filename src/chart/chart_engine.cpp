@@ -8,6 +8,7 @@
 #include "canvas/palette.h"
 #include "chart/chart_painting.h"
 #include "chart/exact_painting.h"
+#include "kernel/state_solver.h"
 
 namespace zandrell {
 namespace {

@@ -12,9 +12,10 @@
 #include "chart/read_out.h"
 #include "forms/control.h"
 #include "forms/form.h"
-#include "kernel/state_solver.h"
 
 namespace zandrell {
+
+class StateSolver;
 
 // What DiagrammZeichnen is asked to do (`modus`).
 enum class ChartTask {

@@ -7,6 +7,7 @@
 #include "canvas/palette.h"
 #include "chart/chart_painting.h"
 #include "chart/saturation.h"
+#include "kernel/state_solver.h"
 
 namespace zandrell {
 namespace {

@@ -8,9 +8,10 @@
 #include "chart/chart_settings.h"
 #include "chart/curve_cache.h"
 #include "forms/control.h"
-#include "kernel/state_solver.h"
 
 namespace zandrell {
+
+class StateSolver;
 
 // One painting of the chart: what every part of it needs.
 struct ChartPainting {

@@ -4,6 +4,7 @@
 #include "base/number_text.h"
 #include "canvas/palette.h"
 #include "chart/exact_painting.h"
+#include "kernel/air_state.h"
 #include "kernel/real_air.h"
 
 namespace zandrell {

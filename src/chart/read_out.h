@@ -9,9 +9,10 @@
 #include "chart/chart_scale.h"
 #include "forms/control.h"
 #include "forms/form.h"
-#include "kernel/state_solver.h"
 
 namespace zandrell {
+
+class StateSolver;
 
 // The panel that shows the state under the pointer.
 struct ReadOutPanel {

@@ -3,9 +3,10 @@
 #include <optional>
 
 #include "chart/chart_settings.h"
-#include "kernel/state_solver.h"
 
 namespace zandrell {
+
+class StateSolver;
 
 // Humidity ratio in g/kg of saturated air at t (degC) and the solver's ChartDruckBar, as the
 // convention counts it: the line at which its air ends on the chart. Empty outside the limits, and

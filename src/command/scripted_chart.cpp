@@ -1,6 +1,7 @@
 #include "command/scripted_chart.h"
 
 #include "base/file_names.h"
+#include "kernel/state_solver.h"
 
 namespace zandrell {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/unit_factors.h"
+#include "kernel/exact_air.h"
 
 namespace zandrell {
 namespace {

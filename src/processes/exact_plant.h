@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "kernel/exact_air.h"
 #include "processes/plant.h"
 
 // The plant of plant.h in exact balances, all per kg of dry air: fans and heater keep x, a water
@@ -10,6 +9,8 @@
 // enthalpy, and a volume flow holds the dry air that its partial pressure tells. Which way the air
 // goes and what is raised for what follows the rules of the suite.
 namespace zandrell {
+
+class ExactAir;
 
 // The humidity ratios that a run counts with, in g/kg. What the program raises becomes the other
 // figure to the last digit.

@@ -1,5 +1,6 @@
 #include "processes/exact_tools.h"
 
+#include "kernel/exact_air.h"
 #include "processes/tools.h"
 
 namespace zandrell {

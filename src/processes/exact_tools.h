@@ -2,13 +2,14 @@
 
 #include <optional>
 
-#include "kernel/exact_air.h"
 #include "processes/air_point.h"
 
 // The apparatuses of tools.h in exact balances: what leaves is a state of its own, not one read
 // back from a humidity that was cut for its field. All answer empty when a state that they need is
 // outside the limits.
 namespace zandrell {
+
+class ExactAir;
 
 struct ToolOutlet {
     AirPoint air;

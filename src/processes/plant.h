@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "kernel/state_solver.h"
 #include "processes/air_point.h"
 
 // The air-handling plant with a room, in value functions: exhaust air, return fan, mixing with
@@ -15,6 +14,8 @@
 // relative humidity; what is computed from it comes out a little too dry. Plants that were planned
 // with the suite were planned with these figures.
 namespace zandrell {
+
+class StateSolver;
 
 // What one run holds of the panel's fields.
 struct PlantInputs {

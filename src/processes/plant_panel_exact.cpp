@@ -1,5 +1,6 @@
 #include "base/number_text.h"
 #include "base/unit_texts.h"
+#include "kernel/exact_air.h"
 #include "processes/exact_plant.h"
 #include "processes/figure_text.h"
 #include "processes/plant_panel.h"

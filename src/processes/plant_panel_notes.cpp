@@ -3,6 +3,7 @@
 
 #include "base/number_text.h"
 #include "base/unit_texts.h"
+#include "kernel/state_solver.h"
 #include "processes/plant_panel.h"
 
 namespace zandrell {

@@ -5,6 +5,7 @@
 #include "base/number_text.h"
 #include "base/unit_factors.h"
 #include "canvas/palette.h"
+#include "kernel/exact_air.h"
 #include "processes/figure_text.h"
 #include "processes/state_change.h"
 #include "processes/tools.h"

@@ -1,5 +1,6 @@
 #include "base/number_text.h"
 #include "canvas/palette.h"
+#include "kernel/exact_air.h"
 #include "processes/figure_text.h"
 #include "processes/point_panel.h"
 

@@ -1,5 +1,6 @@
 #include "base/number_text.h"
 #include "kernel/humid_air_state.h"
+#include "kernel/state_solver.h"
 #include "processes/point_panel.h"
 
 namespace zandrell {

@@ -8,10 +8,11 @@
 #include "chart/chart_settings.h"
 #include "chart/overlay.h"
 #include "chart/read_out.h"
-#include "kernel/state_solver.h"
 #include "processes/calculation.h"
 
 namespace zandrell {
+
+class StateSolver;
 
 // Figures that a calculation leaves for the print-out. They outlive a change of mode.
 struct ProcessFigures {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kernel/exact_air.h"
 #include "kernel/inverse_state.h"
 #include "processes/process_context.h"
 

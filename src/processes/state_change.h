@@ -2,12 +2,14 @@
 
 #include <optional>
 
-#include "kernel/exact_air.h"
 #include "processes/air_point.h"
 #include "processes/calculation.h"
 
 // Capacity of a change between two states, and the mixture of two flows.
 namespace zandrell {
+
+class ExactAir;
+class StateSolver;
 
 // What it takes to bring air from one state to another. Positive where the air gives off.
 struct Loads {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kernel/state_solver.h"
+
 namespace zandrell {
 namespace {
 

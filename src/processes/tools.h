@@ -2,12 +2,13 @@
 
 #include <optional>
 
-#include "kernel/state_solver.h"
 #include "processes/air_point.h"
 
 // The four apparatuses that work out the second of two states from the first and one figure of the
 // second. All answer empty when a state that they need is outside the limits.
 namespace zandrell {
+
+class StateSolver;
 
 inline constexpr double kWettestBehindCooler = 0.9;
 inline constexpr double kShownForImpossible = 99;  // per cent, for a state that does not exist

@@ -4,6 +4,7 @@
 #include <functional>
 #include <utility>
 
+#include "kernel/state_solver.h"
 #include "shell/control_dump.h"
 
 namespace zandrell {

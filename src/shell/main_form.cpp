@@ -2,6 +2,7 @@
 
 #include "base/number_text.h"
 #include "base/text_encoding.h"
+#include "kernel/state_solver.h"
 #include "projects/project_kind.h"
 #include "projects/temperature_lines.h"
 #include "shell/form_dump.h"
@@ -38,7 +39,8 @@ void ShowRecentProjects(MainControls& controls, const std::vector<std::filesyste
 
 MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
     : WindowForm("start"),
-      solver(files),
+      own_solver_(std::make_unique<StateSolver>(files)),
+      solver(*own_solver_),
       chart(files, shared, captions, solver, overlay, read_out),
       processes({shared, captions, solver, chart.settings, chart.scale, overlay, read_out}),
       options(files, shared, captions, solver, user),
@@ -78,6 +80,8 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
     pointer_.frame_refused = [this] { status.Say(captions[Caption::ClosePanelToDrawFrame]); };
     after_act = [this](std::string_view control, ActKind kind) { FollowAct(control, kind); };
 }
+
+MainForm::~MainForm() = default;
 
 void MainForm::Load() {
     const auto missing_folder = ReadSuiteParameters(named_folder_, files_, shared);

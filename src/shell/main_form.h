@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,6 @@
 #include "forms/user_interface.h"
 #include "forms/window_form.h"
 #include "help/help_form.h"
-#include "kernel/state_solver.h"
 #include "printing/chart_printing.h"
 #include "processes/process_panels.h"
 #include "projects/project_desk.h"
@@ -27,6 +27,8 @@
 
 namespace zandrell {
 
+class StateSolver;
+
 enum class PointerButton { Left, Right };
 
 // The window `start`: the program without a toolkit. It says who is there and what starts what; the
@@ -36,10 +38,15 @@ class MainForm : public WindowForm {
     // `user` and `files` outlive the form. The data folder of `files` is where kparam.dat is looked
     // for, `named` the folder that the user named for it, if any.
     MainForm(UserInterface& user, DataFiles& files, NamedFolder named);
+    ~MainForm() override;
 
+  private:
+    std::unique_ptr<StateSolver> own_solver_;
+
+  public:
     SharedValues shared;
     Captions captions;
-    StateSolver solver;
+    StateSolver& solver;
     Overlay overlay;
     ReadOutPanel read_out;
     MainControls controls;

@@ -5,6 +5,7 @@
 #include "base/file_names.h"
 #include "base/number_text.h"
 #include "base/unit_texts.h"
+#include "kernel/state_solver.h"
 
 namespace zandrell {
 namespace {

@@ -6,9 +6,10 @@
 #include "chart/chart_settings.h"
 #include "forms/user_interface.h"
 #include "forms/window_form.h"
-#include "kernel/state_solver.h"
 
 namespace zandrell {
+
+class StateSolver;
 
 // The window `qvopt` with the settings of the chart.
 class OptionsForm : public ModalForm {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "chart/scale_moves.h"
+#include "kernel/state_solver.h"
 
 namespace zandrell {
 namespace {

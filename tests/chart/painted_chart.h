@@ -5,6 +5,7 @@
 #include <string>
 
 #include "chart/chart_engine.h"
+#include "kernel/state_solver.h"
 #include "support/test_folder.h"
 
 namespace zandrell {

@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FormScript script(stage, dumps);
     std::istringstream lines(DecodeText(fuzz::Bytes(data, size)));
     int count = 0;
-    for (std::string line; std::getline(lines, line) && ++count <= 20;) {
+    for (std::string line; std::getline(lines, line) && ++count <= 8;) {
         if (line.find("fill") != std::string::npos) continue;
         std::string error;
         const bool done = script.RunLine(line, error);

@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "kernel/continued_air.h"
+#include "kernel/state_solver.h"
 #include "tests/processes/independent_air.h"
 
 namespace zandrell {

@@ -8,6 +8,7 @@
 
 #include "kernel/humid_air_state.h"
 #include "kernel/inverse_state.h"
+#include "kernel/state_solver.h"
 #include "kernel/steam.h"
 #include "kernel_support.h"
 

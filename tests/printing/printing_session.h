@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "kernel/state_solver.h"
 #include "printing/chart_printing.h"
 #include "support/test_folder.h"
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/data_files.h"
+#include "kernel/state_solver.h"
 #include "processes/process_panels.h"
 
 namespace zandrell {
