@@ -1,6 +1,7 @@
 #include "desktop/kept_picture.h"
 
 #include <QFontMetricsF>
+#include <QRegion>
 #include <algorithm>
 
 #include "desktop/form_mirror.h"
@@ -96,9 +97,15 @@ void KeptPicture::PaintVersion(QPainter& painter, const ChartView& view, const Q
 
 void KeptPicture::DrawMoved(QPainter& painter, const ChartView& view) const {
     const int ground = form_.chart.picture.Background();
-    painter.fillRect(view.Target(), ShadeFor(ground, StrokeRole::Ground, ground).colour);
+    const QColor colour = ShadeFor(ground, StrokeRole::Ground, ground).colour;
+    const QTransform to_now = ToNow(view);
+    // Only around the picture: to paint a large screen twice takes as long as the picture itself.
+    const QRect covered = to_now.mapRect(view_->Target()).toAlignedRect().adjusted(1, 1, -1, -1);
+    for (const QRect& rest : QRegion(view.Target().toAlignedRect()) - covered) {
+        painter.fillRect(rest, colour);
+    }
     const QTransform before = painter.transform();
-    painter.setTransform(ToNow(view), true);
+    painter.setTransform(to_now, true);
     painter.drawImage(view_->Target(), image_);
     painter.setTransform(before);
 }
