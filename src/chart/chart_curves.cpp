@@ -118,7 +118,8 @@ void PaintEnthalpyLine(const ChartPainting& painting, int h, const EnthalpyLine&
     const CanvasPoint stub = EnthalpyStubEnd(painting, line.saturated);
     if (line.saturated.x < painting.left_edge || !EnthalpyLineFits(painting, line, stub)) return;
     painting.Line(line.dry, line.saturated, kGrey);
-    PaintEnthalpyStub(painting, h, line.saturated);
+    painting.Line(line.saturated, stub, kGrey);
+    PaintEnthalpyNumber(painting, h, stub);
 }
 
 void PaintDensityLine(const ChartPainting& painting, int i) {
@@ -175,10 +176,8 @@ CanvasPoint EnthalpyStubEnd(const ChartPainting& painting, CanvasPoint saturated
     return {saturated.x + 0.1 * painting.width, saturated.y};
 }
 
-void PaintEnthalpyStub(const ChartPainting& painting, int h, CanvasPoint saturated) {
-    const CanvasPoint stub = EnthalpyStubEnd(painting, saturated);
-    painting.Line(saturated, stub, kGrey);
-    const CanvasPoint end = painting.scale.Turned(stub);
+void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint stub_end) {
+    const CanvasPoint end = painting.scale.Turned(stub_end);
     const std::string unit(UnitKJkg);
     if (painting.Mollier()) {
         painting.canvas.Text(end.x, end.y - 5, NumberText(h) + " " + unit);

@@ -90,6 +90,7 @@ void ChartEngine::DiagrammZeichnen(ChartTask modus, double a, double b, double& 
     if (const std::string pressure = NumberText(druck); !pressure.empty()) {
         read_out_.AbsDruck.text = pressure;
     }
+    read_out_.ShowRowsOf(settings.convention);
     if (reading) {
         const bool exact = settings.convention == Convention::Exact;
         (exact ? ShowExactStateAt : ShowStateAt)(scale.StateAt({a, b}), solver_, read_out_);

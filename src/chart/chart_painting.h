@@ -66,7 +66,7 @@ std::vector<int> EnthalpiesWithLine(const ChartSettings& settings);
 // The piece from saturation into the fog, where its number has room; canvas units of the Mollier
 // chart.
 CanvasPoint EnthalpyStubEnd(const ChartPainting& painting, CanvasPoint saturated);
-void PaintEnthalpyStub(const ChartPainting& painting, int h, CanvasPoint saturated);
+void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint stub_end);
 
 // The curves (chart_curves.cpp).
 void PaintHumidityCurves(const ChartPainting& painting);

@@ -6,7 +6,7 @@
 namespace zandrell {
 namespace {
 
-constexpr int kExactItem = 1;
+constexpr int kExactItem = 1, kFogLinesItem = 1;
 
 }  // namespace
 
@@ -15,6 +15,7 @@ FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings) {
     if (file.status != FileStatus::Ok) return file.status;
     DelimitedReader reader(file.text);
     settings.convention = Convention::Suite;
+    settings.fog_lines = false;
     const bool whole =
         reader.ReadNumber(settings.pressure_bar) && reader.ReadNumber(settings.ChartTMin) &&
         reader.ReadNumber(settings.ChartTMax) && reader.ReadNumber(settings.ChartXMin) &&
@@ -23,6 +24,8 @@ FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings) {
     int convention = 0;
     if (whole && reader.ReadInteger(convention) && convention == kExactItem) {
         settings.convention = Convention::Exact;
+        int fog_lines = 0;
+        settings.fog_lines = reader.ReadInteger(fog_lines) && fog_lines == kFogLinesItem;
     }
     return whole ? FileStatus::Ok : FileStatus::Malformed;
 }
@@ -38,7 +41,10 @@ FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& setti
     writer.Number(settings.site_height_m).EndLine();
     writer.Number(settings.DiagrammArt).EndLine();
     writer.Number(settings.Helligkeit).EndLine();
-    if (settings.convention == Convention::Exact) writer.Number(kExactItem).EndLine();
+    if (settings.convention == Convention::Exact) {
+        writer.Number(kExactItem).EndLine();
+        if (settings.fog_lines) writer.Number(kFogLinesItem).EndLine();
+    }
     return files.OpenForOutput(kChartSettingsFile, writer.Result(), Durability::Flushed, reason);
 }
 

@@ -20,10 +20,11 @@ struct ChartSettings {
     int DiagrammArt = kMollier;  // any other value than 0 is the Carrier chart
     int Helligkeit = kWhiteGround;
     Convention convention = Convention::Suite;
+    bool fog_lines = false;  // of Exact: the enthalpy lines go on behind saturation
 };
 
 // Items that the file lacks keep their value in `settings`; a file without the item of the
-// convention keeps to that of the suite, which writes no such item.
+// convention keeps to that of the suite, which writes no such item, nor one of the fog lines.
 FileStatus ReadChartSettings(const DataFiles& files, ChartSettings& settings);
 // With NotWritten `reason` has the words of the system.
 FileStatus WriteChartSettings(const DataFiles& files, const ChartSettings& settings,

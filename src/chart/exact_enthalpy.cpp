@@ -59,37 +59,117 @@ std::vector<CanvasPoint> EnthalpyLine(const ChartPainting& painting, const Exact
     return points;
 }
 
+constexpr double kPaperEnd = 0.93;  // of the width, where the numbers of an axis begin
+
 // On paper the numbers stay off the margin.
-bool LineFits(const ChartPainting& painting, CanvasPoint saturated) {
+bool NumberFits(const ChartPainting& painting, CanvasPoint saturated) {
     if (saturated.x < painting.left_edge) return false;
-    if (!painting.on_printer) return true;
-    if (!painting.Mollier()) return true;
+    if (!painting.on_printer || !painting.Mollier()) return true;
     return saturated.x <= painting.width &&
-           EnthalpyStubEnd(painting, saturated).x < 0.93 * painting.width;
+           EnthalpyStubEnd(painting, saturated).x < kPaperEnd * painting.width;
 }
+
+// The line behind saturation: of liquid water it hardly falls, of ice it rises, and where ice melts
+// it is level. From `from` to the right end of the canvas, in the Mollier chart's units.
+std::vector<CanvasPoint> FogLine(const ChartPainting& painting, const ExactAir& air, double h,
+                                 double x_from, double x_to) {
+    constexpr int kParts = 24;
+    std::vector<CanvasPoint> points;
+    if (!(x_to > x_from)) return points;
+    points.reserve(kParts + 1);
+    for (int i = 0; i <= kParts; ++i) {
+        const double x = x_from + (x_to - x_from) * i / kParts;
+        const auto t = air.Temperature(h, x);
+        if (t) points.push_back({painting.scale.Xm(x), painting.scale.Ym(*t)});
+    }
+    return points;
+}
+
+struct Gap {
+    double from = 0, to = 0;  // in the Mollier chart's x
+    bool Touches(double one, double other) const { return other > from && one < to; }
+};
+
+// Dashes are faint on every ground and on paper. None where the number stands.
+void PaintDashes(const ChartPainting& painting, const std::vector<CanvasPoint>& points,
+                 const Gap& number) {
+    constexpr double kDash = 12;  // canvas units, and as much between two
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const CanvasPoint &from = points[i - 1], &to = points[i];
+        const double length = to.x - from.x;
+        const int dashes = std::max(1, static_cast<int>(length / (2 * kDash)));
+        for (int k = 0; k < dashes; ++k) {
+            const double start = static_cast<double>(k) / dashes, end = start + 0.5 / dashes;
+            const CanvasPoint one{from.x + start * length, from.y + start * (to.y - from.y)};
+            const CanvasPoint other{from.x + end * length, from.y + end * (to.y - from.y)};
+            if (!number.Touches(one.x, other.x)) painting.Line(one, other, kGrey);
+        }
+    }
+}
+
+class EnthalpyPainter {
+  public:
+    explicit EnthalpyPainter(const ChartPainting& painting)
+        : painting_(painting), air_(painting.solver), window_(WindowOf(painting)) {}
+
+    void Paint(int h) const {
+        const auto& settings = painting_.settings;
+        const double highest = settings.ChartTMax + painting_.steps.temperature_step;
+        const auto t =
+            SaturatedTemperature(air_, h, std::max(settings.ChartTMin, kLowestTemperature),
+                                 std::min(highest, kHighestTemperature));
+        if (!t) return;
+        const double x = air_.SaturatedX(*t).value_or(0);
+        const CanvasPoint saturated{painting_.scale.Xm(x), painting_.scale.Ym(*t)};
+        const bool fits = NumberFits(painting_, saturated);
+        if (fits) PaintInAir(h, *t);
+        if (settings.fog_lines) {
+            PaintInFog(h, x, saturated, fits);
+        } else if (fits) {
+            const CanvasPoint stub = EnthalpyStubEnd(painting_, saturated);
+            painting_.Line(saturated, stub, kGrey);
+            PaintEnthalpyNumber(painting_, h, stub);
+        }
+    }
+
+  private:
+    void PaintInAir(int h, double saturated_t) const {
+        const auto points = EnthalpyLine(painting_, air_, window_, h, saturated_t);
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            painting_.Line(points[i - 1], points[i], kGrey);
+        }
+    }
+
+    // The number stands where it does without the line, at the height of the line.
+    void PaintInFog(int h, double saturated_x, CanvasPoint saturated, bool with_number) const {
+        constexpr double kBefore = 6, kNumberWidth = 120;  // canvas units
+        const double edge = painting_.on_printer && painting_.Mollier()
+                                ? painting_.scale.StateAt({kPaperEnd * painting_.width, 0}).x
+                                : window_.x_to;
+        Gap number;
+        if (with_number) {
+            const double place = EnthalpyStubEnd(painting_, saturated).x;
+            const double x = saturated_x + (place - saturated.x) / painting_.scale.MassstabX;
+            const auto t = air_.Temperature(h, x);
+            if (t) PaintEnthalpyNumber(painting_, h, {place, painting_.scale.Ym(*t)});
+            number = {place - kBefore, place + kNumberWidth};
+        }
+        PaintDashes(painting_,
+                    FogLine(painting_, air_, h, std::max(saturated_x, window_.x_from), edge),
+                    number);
+    }
+
+    const ChartPainting& painting_;
+    ExactAir air_;
+    Window window_;
+};
 
 }  // namespace
 
 void PaintExactEnthalpyLines(const ChartPainting& painting) {
     painting.canvas.SetTextRole(TextRole::StubLabel);
-    const auto& settings = painting.settings;
-    const ExactAir air(painting.solver);
-    const Window window = WindowOf(painting);
-    const double highest = settings.ChartTMax + painting.steps.temperature_step;
-    for (const int h : EnthalpiesWithLine(settings)) {
-        const auto t =
-            SaturatedTemperature(air, h, std::max(settings.ChartTMin, kLowestTemperature),
-                                 std::min(highest, kHighestTemperature));
-        if (!t) continue;
-        const CanvasPoint saturated{painting.scale.Xm(air.SaturatedX(*t).value_or(0)),
-                                    painting.scale.Ym(*t)};
-        if (!LineFits(painting, saturated)) continue;
-        const auto points = EnthalpyLine(painting, air, window, h, *t);
-        for (std::size_t i = 1; i < points.size(); ++i) {
-            painting.Line(points[i - 1], points[i], kGrey);
-        }
-        PaintEnthalpyStub(painting, h, saturated);
-    }
+    const EnthalpyPainter painter(painting);
+    for (const int h : EnthalpiesWithLine(painting.settings)) painter.Paint(h);
 }
 
 }  // namespace zandrell

@@ -35,16 +35,27 @@ void ShowPoint(const ChartState& point, std::optional<double> fraction, ReadOutP
     if (fraction) panel.relF.text = *fraction < 0 ? "< 0" : "> 100";
 }
 
-struct ShownAir {
-    double fraction = 0, enthalpy = 0;        // kJ/kg
-    double density = 0, vapour_pressure = 0;  // kg/m3, Pa
-};
+void ShowFraction(double fraction, ReadOutPanel& panel) {
+    panel.relF.text = NumberText(std::floor(fraction * 1000) / 10);
+}
 
-void ShowAir(const ShownAir& air, ReadOutPanel& panel) {
-    ShowCut(panel.DampfDS, air.vapour_pressure / kPascalPerHectopascal, 10);
-    ShowCut(panel.EnthL, air.enthalpy, 10);
-    panel.relF.text = NumberText(std::floor(air.fraction * 1000) / 10);
-    ShowCut(panel.DichtL, air.density, 1000);
+void ShowAir(double fraction, const AirState& air, ReadOutPanel& panel) {
+    ShowFraction(fraction, panel);
+    ShowCut(panel.DampfDS, air.ZustandPDampf / kPascalPerHectopascal, 10);
+    ShowCut(panel.EnthL, air.ZustandH, 10);
+    ShowCut(panel.DichtL, air.ZustandDichte, 1000);
+}
+
+// The rows that the suite does not have.
+void ShowMoreOf(const ExactAirState& state, const ExactAir& air, ReadOutPanel& panel) {
+    constexpr double kIceUpTo = 0.01;  // degC
+    const auto dew_point = air.DewPoint(state), wet_bulb = air.WetBulb(state);
+    panel.CallIce(panel.DewPoint, dew_point.value_or(state.t) <= kIceUpTo);
+    panel.CallIce(panel.CondensedWater, state.t <= kIceUpTo);
+    if (dew_point) ShowCut(panel.DewPoint, *dew_point, 10);
+    if (wet_bulb) ShowCut(panel.WetBulb, *wet_bulb, 10);
+    ShowCut(panel.SpecificVolume, state.volume, 1000);
+    if (state.IsFog()) ShowCut(panel.CondensedWater, state.liquid + state.ice, 100);
 }
 
 }  // namespace
@@ -67,20 +78,55 @@ std::optional<double> HumidityAt(const ChartState& point, StateSolver& solver) {
     return fraction;
 }
 
+void ReadOutPanel::TakeWords(const Captions& captions) {
+    const auto words_of = [&](std::string_view sign, const Row& row, Caption caption) {
+        std::string text(sign);
+        text.append(" /[").append(row.unit).append("]:");
+        return Row::Words{std::move(text), captions[caption]};
+    };
+    for (Row& row : rows) {
+        row.words = words_of(row.sign, row, row.caption);
+        row.ice_words = words_of(row.ice_sign, row, row.ice_caption);
+        CallIce(*row.figure, false);
+    }
+}
+
+void ReadOutPanel::ShowRowsOf(Convention convention) {
+    for (Row& row : rows) {
+        if (!row.exact_alone) continue;
+        row.figure->visible = row.word.visible = convention == Convention::Exact;
+    }
+}
+
+void ReadOutPanel::CallIce(const Label& figure, bool ice) {
+    for (Row& row : rows) {
+        if (row.figure != &figure) continue;
+        const Row::Words& words = ice ? row.ice_words : row.words;
+        row.word.text = words.text;
+        row.word.tool_tip = words.tool_tip;
+    }
+}
+
 void ShowStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel) {
     const auto fraction = HumidityAt(point, solver);
     ShowPoint(point, fraction, panel);
     if (!IsAir(fraction)) return;
-    ShowAir({*fraction, solver.ZustandH, solver.ZustandDichte, solver.ZustandPDampf}, panel);
+    ShowAir(*fraction, solver, panel);
 }
 
 void ShowExactStateAt(const ChartState& point, StateSolver& solver, ReadOutPanel& panel) {
-    const auto state = ExactAir(solver).FromX(point.t, std::abs(point.x));
+    const ExactAir air(solver);
+    const auto state = air.FromX(point.t, std::abs(point.x));
     std::optional<double> fraction;
     if (state) fraction = point.x < 0 ? -state->fraction : state->fraction;
     ShowPoint(point, fraction, panel);
-    if (!IsAir(fraction)) return;
-    ShowAir({*fraction, state->enthalpy, state->density, state->vapour_pressure}, panel);
+    ShowNoState({&panel.DewPoint, &panel.WetBulb, &panel.SpecificVolume, &panel.CondensedWater});
+    if (!fraction || *fraction < 0) return;
+    if (IsAir(fraction)) ShowFraction(*fraction, panel);
+    ShowCut(panel.EnthL, state->enthalpy, 10);
+    ShowCut(panel.DichtL, state->density, 1000);
+    ShowCut(panel.DampfDS, state->vapour_pressure / kPascalPerHectopascal, 10);
+    ShowMoreOf(*state, air, panel);
 }
 
 }  // namespace zandrell

@@ -34,7 +34,8 @@ constexpr const char* kStateHelp =
     "(Pa) and density (kg/m3) hold a number in each row, and all the others are worked out, over\n"
     "ice up to 0.01 degC, from -60 to 100 degC and 0.5 to 2 bar. One state takes two of the "
     "options\n"
-    "of the same names.\n";
+    "of the same names. Without --air air is real where two of these columns or options are given\n"
+    "that are not t and rh, which have the columns of the suite.\n";
 
 constexpr const char* kInvertHelp =
     "rh-from-x       in: t, x (g/kg), p                             added: rh (per cent)\n"
@@ -154,6 +155,14 @@ void TakeSuiteState(const TypedOptions& typed, CommandLine& line) {
     TakeState(typed, line);
 }
 
+// What is asked for chooses the air where the user does not: only real air is known by other
+// figures than t and rh. Scripts that ask by these two rely on the suite's columns.
+bool AsksForRealAir(const TypedOptions& typed) {
+    if (!typed.air.empty()) return typed.air == "real";
+    return std::any_of(typed.figures.begin() + 2, typed.figures.end(),
+                       [](const std::string& figure) { return !figure.empty(); });
+}
+
 int SideOf(double pixels) {
     if (!(pixels >= 1 && pixels <= kLargestPictureSide) || pixels != std::floor(pixels)) {
         Refuse("--size: each side has 1 to " + std::to_string(kLargestPictureSide) +
@@ -202,7 +211,8 @@ void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->add_option("--t", typed.t, "one state instead of a table: temperature in degC");
     verb->add_option("--rh", typed.rh, "its relative humidity in per cent");
     verb->add_option("--p", typed.p, "its total pressure in bar; without it that of the settings");
-    verb->add_option("--air", typed.air, "suite, also without it, or real")
+    verb->add_option("--air", typed.air,
+                     "suite or real; without it real where figures other than t and rh are given")
         ->check(CLI::IsMember({"suite", "real"}));
     for (std::size_t i = 2; i < kPairFigures; ++i) {
         verb->add_option(OptionOf(kPairFigureNames[i].name), typed.figures[i],
@@ -212,8 +222,9 @@ void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->footer(std::string(kStateHelp) + kTableHelp);
     verb->callback([&] {
         line.verb = Verb::State;
-        line.real_air = typed.air == "real";
+        line.real_air = AsksForRealAir(typed);
         (line.real_air ? TakeRealState : TakeSuiteState)(typed, line);
+        line.air_by_columns = typed.air.empty() && !line.state && !line.real_state;
         if ((line.state || line.real_state) && line.input != "-") {
             Refuse("either one state or a table, not both");
         }

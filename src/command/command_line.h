@@ -51,7 +51,8 @@ struct CommandLine {
     std::string input = "-";  // the table or script; "-" is the standard input
     std::string search;       // of the verb invert
     std::optional<StateOptions> state;
-    bool real_air = false;  // of the verb state
+    bool real_air = false;        // of the verb state
+    bool air_by_columns = false;  // real air too where the columns of the table are of it alone
     std::optional<RealStateOptions> real_state;
     ChartRequest chart;
     std::optional<Convention> convention;  // of form, chart and print; empty as in the settings

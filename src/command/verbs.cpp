@@ -5,6 +5,7 @@
 
 #include "base/file_names.h"
 #include "chart/chart_settings.h"
+#include "command/air_choice.h"
 #include "command/row_calculations.h"
 #include "command/sibling_printer.h"
 #include "command/single_state.h"
@@ -72,12 +73,14 @@ RowFormat FormatOf(const CommandLine& line) { return line.json ? RowFormat::Json
 
 bool RunState(const CommandLine& line, const RowStreams& streams, std::string& error) {
     CalculationData data(line.data);
-    if (!line.real_air && !data.ReadTables(error)) return false;
+    RowStreams table = streams;
+    const bool real_air = line.real_air || (line.air_by_columns && TableIsOfRealAir(table.input));
+    if (!real_air && !data.ReadTables(error)) return false;
     if (line.state || line.real_state) return ShowOneState(data, line, streams.output, error);
-    const auto calculation = line.real_air
+    const auto calculation = real_air
                                  ? MakeRealAirCalculation(data.settings.pressure_bar)
                                  : MakeStateCalculation(data.tables, data.settings.pressure_bar);
-    return RunRows(*calculation, FormatOf(line), streams, error);
+    return RunRows(*calculation, FormatOf(line), table, error);
 }
 
 bool RunInvert(const CommandLine& line, const RowStreams& streams, std::string& error) {

@@ -120,7 +120,7 @@ QString ChartWidget::StateUnderPointer() const {
     QStringList state;
     for (const auto& row : form_.read_out.rows) {
         const QString value = ShownText(row.figure->text);
-        if (value.isEmpty() || value == QLatin1String("-")) continue;
+        if (!row.figure->visible || value.isEmpty() || value == QLatin1String("-")) continue;
         state << ShownText(row.word.tool_tip) + QLatin1Char(' ') + value + QLatin1Char(' ') +
                      ShownText(std::string(row.unit));
     }

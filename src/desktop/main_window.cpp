@@ -22,7 +22,7 @@ namespace zandrell {
 namespace {
 
 constexpr int kRoomyWidth = 1280;    // pixels of the window from which bars are long
-constexpr int kCompactHeight = 760;  // and up to which the tools are drawn together
+constexpr int kCompactHeight = 790;  // and up to which the tools are drawn together
 
 // The first project among what is dragged; empty: none.
 QString ProjectIn(const QMimeData& dragged) {

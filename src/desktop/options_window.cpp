@@ -100,6 +100,9 @@ OptionsWindow::OptionsWindow(OptionsForm& form, const Captions& captions,
     auto* exact = new QCheckBox(this);
     mirror_.Bind(exact, form.ExactBox);
     layout->addWidget(exact);
+    auto* fog_lines = new QCheckBox(this);
+    mirror_.Bind(fog_lines, form.FogLinesBox);
+    layout->addWidget(fog_lines);
     layout->addWidget(MakeButtons());
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -41,7 +41,7 @@ ToolColumn::ToolColumn(MainForm& form, FormMirror& mirror, bool compact, QWidget
     mirror.BindPanel(this, form.controls.FunktButtPn);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
-    layout->setSpacing(8);
+    layout->setSpacing(compact_ ? 4 : 8);
     layout->addWidget(MakeToolButtons());
     layout->addStretch(1);
     layout->addWidget(MakeReadOut());
@@ -90,7 +90,7 @@ QWidget* ToolColumn::MakeReadOut() {
     auto* grid = new QGridLayout(panel);
     grid->setContentsMargins(6, 6, 6, 6);
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(3);
+    grid->setVerticalSpacing(compact_ ? 0 : 3);
     auto* heading = build.Caption(words.Label7);
     heading->setProperty("role", QStringLiteral("band"));
     MakeBold(heading);

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 
 #include "kernel/real_air_fits.h"
+#include "kernel/real_air_table.h"
 #include "kernel/root.h"
 
 namespace zandrell {
@@ -18,10 +18,7 @@ constexpr double kGasConstant = 8.314472, kGasConstantOfFactor = 8.314371;  // J
 constexpr double kPascalPerBar = 100000;
 constexpr double kCubicMetrePerCm3 = 1e-6;
 
-// A figure and T times its slope.
-struct Sloped {
-    double value = 0, slope = 0;
-};
+double VariableAt(double t) { return kTriplePoint / (t + kOffset) - 1; }
 
 template <typename Coefficients>
 double ValueAt(const Coefficients& coefficients, double w) {
@@ -30,128 +27,102 @@ double ValueAt(const Coefficients& coefficients, double w) {
     return value;
 }
 
-template <typename Coefficients>
-Sloped SlopedAt(const Coefficients& coefficients, double w) {
-    double value = 0, derivative = 0;
-    for (std::size_t i = coefficients.size(); i-- > 0;) {
-        derivative = derivative * w + value;
-        value = value * w + coefficients[i];
-    }
-    return {value, -(1 + w) * derivative};
-}
-
-// Second and third virial coefficients, cm3/mol and cm6/mol2; a for air, w for water.
-struct Virials {
-    explicit Virials(double w)
-        : aa(SlopedAt(real_air::kBaa, w)),
-          aw(SlopedAt(real_air::kBaw, w)),
-          ww(SlopedAt(real_air::kBww, w)),
-          aaa(SlopedAt(real_air::kCaaa, w)),
-          aaw(SlopedAt(real_air::kCaaw, w)),
-          aww(SlopedAt(real_air::kCaww, w)),
-          www(SlopedAt(real_air::kCwww, w)) {}
-    Sloped aa, aw, ww, aaa, aaw, aww, www;
-};
-
-double VariableAt(double t) { return kTriplePoint / (t + kOffset) - 1; }
-
 // ln(1 - z) for the share of air that water dissolves, some 1E-05.
 double LogOfOneLess(double z) { return -z * (1 + z / 2); }
-
-// ln f of the report at a mole fraction psi of saturated vapour. n is p / (R T) and n_s the same of
-// the saturation pressure, mol/cm3; the condensed phase has the volume V_c and dissolves air.
-double LogFactor(const Virials& v, double psi, double n, double n_s, double condensed_volume,
-                 double dissolved) {
-    const double b = 1 - psi, b2 = b * b, y = psi;
-    const double aa = v.aa.value, aw = v.aw.value, ww = v.ww.value;
-    const double P = n * n, S = n_s * n_s;
-    const double first = (n - n_s) * condensed_volume + LogOfOneLess(dissolved * b) +
-                         b2 * n * (aa - 2 * aw) - (n - n_s - b2 * n) * ww;
-    const double third = P * (b2 * b * v.aaa.value + 1.5 * b2 * (1 - 2 * b) * v.aaw.value -
-                              3 * b2 * y * v.aww.value) -
-                         ((3 - 2 * y) * y * y * P - S) * v.www.value / 2;
-    const double second = P * (b2 * y * (2 - 3 * y) * aa * ww + 2 * b2 * b * (1 - 3 * y) * aa * aw +
-                               6 * b2 * y * y * ww * aw - 1.5 * b2 * b2 * aa * aa +
-                               2 * b2 * y * (2 - 3 * y) * aw * aw) -
-                          (S - (4 - 3 * y) * y * y * y * P) * ww * ww / 2;
-    return first + third + second;
-}
 
 // exp for the small logarithms of enhancement factors, to 1E-10.
 double ExpOfSmall(double l) { return 1 + l * (1 + l / 2 * (1 + l / 3 * (1 + l / 4))); }
 
-double Enhancement(const Virials& v, double w, double t, double p, double saturation) {
-    if (saturation > p) return 1;  // above boiling there is no condensed phase
-    const bool ice = t <= kIceUpTo;
-    const double condensed_volume = ValueAt(ice ? std::span<const double>(real_air::kIceVolume)
-                                                : std::span<const double>(real_air::kLiquidVolume),
-                                            w);
-    const double dissolved = ice ? 0 : ValueAt(real_air::kHenry, w) * p * 1e-9;  // Pa to GPa
-    const double per_pascal = kCubicMetrePerCm3 / (kGasConstantOfFactor * (t + kOffset));
-    const double n = p * per_pascal, n_s = saturation * per_pascal;
+double Enhancement(const RealAirTable::Saturation& s, double T, double p) {
+    if (s.pressure > p) return 1;  // above boiling there is no condensed phase
+    const double per_pascal = kCubicMetrePerCm3 / (kGasConstantOfFactor * T);
+    const double n = p * per_pascal, n_s = s.pressure * per_pascal, square = n * n;
+    const double alone = (n - n_s) * s.volume + (square - n_s * n_s) * s.square;
+    const double dissolved = s.henry * p * 1e-9;  // Pa to GPa
+    const double first = n * s.first + square * s.second, second = square * s.third,
+                 third = square * s.fourth;
+    const auto log_factor = [&](double psi) {
+        const double b = 1 - psi;
+        return alone + LogOfOneLess(dissolved * b) + b * b * (first + b * (second + b * third));
+    };
     // psi depends on f itself; the second time leaves 2E-06.
-    const double start =
-        ExpOfSmall(LogFactor(v, saturation / p, n, n_s, condensed_volume, dissolved));
-    const double psi = std::min(start * saturation / p, 1.0);
-    const double factor = ExpOfSmall(LogFactor(v, psi, n, n_s, condensed_volume, dissolved));
-    return std::max(factor, 1.0);
+    const double share = s.pressure / p;
+    const double psi = std::min(ExpOfSmall(log_factor(share)) * share, 1.0);
+    return std::max(ExpOfSmall(log_factor(psi)), 1.0);
 }
 
-double EnhancementAt(double t, double p, double saturation) {
+double SaturatedVapour(const RealAirTable::Saturation& s, double T, double p) {
+    return Enhancement(s, T, p) * s.pressure;
+}
+
+// Pa, of vapour at saturation under p (Pa).
+double SaturatedVapourAt(double t, double p) {
+    const auto& table = RealAirTable::Get();
     if (t >= kRealAirLowest) {
-        const double w = VariableAt(t);
-        return Enhancement(Virials(w), w, t, p, saturation);
+        const double within = std::min(t, RealAirTable::kHighest);
+        return SaturatedVapour(table.SaturationAt(within), within + kOffset, p);
     }
     // Below the fits' range the factor goes on as it came.
     constexpr double kReach = 5;  // K
-    const auto at = [p](double low) { return EnhancementAt(low, p, RealSaturationPressure(low)); };
+    const auto at = [&](double low) {
+        return Enhancement(table.SaturationAt(low), low + kOffset, p);
+    };
     const double lowest = at(kRealAirLowest);
-    return lowest + (lowest - at(kRealAirLowest + kReach)) / kReach * (kRealAirLowest - t);
+    const double rise = (lowest - at(kRealAirLowest + kReach)) / kReach;
+    return (lowest + rise * (kRealAirLowest - t)) * RealSaturationPressure(t);
 }
 
 // The gas by mole fractions psi of water and a of air.
 struct Mixture {
-    Mixture(const Virials& v, double psi) {
-        const double a = 1 - psi;
-        B = Sum(v.aa, a * a, v.aw, 2 * a * psi, v.ww, psi * psi);
-        C = Sum(v.aaa, a * a * a, v.aaw, 3 * a * a * psi, v.aww, 3 * a * psi * psi);
-        C.value += psi * psi * psi * v.www.value;
-        C.slope += psi * psi * psi * v.www.slope;
+    Mixture(const RealAirTable::Gas& g, double psi) {
+        const double a = 1 - psi, aa = a * a, aw = a * psi, ww = psi * psi;
+        B = aa * g.baa + 2 * aw * g.baw + ww * g.bww;
+        C = a * (aa * g.caaa + 3 * aw * g.caaw + 3 * ww * g.caww) + psi * ww * g.cwww;
+        of_enthalpy_B = aa * g.raa + 2 * aw * g.raw + ww * g.rww;
+        of_enthalpy_C = a * (aa * g.raaa + 3 * aw * g.raaw + 3 * ww * g.raww) + psi * ww * g.rwww;
     }
-    static Sloped Sum(Sloped first, double i, Sloped second, double j, Sloped third, double k) {
-        return {i * first.value + j * second.value + k * third.value,
-                i * first.slope + j * second.slope + k * third.slope};
-    }
-    // mol/cm3, where it is n = p / (R T) for an ideal gas: r (1 + B r + C r^2) = n without a
-    // division. At these densities each round gains a digit and a half at least.
+    // mol/cm3, where it is n = p / (R T) for an ideal gas: the root of r (1 + B r + C r^2) = n. Two
+    // steps by the slope at the start leave the eighth power of B n.
     double Density(double n) const {
-        constexpr int kRounds = 5;
-        double r = n * (1 - B.value * n);
-        for (int round = 0; round < kRounds; ++round) r = n - r * r * (B.value + C.value * r);
+        const double bn = B * n;
+        double r = n * (1 - bn + (2 * bn * bn - C * n * n));
+        const double per_slope = 1 / (1 + r * (2 * B + 3 * C * r));
+        for (int round = 0; round < 2; ++round) r -= (r * (1 + r * (B + C * r)) - n) * per_slope;
         return r;
     }
-    Sloped B, C;
+    double B = 0, C = 0, of_enthalpy_B = 0, of_enthalpy_C = 0;
 };
 
-RealAirState StateOf(const Virials& v, double w, double T, double p, double psi) {
+RealAirState StateOf(const RealAirTable::Gas& gas, double T, double p, double psi) {
     const double a = 1 - psi;
-    const Mixture mixture(v, psi);
+    const Mixture mixture(gas, psi);
     const double r = mixture.Density(p * kCubicMetrePerCm3 / (kGasConstant * T));
-    const double residual =
-        r * (mixture.B.value - mixture.B.slope + r * (mixture.C.value - mixture.C.slope / 2));
+    const double residual = r * (mixture.of_enthalpy_B + r * mixture.of_enthalpy_C);
     const double air = a * kMolarMassAir, water = psi * kMolarMassWater;  // g in a mole of both
+    const double per_air = 1 / air;
     RealAirState state;
-    state.x = 1000 * water / air;
-    state.volume = 1 / (1000 * r * air);
+    state.x = 1000 * water * per_air;
+    state.volume = per_air / (1000 * r);
     state.density = 1000 * (air + water) * r;
-    state.enthalpy = (air * ValueAt(real_air::kAirEnthalpy, w) +
-                      water * ValueAt(real_air::kVapourEnthalpy, w) + kGasConstant * T * residual) /
-                     air;
+    state.enthalpy =
+        gas.air_enthalpy + (water * gas.vapour_enthalpy + kGasConstant * T * residual) * per_air;
     state.vapour_pressure = psi * p;
     return state;
 }
 
+std::optional<RealAirState> AtHumidity(const RealAirTable::Saturation& saturation, double relF,
+                                       double t, double p) {
+    const double T = t + kOffset, factor = Enhancement(saturation, T, p);
+    const double psi = relF * factor * saturation.pressure / p;
+    if (!(psi <= kRealAirMostWater)) return std::nullopt;
+    RealAirState state = StateOf(RealAirTable::Get().GasAt(t), T, p, psi);
+    state.enhancement = factor;
+    return state;
+}
+
 constexpr double kCloseEnough = 1e-11;  // of a logarithm of pressures
+
+bool TemperatureWithinLimits(double t) { return t >= kRealAirLowest && t <= kRealAirHighest; }
 
 bool PressureWithinLimits(double p_bar) {
     return p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar;
@@ -170,8 +141,8 @@ std::optional<double> NearDewPoint(double vapour_pressure, const Saturation& sat
     const double start = b * l / (a - l);
     if (std::abs(start) < 2 * kAway) return std::nullopt;
     const double slope = a * b / ((b + start) * (b + start));
-    return RootBySlope(start, -slope, ice ? -100 : kAway, ice ? -kAway : 105, kClose,
-                       [&](double t) { return std::log(vapour_pressure / saturation(t)); });
+    return RootBySlope(start, -slope, ice ? -100 : kAway, ice ? -kAway : RealAirTable::kHighest,
+                       kClose, [&](double t) { return std::log(vapour_pressure / saturation(t)); });
 }
 
 }  // namespace
@@ -193,24 +164,27 @@ double RealSaturationPressure(double t) {
 }
 
 double RealSaturatedVapour(double t, double p_bar) {
-    const double saturation = RealSaturationPressure(t);
-    return EnhancementAt(t, p_bar * kPascalPerBar, saturation) * saturation;
+    return SaturatedVapourAt(t, p_bar * kPascalPerBar);
 }
 
 std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar) {
-    if (!(relF >= 0 && relF <= 1 && t >= kRealAirLowest && t <= kRealAirHighest) ||
-        !PressureWithinLimits(p_bar)) {
+    if (!(relF >= 0 && relF <= 1) || !TemperatureWithinLimits(t) || !PressureWithinLimits(p_bar)) {
         return std::nullopt;
     }
-    const double p = p_bar * kPascalPerBar, w = VariableAt(t);
-    const Virials virials(w);
-    const double saturation = RealSaturationPressure(t);
-    const double factor = Enhancement(virials, w, t, p, saturation);
-    const double psi = relF * factor * saturation / p;
-    if (!(psi <= kRealAirMostWater)) return std::nullopt;
-    RealAirState state = StateOf(virials, w, t + kOffset, p, psi);
-    state.enhancement = factor;
-    return state;
+    const auto& table = RealAirTable::Get();
+    return AtHumidity(table.SaturationAt(t), relF, t, p_bar * kPascalPerBar);
+}
+
+std::optional<SaturatedRealAir> EvaluateSaturatedAir(double t, double p_bar) {
+    if (!TemperatureWithinLimits(t) || !PressureWithinLimits(p_bar)) return std::nullopt;
+    const double p = p_bar * kPascalPerBar;
+    const RealAirTable::Saturation saturation = RealAirTable::Get().SaturationAt(t);
+    const auto air = AtHumidity(saturation, 1, t, p);
+    if (!air) return std::nullopt;
+    // What water gains by being pressed together from saturation to p.
+    const double pressed = saturation.condensed_volume * kCubicMetrePerCm3 *
+                           (p - saturation.pressure) / kMolarMassWater;
+    return SaturatedRealAir{*air, saturation.condensed_enthalpy + pressed};
 }
 
 std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar) {
@@ -218,9 +192,8 @@ std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar) {
         !PressureWithinLimits(p_bar)) {
         return std::nullopt;
     }
-    const double w = VariableAt(t);
-    RealAirState state =
-        StateOf(Virials(w), w, t + kOffset, p_bar * kPascalPerBar, x / (kRealAirRatio + x));
+    RealAirState state = StateOf(RealAirTable::Get().GasAt(t), t + kOffset, p_bar * kPascalPerBar,
+                                 x / (kRealAirRatio + x));
     state.x = x;
     return state;
 }
@@ -240,10 +213,7 @@ std::optional<double> RealDewPoint(double vapour_pressure, double p_bar) {
     constexpr double kMostLower = 1.2;  // K, by the factor, which stays below 1.02
     const double p = p_bar * kPascalPerBar;
     const auto pure = [](double t) { return RealSaturationPressure(t); };
-    const auto humid = [p](double t) {
-        const double saturation = RealSaturationPressure(t);
-        return EnhancementAt(t, p, saturation) * saturation;
-    };
+    const auto humid = [p](double t) { return SaturatedVapourAt(t, p); };
     const double lowest = pure(kLowest), highest = pure(kRealAirHighest + kMostLower);
     if (!(vapour_pressure >= lowest && vapour_pressure <= highest)) return std::nullopt;
     // How far the vapour's pressure lies above saturation, as a logarithm, which is nearly straight

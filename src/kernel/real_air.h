@@ -48,6 +48,14 @@ std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar)
 // `enhancement` is left at 1. Empty outside the limits.
 std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar);
 
+// Saturated air and the enthalpy of the water that wets it at its temperature and pressure, of ice
+// up to 0.01 degC, of liquid water above, kJ/kg. Empty as EvaluateRealAir.
+struct SaturatedRealAir {
+    RealAirState air;
+    double condensed_enthalpy = 0;
+};
+std::optional<SaturatedRealAir> EvaluateSaturatedAir(double t, double p_bar);
+
 // EvaluateRealAir for arrays: state i from relF[i], t[i] and p_bar[i], or p_bar[0] for all.
 // Requires: as many states and temperatures as humidities, as many pressures or one.
 void EvaluateRealAirs(std::span<const double> relF, std::span<const double> t,

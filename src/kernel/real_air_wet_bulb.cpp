@@ -70,12 +70,13 @@ std::optional<double> NearWetBulb(double t, double x, double enthalpy, double p_
     }
     if (!(std::abs(bulb) > 2 * kAway)) return std::nullopt;
     const bool ice = bulb < 0;
-    return RootBySlope(
-        bulb, -slope, ice ? kRealAirLowest : kAway, ice ? -kAway : kRealAirHighest, kClose,
-        [&](double at) {
-            const auto saturated = EvaluateRealAir(1, at, p_bar);
-            return saturated ? Excess(*saturated, CondensedEnthalpy(at, p_bar), x, enthalpy) : 1e9;
-        });
+    return RootBySlope(bulb, -slope, ice ? kRealAirLowest : kAway, ice ? -kAway : kRealAirHighest,
+                       kClose, [&](double at) {
+                           const auto saturated = EvaluateSaturatedAir(at, p_bar);
+                           return saturated ? Excess(saturated->air, saturated->condensed_enthalpy,
+                                                     x, enthalpy)
+                                            : 1e9;
+                       });
 }
 
 }  // namespace
@@ -85,9 +86,9 @@ double CondensedEnthalpy(double t, double p_bar) {
 }
 
 std::optional<double> AboveWetBulb(double t_wet, double x, double enthalpy, double p_bar) {
-    const auto saturated = EvaluateRealAir(1, t_wet, p_bar);
+    const auto saturated = EvaluateSaturatedAir(t_wet, p_bar);
     if (!saturated) return std::nullopt;
-    return Excess(*saturated, CondensedEnthalpy(t_wet, p_bar), x, enthalpy);
+    return Excess(saturated->air, saturated->condensed_enthalpy, x, enthalpy);
 }
 
 std::optional<WetBulb> RealWetBulb(double t, double x, double enthalpy, double p_bar) {

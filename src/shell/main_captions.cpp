@@ -126,10 +126,7 @@ void SetToolCaptions(MainControls& c, const Captions& words) {
 }
 
 void SetReadOutCaptions(MainControls& c, ReadOutPanel& read_out, const Captions& words) {
-    for (auto& row : read_out.rows) {
-        row.word.text = WithUnit(std::string(row.sign), row.unit);
-        row.word.tool_tip = words[row.caption];
-    }
+    read_out.TakeWords(words);
     c.Label24.text = words[Caption::Project] + " :";
     c.Label25.text = words[Caption::Remark] + " :";
 }

@@ -45,7 +45,8 @@ OptionsForm::OptionsForm(const DataFiles& files, SharedValues& shared, const Cap
 void OptionsForm::ListControls() {
     form.Add({&OptPNUeb, &absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi});
     form.Add({&pressure_label, &height_label, &tmin_label, &tmax_label, &xmin_label, &xmax_label});
-    form.Add({&Option3d1, &Option3d2, &Black, &white, &Panel3D12, &Panel3D13, &ExactBox});
+    form.Add(
+        {&Option3d1, &Option3d2, &Black, &white, &Panel3D12, &Panel3D13, &ExactBox, &FogLinesBox});
     form.Add({&Command3D1, &Command3D1_l, &Command3D5, &Command3D5_l});
 }
 
@@ -56,6 +57,7 @@ void OptionsForm::BindActs() {
     acts.Add(Option3d2.name, ActKind::Choose, [this] { Choose(Option3d2, Option3d1); });
     acts.Add(Black.name, ActKind::Choose, [this] { Choose(Black, white); });
     acts.Add(white.name, ActKind::Choose, [this] { Choose(white, Black); });
+    acts.Add(ExactBox.name, ActKind::Check, [this] { FogLinesBox.enabled = ExactBox.on; });
     acts.Add(Panel3D12.name, ActKind::Click, [this] { Choose(Black, white); });
     acts.Add(Panel3D13.name, ActKind::Click, [this] { Choose(white, Black); });
     for (const auto* button : {&Command3D1, &Command3D1_l}) {
@@ -82,6 +84,8 @@ void OptionsForm::SetCaptions() {
     white.text = words[Caption::LightGround];
     ExactBox.text = words[Caption::ExactBox];
     ExactBox.tool_tip = words[Caption::ExactBoxTip];
+    FogLinesBox.text = words[Caption::FogLinesBox];
+    FogLinesBox.tool_tip = words[Caption::FogLinesBoxTip];
     pressure_label.text = words[Caption::Pressure] + " /[" + std::string(UnitBar) + "]:";
     height_label.text = words[Caption::Altitude] + " /[" + std::string(UnitM) + "]:";
     tmin_label.text = temperature + " min. :";
@@ -109,7 +113,8 @@ void OptionsForm::Open() {
     } else {
         Choose(Option3d2, Option3d1);
     }
-    ExactBox.on = settings.convention == Convention::Exact;
+    ExactBox.on = FogLinesBox.enabled = settings.convention == Convention::Exact;
+    FogLinesBox.on = settings.fog_lines;
     if (settings.Helligkeit == kWhiteGround) {
         Choose(white, Black);
     } else {
@@ -168,6 +173,7 @@ void OptionsForm::Opt_speich() {
     if (!PassesTests(typed)) return;
     typed.Helligkeit = white.on ? kWhiteGround : kBlackGround;
     typed.convention = ExactBox.on ? Convention::Exact : Convention::Suite;
+    typed.fog_lines = ExactBox.on && FogLinesBox.on;
     std::string reason;
     if (WriteChartSettings(files_, typed, &reason) != FileStatus::Ok) {
         const std::string path = files_.Resolve(kChartSettingsFile).string();

@@ -27,6 +27,7 @@ class OptionsForm : public ModalForm {
     OptionButton Black{"Black"}, white{"white", true};
     Panel Panel3D12{"Panel3D12"}, Panel3D13{"Panel3D13"};  // sample pictures of the two schemes
     CheckBox ExactBox{"ExactBox"};                         // Convention::Exact instead of Suite
+    CheckBox FogLinesBox{"FogLinesBox"};                   // only with ExactBox
     Button Command3D1{"Command3D1", "OKcap.bmp"}, Command3D1_l{"Command3D1_l"};
     Button Command3D5{"Command3D5", "abcap.bmp"}, Command3D5_l{"Command3D5_l"};
 

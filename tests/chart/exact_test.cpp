@@ -22,24 +22,30 @@ std::string Settings(const std::string& range, int kind, const std::string& pres
     return pressure + "," + range + ",0," + std::to_string(kind) + ",1,1";
 }
 
-TEST(Exact, TheNinthItemOfTheSettingsAsksForIt) {
+TEST(Exact, TheNinthItemOfTheSettingsAsksForItAndTheTenthForFogLines) {
     const struct {
         const char* items;
-        bool exact;
-    } cases[] = {{"1.013,-20,40,0,40,0,0,1,1", true},  {"1.013,-20,40,0,40,0,0,1", false},
-                 {"1.013,-20,40,0,40,0,0,1,0", false}, {"1.013,-20,40,0,40,0,0,1,2", false},
-                 {"1.013,-20,40,0,40,0,0,1,x", false}, {"1.013,-20,40,0,40", false}};
+        bool exact, fog_lines = false;
+    } cases[] = {
+        {"1.013,-20,40,0,40,0,0,1,1", true},         {"1.013,-20,40,0,40,0,0,1", false},
+        {"1.013,-20,40,0,40,0,0,1,0", false},        {"1.013,-20,40,0,40,0,0,1,2", false},
+        {"1.013,-20,40,0,40,0,0,1,x", false},        {"1.013,-20,40,0,40", false},
+        {"1.013,-20,40,0,40,0,0,1,1,1", true, true}, {"1.013,-20,40,0,40,0,0,1,1,0", true},
+        {"1.013,-20,40,0,40,0,0,1,1,x", true},       {"1.013,-20,40,0,40,0,0,1,0,1", false}};
     const TestFolder folder;
     const DataFiles files(folder.Path());
     for (const auto& c : cases) {
         folder.Write("qv_par.dat", c.items);
         ChartSettings settings;
         settings.convention = Convention::Exact;
+        settings.fog_lines = true;
         ReadChartSettings(files, settings);
         EXPECT_EQ(settings.convention == Convention::Exact, c.exact) << c.items;
+        EXPECT_EQ(settings.fog_lines, c.fog_lines) << c.items;
         WriteChartSettings(files, settings);
         const std::string written = folder.Read("qv_par.dat");
-        EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), c.exact ? 9 : 8) << c.items;
+        EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 8 + c.exact + c.fog_lines)
+            << c.items;
     }
 }
 
@@ -304,6 +310,47 @@ TEST(Exact, SaturationAndEnthalpyLinesLieWhereTheirFiguresAre) {
                 EXPECT_GE(lines, 12 * (zoomed ? 3 : 10)) << pressure;
             }
         }
+    }
+}
+
+// kJ per kg of dry air with x g of water, of which the air holds what saturates it. Water of 4.2
+// kJ/(kg K), ice of 333.4 kJ/kg less at 0 degC and 2.06 kJ/(kg K).
+double EnthalpyInFog(const PaintedChart& chart, const ChartState& at) {
+    const double p = 1e5 * chart.pressure, saturated = independent::X(1, at.t, p);
+    const double condensed = at.t <= 0.01 ? -333.4 + 2.06 * at.t : 4.2 * at.t;
+    return independent::H(at.t, saturated, p) + (at.x - saturated) / 1000 * condensed;
+}
+
+// Each dash behind a number belongs to its line. Where ice melts h is not told by t and x.
+TEST(Exact, FogLinesLieWhereTheirEnthalpyIs) {
+    for (const int kind : {kMollier, kCarrier}) {
+        PaintedChart without(Settings("-20,40,0,40", kind)),
+            chart(Settings("-20,40,0,40", kind) + ",1");
+        without.Paint();
+        chart.Paint();
+        double h = 0;
+        int water = 0, ice = 0, numbers = 0;
+        const auto& all = chart.engine.picture.Operations();
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (all[i].text.find("kg/m³") != std::string::npos) break;
+            if (all[i].text.find("kJ/kg") != std::string::npos) {
+                h = ParsedNumber(all[i].text.substr(0, all[i].text.find('k')));
+                ++numbers;
+                continue;
+            }
+            if (numbers == 0 || all[i].stroke != Stroke::Line || all[i].colour != kGrey) continue;
+            const auto states = StatesAlong(chart, all[i]);
+            if (HumidityAt(chart, states[1]) < 101) continue;  // a line in air
+            if (std::abs(states[1].t) < 0.3) continue;
+            ++(states[1].t > 0 ? water : ice);
+            EXPECT_NEAR(EnthalpyInFog(chart, states[1]), h, 0.1 + 5e-4 * h)
+                << states[1].t << " degC, " << states[1].x << " g/kg";
+        }
+        EXPECT_GE(numbers, 10);
+        EXPECT_GE(water, 300);
+        EXPECT_GE(ice, 50);
+        const auto& before = without.engine.picture.Operations();
+        EXPECT_GT(all.size(), before.size() + 300U);
     }
 }
 

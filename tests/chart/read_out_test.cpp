@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/number_text.h"
 #include "canvas/palette.h"
 #include "painted_chart.h"
+#include "tests/processes/independent_air.h"
 
 namespace zandrell {
 namespace {
@@ -62,6 +65,79 @@ TEST(ReadOut, TheFogAndTheLeftOfTheAxisHaveNoState) {
         EXPECT_EQ(chart.read_out.DampfDS.text == "-", !state) << c.x;
         EXPECT_EQ(ParsedNumber(chart.read_out.absF.text), c.x);
     }
+}
+
+constexpr double kPascal = 101300;
+
+// kJ per kg of dry air of x g/kg of water at t, by formulas that the program does not have; what
+// does not fit into saturated air is water of 4.2 kJ/(kg K), or ice of 333.4 kJ/kg less at 0 degC
+// and 2.06 kJ/(kg K).
+double CondensateHeat(double t) { return (t <= 0.01 ? -333.4 + 2.06 * t : 4.2 * t) / 1000; }
+double HeatOf(double t, double x) {
+    const double gas = std::min(x, independent::X(1, t, kPascal));
+    return independent::H(t, gas, kPascal) + (x - gas) * CondensateHeat(t);
+}
+// Of air that takes up water at t until it is saturated: rises with t.
+double HeatAtWetBulb(double t, double x) {
+    const double saturated = independent::X(1, t, kPascal);
+    return independent::H(t, saturated, kPascal) - (saturated - x) * CondensateHeat(t);
+}
+
+TEST(ReadOut, UnderExactTheFogIsAStateToo) {
+    PaintedChart chart("1.013,-20,40,0,40,0,0,1,1");
+    Captions words;
+    words[Caption::DewPoint] = "dew", words[Caption::FrostPoint] = "frost";
+    words[Caption::Water] = "water", words[Caption::Ice] = "ice";
+    chart.read_out.TakeWords(words);
+    chart.Paint();
+    const auto& panel = chart.read_out;
+    const auto number = [](const Label& label) { return ParsedNumber(label.text); };
+    const struct {
+        double t, x;
+        const char *dew_word, *condensed_word;
+    } cases[] = {{25.001, 10, "dew", "water"}, {34.999, 0.5, "frost", "water"},
+                 {10.001, 12, "dew", "water"}, {-9.999, 1, "frost", "ice"},
+                 {-19.999, 3, "frost", "ice"}, {38, 39, "dew", "water"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.t);
+        const CanvasPoint at = chart.engine.scale.PointOf(c.x, c.t);
+        chart.ReadAt(at.x, at.y);
+        const double saturated = independent::X(1, c.t, kPascal), gas = std::min(c.x, saturated);
+        const bool fog = c.x > saturated;
+        if (fog) {
+            EXPECT_EQ(panel.relF.text, "> 100");
+            EXPECT_NEAR(number(panel.CondensedWater), c.x - saturated, 0.02);
+        } else {
+            EXPECT_NEAR(number(panel.relF),
+                        100 * independent::ShareOfSteam(c.x) / independent::ShareOfSteam(saturated),
+                        0.16);
+            EXPECT_EQ(panel.CondensedWater.text, "-");
+        }
+        EXPECT_NEAR(number(panel.EnthL) + 0.05, HeatOf(c.t, c.x), 0.07);
+        const double dry = independent::DryAir(c.t, gas, kPascal);
+        EXPECT_NEAR(number(panel.DichtL) + 0.0005, dry * (1 + c.x / 1000), 0.0007);
+        EXPECT_NEAR(number(panel.SpecificVolume) + 0.0005, 1 / dry, 0.0007);
+        // Both are cut after their tenths.
+        const double dew = number(panel.DewPoint), wet = number(panel.WetBulb);
+        EXPECT_GE(gas, independent::X(1, dew - 0.02, kPascal));
+        EXPECT_LE(gas, independent::X(1, dew + 0.12, kPascal));
+        EXPECT_GE(HeatOf(c.t, c.x), HeatAtWetBulb(wet - 0.03, c.x));
+        EXPECT_LE(HeatOf(c.t, c.x), HeatAtWetBulb(wet + 0.13, c.x));
+        EXPECT_EQ(panel.rows[7].word.tool_tip, c.dew_word);
+        EXPECT_EQ(panel.rows[10].word.tool_tip, c.condensed_word);
+        EXPECT_TRUE(panel.DewPoint.visible && panel.rows[7].word.visible);
+    }
+    const CanvasPoint left = chart.engine.scale.PointOf(-1, 25);
+    chart.ReadAt(left.x, left.y);
+    EXPECT_EQ(panel.relF.text, "< 0");
+    for (const Label* label : {&panel.EnthL, &panel.DewPoint, &panel.WetBulb, &panel.SpecificVolume,
+                               &panel.CondensedWater}) {
+        EXPECT_EQ(label->text, "-");
+    }
+    chart.engine.convention_override = Convention::Suite;
+    chart.ReadAt(500, 300);
+    EXPECT_FALSE(panel.DewPoint.visible || panel.rows[7].word.visible);
+    EXPECT_TRUE(panel.DampfDS.visible);
 }
 
 TEST(ReadOut, TheFogBeginsAtSaturation) {

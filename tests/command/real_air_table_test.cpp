@@ -51,6 +51,33 @@ TEST(RealAirTable, AnyTwoFiguresGiveAllOthers) {
     }
 }
 
+TEST(RealAirTable, WithoutAChoiceTheColumnsChooseTheAir) {
+    const struct {
+        const char *table, *added;
+        bool real;
+    } rows[] = {{"t,rh,p\n25,50,1\n", "density_dry_air_kg_per_m3,t_boiling_k", false},
+                {"t,rh,t_wet,p\n25,50,18,1\n", "density_dry_air_kg_per_m3,t_boiling_k", false},
+                {"room, t ,\"t_wet\",p\r\n7,25,18,1\r\n", "v_m3_per_kg,enhancement", true},
+                {"\xEF\xBB\xBFx,h,p\n7,40,1", "v_m3_per_kg,enhancement", true}};
+    for (const auto& row : rows) {
+        CommandLine line = StateLine();
+        line.air_by_columns = true;
+        const TableRun run = RunTable(line, row.table);
+        ASSERT_TRUE(run.done) << row.table << run.error;
+        EXPECT_EQ(run.reports, "") << row.table;
+        const auto lines = Lines(run.output);
+        ASSERT_EQ(lines.size(), 2U) << row.table;
+        EXPECT_TRUE(lines[0].ends_with(row.added)) << lines[0];
+        EXPECT_GT(LastNumbers(lines[1], 1)[0], 0.9) << "a result in the last column";
+        line.air_by_columns = false;
+        EXPECT_EQ(RunTable(line, row.table).done, !row.real) << "the suite needs t and rh";
+    }
+    CommandLine line = StateLine();
+    line.air_by_columns = true;
+    EXPECT_FALSE(RunTable(line, "").done);
+    EXPECT_TRUE(RunTable(line, "t,x").done) << "a header alone is a table without rows";
+}
+
 TEST(RealAirTable, SaysLineByLineWhatIsWrong) {
     const TableRun run = RunTable(
         RealLine(),

@@ -1,6 +1,7 @@
 // The pointer over the chart as a user sees it: its shape, wheel and hand.
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QWheelEvent>
@@ -70,6 +71,35 @@ TEST_F(PointerShown, AHandLiesOverARingThatCanBePickedUp) {
     Mouse(chart_, QEvent::MouseButtonPress, ring + QPointF(80, 40));
     Mouse(chart_, QEvent::MouseMove, ring);
     EXPECT_EQ(chart_.cursor().shape(), Qt::ArrowCursor) << "nothing lies there any more";
+}
+
+// The rows of the exact read-out, as they stand in the column.
+TEST_F(PointerShown, FrostAndIceAreCalledByTheirNamesUnderExactAlone) {
+    const auto row = [&](const char* name) {
+        return window_->findChild<QLabel*>(QLatin1String(name));
+    };
+    const auto read = [&](double x, double t) {
+        Mouse(chart_, QEvent::MouseMove, PlaceOf(x, t));
+        QApplication::processEvents();
+    };
+    form_.chart.convention_override = Convention::Exact;
+    window_->Mirror().Perform([&] { form_.Activate(); });
+    const struct {
+        double x, t;
+        const char *dew, *condensed;
+    } cases[] = {{5, 20, "td", "xw"}, {30, 10, "td", "xw"}, {20, -10, "tf", "xi"}};
+    for (const auto& c : cases) {
+        read(c.x, c.t);
+        ASSERT_TRUE(row("DewPointLabel") && row("CondensedWaterLabel"));
+        EXPECT_TRUE(row("DewPointLabel")->isVisible());
+        EXPECT_TRUE(row("DewPointLabel")->text().startsWith(QLatin1String(c.dew))) << c.t;
+        EXPECT_TRUE(row("CondensedWaterLabel")->text().startsWith(QLatin1String(c.condensed)))
+            << c.t;
+    }
+    form_.chart.convention_override = Convention::Suite;
+    read(5, 20);
+    EXPECT_FALSE(row("DewPointLabel")->isVisible());
+    EXPECT_TRUE(row("DampfDSLabel")->isVisible());
 }
 
 TEST_F(PointerShown, WheelAndHandEndInTheZoomedStateAndZoomOutReturns) {

@@ -62,6 +62,32 @@ TEST(Options, TheBoxChoosesTheConventionAndTheNinthItem) {
     }
 }
 
+TEST(Options, FogLinesCanBeHadUnderExactAlone) {
+    ScriptSession session;
+    const std::string exact = "1.013\r\n-20\r\n40\r\n0\r\n40\r\n0\r\n0\r\n1\r\n1\r\n";
+    const struct {
+        const char* acts;
+        bool enabled, on, stored;
+    } rows[] = {{"check qvopt.ExactBox off\n", false, false, false},
+                {"check qvopt.ExactBox on\n", true, false, false},
+                {"check qvopt.ExactBox on\ncheck qvopt.FogLinesBox on\n", true, true, true},
+                {"", true, true, true},
+                {"check qvopt.FogLinesBox off\n", true, false, false}};
+    for (const auto& row : rows) {
+        const auto dumps =
+            session.Run("click optButt\n" + std::string(row.acts) +
+                        "dump qvopt.FogLinesBox qvopt.ExactBox\nclick qvopt.Command3D1\n");
+        ASSERT_EQ(dumps.size(), 1U);
+        EXPECT_EQ(dumps[0]["qvopt.FogLinesBox"]["enabled"], row.enabled) << row.acts;
+        EXPECT_EQ(dumps[0]["qvopt.FogLinesBox"]["value"], row.on) << row.acts;
+        const std::string file = session.folder.Read("qv_par.dat");
+        EXPECT_EQ(file.ends_with("1\r\n1\r\n1\r\n"), row.stored) << row.acts;
+        if (dumps[0]["qvopt.ExactBox"]["value"] == true) {
+            EXPECT_EQ(file, row.stored ? exact + "1\r\n" : exact) << row.acts;
+        }
+    }
+}
+
 TEST(Options, TestsOfTheRanges) {
     const struct {
         const char* tmin;
