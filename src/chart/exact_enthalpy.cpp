@@ -99,7 +99,9 @@ void PaintDashes(const ChartPainting& painting, const std::vector<CanvasPoint>& 
         const double length = to.x - from.x;
         const int dashes = std::max(1, static_cast<int>(length / (2 * kDash)));
         for (int k = 0; k < dashes; ++k) {
-            const double start = static_cast<double>(k) / dashes, end = start + 0.5 / dashes;
+            // Half a gap comes first: a dash that touched the line in air would be drawn as its
+            // bend.
+            const double start = (k + 0.25) / dashes, end = start + 0.5 / dashes;
             const CanvasPoint one{from.x + start * length, from.y + start * (to.y - from.y)};
             const CanvasPoint other{from.x + end * length, from.y + end * (to.y - from.y)};
             if (!number.Touches(one.x, other.x)) painting.Line(one, other, kGrey);
