@@ -2,9 +2,9 @@
 // out: windows that open are cancelled at once, and no file of the machine is read.
 #include <sstream>
 
-#include "base/text_encoding.h"
 #include "fuzz/cancelling_user.h"
 #include "fuzz/fuzz_folder.h"
+#include "fuzz/script_lines.h"
 #include "shell/form_script.h"
 
 using namespace zandrell;
@@ -22,13 +22,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }();
     std::ostringstream dumps;
     FormScript script(*form, dumps);
-    std::istringstream lines(DecodeText(fuzz::Bytes(data, size)));
-    int count = 0;
-    for (std::string line; std::getline(lines, line) && ++count <= 8;) {
-        if (line.find("fill") != std::string::npos) continue;
-        std::string error;
-        const bool done = script.RunLine(line, error);
-        fuzz::Require(done || !error.empty());
-    }
+    fuzz::RunLines(script, std::string(fuzz::Bytes(data, size)));
     return 0;
 }
