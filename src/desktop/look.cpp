@@ -89,6 +89,7 @@ QPushButton[quiet="true"] { border: 1px solid transparent; background: transpare
                             padding: 0.133em; }
 QPushButton[quiet="true"]:hover { background: rgba(11, 92, 122, 36); }
 QPushButton[quiet="true"]:focus { border: 0.133em solid @accent; padding: 1px; }
+QPushButton::menu-indicator { image: none; width: 0; }
 
 QSlider { min-height: 1.2em; }
 QSlider::groove:horizontal { height: 0.267em; border-radius: 0.133em; background: @border; }

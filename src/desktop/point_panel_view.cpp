@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "desktop/choice_button.h"
 #include "desktop/panel_builder.h"
 
 namespace zandrell {
@@ -42,18 +43,38 @@ void AddFigureRow(PanelBuilder& build, QGridLayout& grid, int row, const Label& 
     if (mixture) grid.addWidget(build.Figure(*mixture, caption, kMixture), row, kMixtureColumn);
 }
 
-QGridLayout* MakeStateGrid(PointPanel& panel, PanelBuilder& build) {
+// The figures by which a state is given stand below those that follow, each under its word.
+void AddEntryRows(const StateEntry& entry, PanelBuilder& build, QGridLayout& grid, int row,
+                  int column, const QString& state) {
+    for (const auto& [word, field] :
+         {std::pair(&entry.first_word, &entry.first), {&entry.second_word, &entry.second}}) {
+        grid.addWidget(build.Caption(*word), row, column);
+        grid.addWidget(build.Field(*field, *word, state), row + 1, column);
+        row += 2;
+    }
+}
+
+QGridLayout* MakeStateGrid(PointPanel& panel, PanelBuilder& build, FormMirror& mirror,
+                           QWidget* parent) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
     grid->setVerticalSpacing(3);
     AddHeads(panel, build, *grid);
-    AddTypedRow(build, *grid, 1, panel.Label35, panel.Temp1, panel.Tscroll1, panel.Temp2,
+    for (const auto& [entry, column, state] : {std::tuple{&panel.entry1, kFirstColumn, kFirst},
+                                               {&panel.entry2, kSecondColumn, kSecond}}) {
+        auto* button = MakeChoiceButton(entry->choice, state, mirror, parent);
+        mirror.Follow(button, panel.Label35);
+        grid->addWidget(button, 1, column, Qt::AlignCenter);
+    }
+    AddTypedRow(build, *grid, 2, panel.Label35, panel.Temp1, panel.Tscroll1, panel.Temp2,
                 panel.Tscroll2, &panel.TempM);
-    AddTypedRow(build, *grid, 3, panel.Label36, panel.relF1, panel.FScroll1, panel.relF2,
+    AddTypedRow(build, *grid, 4, panel.Label36, panel.relF1, panel.FScroll1, panel.relF2,
                 panel.FScroll2, &panel.relFM);
-    AddFigureRow(build, *grid, 5, panel.label37, panel.absF1, panel.absF2, &panel.absFM);
-    AddFigureRow(build, *grid, 6, panel.enthPN, panel.enth1, panel.enth2, nullptr);
-    AddTypedRow(build, *grid, 7, panel.Label33, panel.LuftM1, panel.VScroll1, panel.LuftM2,
+    AddFigureRow(build, *grid, 6, panel.label37, panel.absF1, panel.absF2, &panel.absFM);
+    AddFigureRow(build, *grid, 7, panel.enthPN, panel.enth1, panel.enth2, nullptr);
+    AddEntryRows(panel.entry1, build, *grid, 8, kFirstColumn, kFirst);
+    AddEntryRows(panel.entry2, build, *grid, 8, kSecondColumn, kSecond);
+    AddTypedRow(build, *grid, 12, panel.Label33, panel.LuftM1, panel.VScroll1, panel.LuftM2,
                 panel.Vscroll2, nullptr);
     grid->setColumnStretch(kCaptionColumn, 1);
     return grid;
@@ -101,7 +122,7 @@ FloatingPanel* MakePointPanelView(MainForm& form, FormMirror& mirror, ChartWidge
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(layout->spacing());
-    column->addLayout(MakeStateGrid(panel, build));
+    column->addLayout(MakeStateGrid(panel, build, mirror, content));
     column->addWidget(MakeCapacityPanel(panel, mirror, content));
     column->addLayout(MakeFooter(panel, build, form.controls.wrgEinst));
     view->SetContent(content);

@@ -50,6 +50,8 @@ void PointPanel::ListControls(Form& form) {
     form.Add({&TempM, &relFM, &absFM});
     form.Add({&Tscroll1, &FScroll1, &Tscroll2, &FScroll2, &VScroll1, &Vscroll2});
     form.Add({&VolBer, &VolBer_l, &wrgButt, &Command3D4, &abbcom, &Picture3});
+    entry1.ListControls(form);
+    entry2.ListControls(form);
 }
 
 void PointPanel::ShowForMode(Calculation mode) {
@@ -69,6 +71,8 @@ void PointPanel::ShowForMode(Calculation mode) {
         .reset();  // the red of an impossible humidity belongs to the tool that was left
     TakeBarRanges();
     taken_.Take();
+    entry2.worked_out = IsTool(mode);
+    FollowStates();
     Anlage1PN.visible = true;
 }
 
@@ -110,6 +114,7 @@ void PointPanel::ZustandRechnen(Calculation mode, MarkPlacing marke) {
     outcome_of_.Forget();
     Compute(mode, marke);
     taken_.Take();
+    FollowStates();
 }
 
 void PointPanel::Compute(Calculation mode, MarkPlacing marke) {

@@ -12,13 +12,14 @@
 #include "processes/process_context.h"
 #include "processes/process_states.h"
 #include "processes/state_change.h"
+#include "processes/state_entry.h"
 
 namespace zandrell {
 
 // The floating panel of two air states: state change, capacity, mixing and the four tools.
 class PointPanel {
   public:
-    explicit PointPanel(const ProcessContext& context) : context_(context) {}
+    explicit PointPanel(const ProcessContext& context);
     PointPanel(const PointPanel&) = delete;  // its records know its fields
     PointPanel& operator=(const PointPanel&) = delete;
 
@@ -37,6 +38,7 @@ class PointPanel {
     ScrollBar Tscroll1{"Tscroll1"}, FScroll1{"FScroll1"}, Tscroll2{"Tscroll2"},
         FScroll2{"FScroll2"}, VScroll1{"VScroll1", 0, 200}, Vscroll2{"Vscroll2", 0, 200};
     Button VolBer{"VolBer", "brcaps.bmp"}, VolBer_l{"VolBer_l"}, wrgButt{"wrgButt"};
+    StateEntry entry1, entry2;
     Button Command3D4{"Command3D4", "OKcap.bmp"}, abbcom{"abbcom", "abcap.bmp"},
         Picture3{"Picture3"};
 
@@ -72,6 +74,9 @@ class PointPanel {
     // The same with the rounding of the flow taken out of the three capacities again.
     void VolumeFromCapacity(Calculation mode);
 
+    // Brings the figures by which the states are given in line with them.
+    void FollowStates();
+
     // Marks the fields that are not used or not confirmed, and the figures of other inputs.
     void NoteFields();
 
@@ -91,6 +96,7 @@ class PointPanel {
     static void TakeFlowStep(const FlowInput& flow);
 
     void BindState(ActTable& acts, TextField& field, ScrollBar& bar);
+    void BindEntry(ActTable& acts, StateEntry& entry);
     void BindFlow(ActTable& acts, const FlowInput& flow);
     void FollowBar(TextField& field, double value, bool echoes);
 
@@ -150,6 +156,7 @@ class PointPanel {
     TakenTexts taken_{&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2, &Kleist};
     TakenTexts states_of_{&Temp1, &relF1, &Temp2, &relF2};
     TakenTexts outcome_of_{&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2};
+    bool bars_run_nothing_ = false;
     bool capacity_refused_ = false;  // no flow gives what was asked for
     // Of the two states; kept while the inputs are outside the limits, and so are the figures.
     double enthalpy1_ = 0, enthalpy2_ = 0;  // kJ/kg

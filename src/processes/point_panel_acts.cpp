@@ -8,6 +8,8 @@ void PointPanel::BindActs(ActTable& acts) {
     BindState(acts, Temp2, Tscroll2);
     BindState(acts, relF1, FScroll1);
     BindState(acts, relF2, FScroll2);
+    BindEntry(acts, entry1);
+    BindEntry(acts, entry2);
     BindFlow(acts, FirstFlow());
     BindFlow(acts, SecondFlow());
     const auto take_capacity = [this] { VolumeFromCapacity(context_.Rechenmodus); };
@@ -23,7 +25,7 @@ void PointPanel::BindState(ActTable& acts, TextField& field, ScrollBar& bar) {
         ZustandRechnen(context_.Rechenmodus, MarkPlacing::FromFields);
     });
     bar.on_change = [this, &bar, &field] {
-        if (!IsPointMode(context_.Rechenmodus)) return;
+        if (bars_run_nothing_ || !IsPointMode(context_.Rechenmodus)) return;
         FollowBar(field, bar.Position() / kBarUnitsPerField, true);
     };
 }

@@ -27,6 +27,8 @@ void PointPanel::NoteFields() {
             notes.MarkUsed(*field);
         }
     }
+    entry1.NoteFields(notes);
+    entry2.NoteFields(notes);
 }
 
 std::optional<Refusal> PointPanel::RefusalOf(const TextField& field) const {

@@ -28,6 +28,7 @@ void InputKeeper::AlignBars() {
     // Ranges first: a position outside its range is refused.
     processes_.point.TakeBarRanges();
     processes_.point.SchieberAbgleich();
+    processes_.point.FollowStates();
     processes_.plant.TakeBarsFromFields();
     processes_.Rechenmodus = mode;
 }

@@ -149,6 +149,8 @@ void SetPointPanelCaptions(PointPanel& p, const Captions& words) {
     p.VolBer.tool_tip = p.VolBer_l.tool_tip = words[Caption::Calculate] + " " +
                                               words[Caption::AirFlow] + " " +
                                               words[Caption::AirFlowSecond];
+    p.entry1.SetWords();
+    p.entry2.SetWords();
     p.Command3D4.text = "O.K.";
     p.abbcom.text = words[Caption::Cancel];
     p.wrgButt.tool_tip = HeatRecoveryWord(words);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/choice_list.h"
+
 namespace zandrell {
 namespace {
 
@@ -28,6 +30,9 @@ InputSnapshot UndoKeeper::Inputs() const {
         } else if (control->kind == ControlKind::OptionButton) {
             const bool on = static_cast<const OptionButton*>(control)->on;
             snapshot[std::string(control->name)] = on ? kOn : kOff;
+        } else if (control->kind == ControlKind::ComboBox) {
+            const int chosen = static_cast<const ComboBox*>(control)->index;
+            snapshot[std::string(control->name)] = std::to_string(chosen);
         }
     }
     snapshot[kSettings] = settings_;
@@ -119,6 +124,9 @@ void UndoKeeper::RestoreControls(const InputSnapshot& snapshot) {
         if (control->kind == ControlKind::TextField) control->text = found->second;
         if (control->kind == ControlKind::OptionButton) {
             static_cast<OptionButton*>(control)->on = found->second == kOn;
+        }
+        if (control->kind == ControlKind::ComboBox) {
+            static_cast<ComboBox*>(control)->Choose(std::stoi("0" + found->second));
         }
     }
     window_.inputs.TakeProjectTexts();
