@@ -330,16 +330,15 @@ TEST(Exact, FogLinesLieWhereTheirEnthalpyIs) {
         chart.Paint();
         double h = 0;
         int water = 0, ice = 0, numbers = 0;
-        const auto& all = chart.engine.picture.Operations();
-        for (std::size_t i = 0; i < all.size(); ++i) {
-            if (all[i].text.find("kg/m³") != std::string::npos) break;
-            if (all[i].text.find("kJ/kg") != std::string::npos) {
-                h = ParsedNumber(all[i].text.substr(0, all[i].text.find('k')));
+        for (const CanvasOperation& drawn : chart.engine.picture.Operations()) {
+            if (drawn.text.find("kg/m³") != std::string::npos) break;
+            if (drawn.text.find("kJ/kg") != std::string::npos) {
+                h = ParsedNumber(drawn.text.substr(0, drawn.text.find('k')));
                 ++numbers;
                 continue;
             }
-            if (numbers == 0 || all[i].stroke != Stroke::Line || all[i].colour != kGrey) continue;
-            const auto states = StatesAlong(chart, all[i]);
+            if (numbers == 0 || drawn.stroke != Stroke::Line || drawn.colour != kGrey) continue;
+            const auto states = StatesAlong(chart, drawn);
             if (HumidityAt(chart, states[1]) < 101) continue;  // a line in air
             if (std::abs(states[1].t) < 0.3) continue;
             ++(states[1].t > 0 ? water : ice);
@@ -350,7 +349,7 @@ TEST(Exact, FogLinesLieWhereTheirEnthalpyIs) {
         EXPECT_GE(water, 300);
         EXPECT_GE(ice, 50);
         const auto& before = without.engine.picture.Operations();
-        EXPECT_GT(all.size(), before.size() + 300U);
+        EXPECT_GT(chart.engine.picture.Operations().size(), before.size() + 300U);
     }
 }
 
