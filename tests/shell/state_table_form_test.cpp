@@ -137,7 +137,7 @@ TEST(StateTable, IsSortedCopiedAndSaved) {
         table.copy_text = [&copied](const std::string& text) { copied = text; };
         EXPECT_TRUE(table.UserSort("States", 1));  // by temperature
         EXPECT_TRUE(table.UserClick("CopyStates"));
-        table.ask_file = [&] { return file; };
+        table.ask_file = [&] { return (folder / "states.csv").string(); };
         EXPECT_TRUE(table.UserClick("SaveStates"));
         EXPECT_EQ(table.Message.text, "Saved " + file);
         table.ask_file = [&] { return (folder / "none" / "states.csv").string(); };
