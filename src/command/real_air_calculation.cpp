@@ -60,9 +60,11 @@ std::string ReasonOf(const PairAnswer& answer, const std::array<std::size_t, 2>&
         case PairEnd::FirstOutside:
             return LimitText(places[0], *given[places[0]], answer);
         case PairEnd::SecondOutside:
+            return LimitText(places[1], *given[places[1]], answer);
+        case PairEnd::Contradicting:
             return LimitText(places[1], *given[places[1]], answer) + ", with this " + first;
         case PairEnd::OutsideModel:
-            if (!(p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar)) {
+            if (!RealAirKnowsPressure(p_bar)) {
                 std::string text = "p = ";
                 AppendNumber(text, p_bar);
                 return text + " is outside 0.5..2 bar";

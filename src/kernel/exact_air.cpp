@@ -198,9 +198,10 @@ std::optional<double> ExactAir::XFromEnthalpy(double t, double h) const {
     };
     const double dry = missing(0);
     if (!(dry >= 0 && missing(most) <= 0) || !known) return std::nullopt;
+    constexpr double kBend = 1e-5;  // per g/kg, by the forces between the molecules
     const double slope = kLatent + kHeatOfVapour * t;
     const auto near =
-        RootBySlope(std::clamp(dry / slope, 0.0, most), -slope, 0, most, kClose, missing);
+        RootByCourse(std::clamp(dry / slope, 0.0, most), {-slope, kBend}, 0, most, kClose, missing);
     return near ? *near : RootOfFalling(0, most, kCloseEnough, missing);
 }
 

@@ -14,6 +14,12 @@ namespace zandrell {
 inline constexpr double kRealAirLowest = -60, kRealAirHighest = 100;      // degC
 inline constexpr double kRealAirLowestBar = 0.5, kRealAirHighestBar = 2;  // bar
 inline constexpr double kRealAirMostX = 10000;                            // g/kg
+constexpr bool RealAirKnowsPressure(double p_bar) {
+    return p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar;
+}
+constexpr bool RealAirKnows(double t, double p_bar) {
+    return t >= kRealAirLowest && t <= kRealAirHighest && RealAirKnowsPressure(p_bar);
+}
 // x of as many moles of vapour as of dry air, g/kg.
 inline constexpr double kRealAirRatio = 1000 * 18.015268 / 28.966;
 inline constexpr double kRealAirMostWater =
@@ -48,10 +54,10 @@ std::optional<RealAirState> EvaluateRealAir(double relF, double t, double p_bar)
 // `enhancement` is left at 1. Empty outside the limits.
 std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar);
 
-// Saturated air and the enthalpy of the water that wets it at its temperature and pressure, of ice
-// up to 0.01 degC, of liquid water above, kJ/kg. Empty as EvaluateRealAir.
+// Saturated air (g/kg, kJ/kg) and the enthalpy of the water that wets it at its temperature and
+// pressure, of ice up to 0.01 degC, of liquid water above, kJ/kg. Empty as EvaluateRealAir.
 struct SaturatedRealAir {
-    RealAirState air;
+    double x = 0, enthalpy = 0;
     double condensed_enthalpy = 0;
 };
 std::optional<SaturatedRealAir> EvaluateSaturatedAir(double t, double p_bar);

@@ -232,7 +232,7 @@ class PairSearch {
     // Between which values the second figure would lie with the first as it is.
     PairAnswer Outside(GivenFigure kept, GivenFigure other, const Way& way, GivenFigure first,
                        GivenFigure second) const {
-        PairAnswer answer{PairEnd::SecondOutside};
+        PairAnswer answer{PairEnd::Contradicting};
         if (kept.figure == first.figure) {
             const auto low = PointOn(kept, way.low), high = PointOn(kept, way.high);
             if (!low || !high) return {PairEnd::OutsideModel};
@@ -257,7 +257,7 @@ class PairSearch {
         const double x = saturated->x + 1000 * (enthalpy - saturated->enthalpy) / water;
         const double dry = saturated->enthalpy - saturated->x / 1000 * water;
         if (!(x >= -kRounding && x <= saturated->x * (1 + kRounding))) {
-            return {PairEnd::SecondOutside,
+            return {PairEnd::Contradicting,
                     {},
                     std::min(dry, saturated->enthalpy),
                     std::max(dry, saturated->enthalpy)};
@@ -299,7 +299,7 @@ std::optional<double> FigureOf(AirFigure figure, const RealAirPoint& point, doub
 }
 
 PairAnswer RealAirFromPair(GivenFigure first, GivenFigure second, double p_bar) {
-    if (!(p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar)) return {};
+    if (!RealAirKnowsPressure(p_bar)) return {};
     return PairSearch(p_bar).Answer(first, second);
 }
 

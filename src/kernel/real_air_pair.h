@@ -34,15 +34,16 @@ enum class PairEnd {
     Found,
     NotIndependent,  // the two tell the same: x, dew point and vapour pressure do, and enthalpy
                      // and wet bulb where the water that evaporates brings next to nothing
-    FirstOutside,    // the first figure alone lies outside the model
-    SecondOutside,   // with the first as it is the second lies between `least` and `most`
+    FirstOutside,    // the first figure lies outside the model, whatever the second is
+    SecondOutside,   // the second, whatever the first is
+    Contradicting,   // with the first as it is the second lies between `least` and `most`
     OutsideModel     // the pressure, or no state of the model has the first figure
 };
 
 struct PairAnswer {
     PairEnd end = PairEnd::OutsideModel;
     std::optional<RealAirPoint> point{};
-    double least = 0, most = 0;  // of FirstOutside and SecondOutside
+    double least = 0, most = 0;  // of the figure that lies outside
 };
 
 // p_bar as of EvaluateRealAir. For states up to saturation.

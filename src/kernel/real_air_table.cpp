@@ -2,28 +2,22 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <span>
 
 #include "kernel/interpolation.h"
 #include "kernel/real_air.h"
 #include "kernel/real_air_fits.h"
+#include "kernel/real_air_polynomial.h"
+#include "kernel/root.h"
 
 namespace zandrell {
 namespace {
-
-constexpr double kTriplePoint = 273.16, kOffset = 273.15;  // K
 
 // A figure and T times its slope.
 struct Sloped {
     double value = 0, slope = 0;
 };
-
-template <typename Coefficients>
-double ValueAt(const Coefficients& coefficients, double w) {
-    double value = 0;
-    for (std::size_t i = coefficients.size(); i-- > 0;) value = value * w + coefficients[i];
-    return value;
-}
 
 template <typename Coefficients>
 Sloped SlopedAt(const Coefficients& coefficients, double w) {
@@ -48,26 +42,32 @@ struct Virials {
     Sloped aa, aw, ww, aaa, aaw, aww, www;
 };
 
-double VariableAt(double t) { return kTriplePoint / (t + kOffset) - 1; }
+// A polynomial of degree 7 by halves, whose terms do not wait for each other.
+template <typename Coefficient>
+auto ByHalves(double place, const Coefficient& c) {
+    const double square = place * place, fourth = square * square;
+    return ((c(7) * place + c(6)) * square + (c(5) * place + c(4))) * fourth +
+           ((c(3) * place + c(2)) * square + (c(1) * place + c(0)));
+}
 
 }  // namespace
 
 // The terms of RP-1485 with y = 1 - b, ordered by powers of b.
 RealAirTable::Saturation RealAirTable::SaturationByFits(double t) {
-    const double w = VariableAt(t);
+    const double w = FitVariable(t);
     const Virials v(w);
     const double aa = v.aa.value, aw = v.aw.value, ww = v.ww.value;
     const double aaa = v.aaa.value, aaw = v.aaw.value, aww = v.aww.value, www = v.www.value;
     const bool ice = t <= kIceUpTo;
     Saturation s;
     s.pressure = RealSaturationPressure(t);
-    s.condensed_volume = ValueAt(ice ? std::span<const double>(real_air::kIceVolume)
-                                     : std::span<const double>(real_air::kLiquidVolume),
+    s.condensed_volume = FitAt(ice ? std::span<const double>(real_air::kIceVolume)
+                                   : std::span<const double>(real_air::kLiquidVolume),
+                               w);
+    s.condensed_enthalpy = FitAt(ice ? std::span<const double>(real_air::kIceEnthalpy)
+                                     : std::span<const double>(real_air::kLiquidEnthalpy),
                                  w);
-    s.condensed_enthalpy = ValueAt(ice ? std::span<const double>(real_air::kIceEnthalpy)
-                                       : std::span<const double>(real_air::kLiquidEnthalpy),
-                                   w);
-    s.henry = ice ? 0 : ValueAt(real_air::kHenry, w);
+    s.henry = ice ? 0 : FitAt(real_air::kHenry, w);
     s.volume = s.condensed_volume - ww;
     s.square = (ww * ww - www) / 2;
     s.first = aa - 2 * aw + ww;
@@ -80,7 +80,7 @@ RealAirTable::Saturation RealAirTable::SaturationByFits(double t) {
 }
 
 RealAirTable::Gas RealAirTable::GasByFits(double t) {
-    const double w = VariableAt(t);
+    const double w = FitVariable(t);
     const Virials v(w);
     const auto second = [](const Sloped& b) { return b.value - b.slope; };
     const auto third = [](const Sloped& c) { return c.value - c.slope / 2; };
@@ -98,13 +98,8 @@ RealAirTable::Gas RealAirTable::GasByFits(double t) {
             third(v.aaw),
             third(v.aww),
             third(v.www),
-            ValueAt(real_air::kAirEnthalpy, w),
-            ValueAt(real_air::kVapourEnthalpy, w)};
-}
-
-const RealAirTable& RealAirTable::Get() {
-    static const RealAirTable table;
-    return table;
+            FitAt(real_air::kAirEnthalpy, w),
+            FitAt(real_air::kVapourEnthalpy, w)};
 }
 
 namespace {
@@ -112,15 +107,23 @@ namespace {
 constexpr double kIceWidth = (RealAirTable::kIceUpTo - RealAirTable::kLowest) / 10;
 constexpr double kLiquidWidth = (RealAirTable::kHighest - RealAirTable::kIceUpTo) / 17;
 
+// The cells over liquid water and over ice, looked up rather than branched to: which it is changes
+// from state to state.
+struct Side {
+    double start = 0, per_width = 0;
+    int first = 0, last = 0;
+};
+constexpr Side kSides[] = {{RealAirTable::kIceUpTo, 1 / kLiquidWidth, 10, 26},
+                           {RealAirTable::kLowest, 1 / kIceWidth, 0, 9}};
+
 }  // namespace
 
 RealAirTable::Place RealAirTable::PlaceOf(double t) {
     static_assert(kIceCells == 10 && kCells == 27);
-    const bool ice = t <= kIceUpTo;
-    const double cells = ice ? (t - kLowest) / kIceWidth : (t - kIceUpTo) / kLiquidWidth;
-    const std::size_t last = ice ? kIceCells - 1 : kCells - kIceCells - 1;
-    const std::size_t cell = std::min(static_cast<std::size_t>(cells), last);
-    return {cell + (ice ? 0 : kIceCells), 2 * (cells - static_cast<double>(cell)) - 1};
+    const Side& side = kSides[t <= kIceUpTo ? 1 : 0];
+    const double cells = (t - side.start) * side.per_width;
+    const int cell = std::min(static_cast<int>(cells), side.last - side.first);
+    return {static_cast<std::size_t>(side.first + cell), 2 * (cells - cell) - 1};
 }
 
 RealAirTable::RealAirTable() {
@@ -150,19 +153,48 @@ RealAirTable::RealAirTable() {
         fill(cells_[cell].saturation, [&](double place) { return SaturationByFits(t(place)); });
         fill(cells_[cell].gas, [&](double place) { return GasByFits(t(place)); });
     }
+    InvertSaturation();
 }
 
-// Polynomials of degree 7 by halves, whose terms do not wait for each other.
+void RealAirTable::InvertSaturation() {
+    constexpr double kClose = 1e-13;  // of a logarithm
+    log_triple_ = std::log(kTriplePressure);
+    const auto log_pressure = [this](double t) {
+        return std::log(RealSaturationPressure(t)) - log_triple_;
+    };
+    log_lowest_ = log_pressure(kLowest);
+    log_highest_ = log_pressure(kHighest);
+    const Interpolation<kNodes> nodes;
+    constexpr std::size_t half = kInverseCells / 2;
+    cells_per_log_ = {half / log_highest_, -(half / log_lowest_)};
+    for (std::size_t cell = 0; cell < kInverseCells; ++cell) {
+        const bool ice = cell < half;
+        const double width = (ice ? -log_lowest_ : log_highest_) / half;
+        const double middle = width * (static_cast<double>(cell) - half + 0.5);
+        std::array<double, kNodes> temperatures{};
+        for (std::size_t i = 0; i < kNodes; ++i) {
+            const double l = middle + Interpolation<kNodes>::Node(i) * width / 2;
+            temperatures[i] = RootOfFalling(ice ? kLowest : kIceUpTo, ice ? kIceUpTo : kHighest,
+                                            kClose, [&](double t) { return l - log_pressure(t); });
+        }
+        inverse_[cell] = nodes.Powers(temperatures);
+    }
+}
+
+std::optional<double> RealAirTable::SaturationTemperatureAt(double log_pressure) const {
+    if (!(log_pressure >= log_lowest_ && log_pressure <= log_highest_)) return std::nullopt;
+    constexpr int half = kInverseCells / 2, last = kInverseCells - 1;
+    const double cells = half + log_pressure * cells_per_log_[log_pressure < 0 ? 1 : 0];
+    const int cell = std::min(static_cast<int>(cells), last);
+    const auto& powers = inverse_[static_cast<std::size_t>(cell)];
+    return ByHalves(2 * (cells - cell) - 1, [&](std::size_t power) { return powers[power]; });
+}
+
 template <std::size_t figures>
 std::array<double, figures> RealAirTable::Sums(const Powers<figures>& powers, double place) {
-    const double square = place * place, fourth = square * square;
     std::array<double, figures> sums{};
     for (std::size_t i = 0; i < figures / 2; ++i) {
-        const Pair sum = ((powers[7][i] * place + powers[6][i]) * square +
-                          (powers[5][i] * place + powers[4][i])) *
-                             fourth +
-                         ((powers[3][i] * place + powers[2][i]) * square +
-                          (powers[1][i] * place + powers[0][i]));
+        const Pair sum = ByHalves(place, [&](std::size_t power) { return powers[power][i]; });
         sums[2 * i] = sum[0];
         sums[2 * i + 1] = sum[1];
     }
@@ -172,6 +204,12 @@ std::array<double, figures> RealAirTable::Sums(const Powers<figures>& powers, do
 RealAirTable::Saturation RealAirTable::SaturationAt(double t) const {
     const Place at = PlaceOf(t);
     return std::bit_cast<Saturation>(Sums<kSaturation>(cells_[at.cell].saturation, at.place));
+}
+
+double RealAirTable::SaturationPressureAt(double t) const {
+    const Place at = PlaceOf(t);
+    const auto& powers = cells_[at.cell].saturation;
+    return ByHalves(at.place, [&](std::size_t power) { return powers[power][0][0]; });
 }
 
 RealAirTable::Gas RealAirTable::GasAt(double t) const {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 
 namespace zandrell {
 
@@ -12,6 +13,7 @@ namespace zandrell {
 class RealAirTable {
   public:
     static constexpr double kLowest = -60, kIceUpTo = 0.01, kHighest = 102;  // degC
+    static constexpr double kTriplePressure = 611.657;                       // Pa
 
     // Of saturation: what ln f, the logarithm of the enhancement factor, is made of, with n and n_s
     // the pressure and the saturation pressure over R T in mol/cm3, b the mole fraction of the air:
@@ -34,11 +36,19 @@ class RealAirTable {
     };
 
     // Made at the first call, in some tenths of a millisecond.
-    static const RealAirTable& Get();
+    static const RealAirTable& Get() {
+        static const RealAirTable table;
+        return table;
+    }
 
     // Require: t from kLowest to kHighest.
     Saturation SaturationAt(double t) const;
+    double SaturationPressureAt(double t) const;  // Saturation::pressure alone
     Gas GasAt(double t) const;
+    // The temperature at which pure water has a saturation pressure, given by how far
+    // its logarithm is above that of the triple point, as far as the table reaches; else empty.
+    std::optional<double> SaturationTemperatureAt(double log_pressure) const;
+    double LogOfTriplePressure() const { return log_triple_; }
 
     // The same by the fits themselves.
     static Saturation SaturationByFits(double t);
@@ -66,7 +76,15 @@ class RealAirTable {
     template <std::size_t figures>
     static std::array<double, figures> Sums(const Powers<figures>& powers, double place);
 
+    void InvertSaturation();
+
     std::array<Cell, kCells> cells_{};
+
+    // Temperatures by the logarithm of the pressure, half of the cells for ice.
+    static constexpr std::size_t kInverseCells = 8;
+    std::array<std::array<double, kNodes>, kInverseCells> inverse_{};
+    double log_triple_ = 0, log_lowest_ = 0, log_highest_ = 0;
+    std::array<double, 2> cells_per_log_{};  // over water, over ice
 };
 
 }  // namespace zandrell

@@ -5,21 +5,15 @@
 
 #include "kernel/air_state.h"
 #include "kernel/real_air_fits.h"
+#include "kernel/real_air_polynomial.h"
+#include "kernel/real_air_table.h"
 #include "kernel/root.h"
 
 namespace zandrell {
 namespace {
 
-constexpr double kTriplePoint = 273.16;  // K
-constexpr double kIceUpTo = 0.01;        // degC
-constexpr double kCloseEnough = 1e-11;   // kJ/kg
-
-double PolynomialAt(const auto& coefficients, double t) {
-    const double w = kTriplePoint / (t + kKelvinOffset) - 1;
-    double value = 0;
-    for (std::size_t i = coefficients.size(); i-- > 0;) value = value * w + coefficients[i];
-    return value;
-}
+constexpr double kIceUpTo = 0.01;       // degC
+constexpr double kCloseEnough = 1e-11;  // kJ/kg
 
 // kJ/kg that water gains by being pressed together from saturation to p_bar.
 double Pressed(double volume_cm3_per_mol, double t, double p_bar) {
@@ -28,56 +22,144 @@ double Pressed(double volume_cm3_per_mol, double t, double p_bar) {
 }
 
 double LiquidEnthalpy(double t, double p_bar) {
-    return PolynomialAt(real_air::kLiquidEnthalpy, t) +
-           Pressed(PolynomialAt(real_air::kLiquidVolume, t), t, p_bar);
+    return FitAt(real_air::kLiquidEnthalpy, FitVariable(t)) +
+           Pressed(FitAt(real_air::kLiquidVolume, FitVariable(t)), t, p_bar);
 }
 
 double IceEnthalpy(double t, double p_bar) {
-    return PolynomialAt(real_air::kIceEnthalpy, t) +
-           Pressed(PolynomialAt(real_air::kIceVolume, t), t, p_bar);
+    return FitAt(real_air::kIceEnthalpy, FitVariable(t)) +
+           Pressed(FitAt(real_air::kIceVolume, FitVariable(t)), t, p_bar);
 }
 
-double Excess(const RealAirState& saturated, double water_h, double x, double enthalpy) {
-    return enthalpy - saturated.enthalpy + (saturated.x - x) / 1000 * water_h;
+double Excess(const SaturatedRealAir& saturated, double x, double enthalpy) {
+    return enthalpy - saturated.enthalpy + (saturated.x - x) * 0.001 * saturated.condensed_enthalpy;
 }
 
-// The highest temperature up to `t` with saturated air that the model knows.
-double HighestSaturated(double t, double p_bar) {
-    if (EvaluateRealAir(1, t, p_bar)) return t;
-    constexpr double kMostVapour = 0.9;  // of the pressure
-    return std::min(t, RealDewPoint(kMostVapour * 1e5 * p_bar, p_bar).value_or(kRealAirLowest));
-}
+enum class Bulb { Iced, Wet };
 
-// From a guess by steps, where only one of the two bulbs can be; else empty.
-std::optional<double> NearWetBulb(double t, double x, double enthalpy, double p_bar) {
-    constexpr double kAway = 2;       // K off 0 degC, where both bulbs may be solutions
-    constexpr double kClose = 1e-6;   // K, of a step; what is left is a thousandth of it
-    constexpr double kRatio = 621.9;  // g/kg
-    constexpr double kHeat = 1.006;   // kJ/(kg K)
-    constexpr double kLatent = 2.5;   // kJ/g
-    // Two steps with the equation of Magnus and constant heats bring it within some tenths.
-    double bulb = std::min(t, 60.0) - 5;
-    double slope = 1;
-    for (int i = 0; i < 4; ++i) {
-        const bool ice = bulb < 0;
-        const double a = ice ? 22.46 : 17.62, b = ice ? 272.62 : 243.12;
-        const double vapour = 0.006112 * std::exp(a * bulb / (b + bulb));
-        if (!(vapour < 0.8 * p_bar)) return std::nullopt;
-        const double x_s = kRatio * vapour / (p_bar - vapour);
-        const double rise = x_s * p_bar / (p_bar - vapour) * a * b / ((b + bulb) * (b + bulb));
-        slope = kHeat + kLatent * rise;
-        bulb += (kHeat * (t - bulb) + kLatent * (x - x_s)) / slope;
+// The wet bulbs of one state.
+class BulbSearch {
+  public:
+    BulbSearch(double t, double x, double enthalpy, double p_bar)
+        : t_(t), x_(x), enthalpy_(enthalpy), p_bar_(p_bar) {}
+
+    std::optional<WetBulb> Find() const {
+        // Where both are solutions they lie within about 1 K of 0 degC.
+        constexpr double kAway = 1.5, kBetween = 1;
+        const auto guess = Guessed(t_ < 0 ? Bulb::Iced : Bulb::Wet);
+        const bool wet_alone = guess && guess->t > kAway;
+        const bool iced_alone = guess && (t_ < 0 || guess->t < -kAway);
+        if (wet_alone) {
+            if (const auto wet = Near(guess, kBetween, kRealAirHighest)) return WetBulb{*wet, {}};
+        }
+        if (iced_alone) {
+            const auto iced = Near(t_ < 0 ? guess : Guessed(Bulb::Iced), kRealAirLowest,
+                                   t_ < 0 ? kIceUpTo : -kBetween);
+            if (iced) return WetBulb{*iced, {}};
+        }
+        const auto iced = Iced(), wet = Wet(guess);
+        if (!iced) return wet ? std::optional(WetBulb{*wet, {}}) : std::nullopt;
+        return WetBulb{*iced, wet};
     }
-    if (!(std::abs(bulb) > 2 * kAway)) return std::nullopt;
-    const bool ice = bulb < 0;
-    return RootBySlope(bulb, -slope, ice ? kRealAirLowest : kAway, ice ? -kAway : kRealAirHighest,
-                       kClose, [&](double at) {
-                           const auto saturated = EvaluateSaturatedAir(at, p_bar);
-                           return saturated ? Excess(saturated->air, saturated->condensed_enthalpy,
-                                                     x, enthalpy)
-                                            : 1e9;
-                       });
-}
+
+  private:
+    static constexpr double kRounding = 1e-9;  // kJ/kg; saturated air is its own wet bulb
+
+    struct Guess {
+        double t = 0;
+        Course course;  // of what the state has more than air saturated at t
+    };
+
+    // In ideal gases with the usual rise of the saturation pressure, some hundredths of a kelvin
+    // off. Empty where vapour makes most of the pressure.
+    std::optional<Guess> Guessed(Bulb bulb) const {
+        constexpr int kMostSteps = 10;
+        constexpr double kGood = 0.0004;         // K, more than what a step leaves
+        constexpr double kUsualRise = 0.004;     // of the saturation pressure, by a bar of air
+        constexpr double kRatio = 0.621945;      // kg/kg
+        constexpr double kGasConstant = 0.4615;  // of vapour, kJ/(kg K)
+        constexpr double kMostVapour = 0.8;      // of the pressure
+        const bool ice = bulb == Bulb::Iced;
+        const double heat = ice ? 1.0063 : 1.006;  // of air, kJ/(kg K)
+        const double latent_at_0 = ice ? 2834.4 : 2500.9, latent_slope = ice ? -0.25 : -2.34;
+        const double latent_bend = ice ? 0 : -0.00094;
+        const double water_at_0 = ice ? -333.4 : 0, water_slope = ice ? 2.07 : 4.19;
+        const auto& table = RealAirTable::Get();
+        const double per_bar = 1e-5 * (1 + kUsualRise * p_bar_), x = x_ / 1000;
+        double at = std::clamp(t_ - 5, kRealAirLowest, 60.0);
+        for (int i = 0; i < kMostSteps; ++i) {
+            const double vapour = per_bar * table.SaturationPressureAt(at);
+            if (!(vapour < kMostVapour * p_bar_)) return std::nullopt;
+            const double air = p_bar_ - vapour, per_T = 1 / (at + kKelvinOffset);
+            const double latent = latent_at_0 + (latent_slope + latent_bend * at) * at;
+            const double water = water_at_0 + water_slope * at;
+            // Clausius and Clapeyron: the slope of the logarithm of the pressure.
+            const double steep = latent / kGasConstant * per_T * per_T;
+            // The excess, its slope and half the second derivative, times `air` to the first,
+            // second and third power, which spares divisions one after the other.
+            const double carried = kRatio * latent * vapour;
+            const double excess = (enthalpy_ - heat * at - x * water) * air - carried;
+            const double rise = carried * steep * p_bar_, slope = heat * air * air + rise;
+            const double curve = 0.5 * rise * (steep * (p_bar_ + vapour) - 2 * per_T * air);
+            // Halley's step, as long as from far above the bend does not turn it round.
+            const double square = slope * slope, bent = curve * excess;
+            const double step = excess * air * slope / std::max(square + bent, 0.5 * square);
+            at = std::clamp(at + step, kRealAirLowest, kRealAirHighest);
+            if (std::abs(bent * bent * step) < kGood * square * square)
+                return Guess{at, {-slope / (air * air), curve / (slope * air)}};
+        }
+        return std::nullopt;
+    }
+
+    std::optional<double> Near(const std::optional<Guess>& guess, double low, double high) const {
+        if (!guess) return std::nullopt;
+        constexpr double kClose = 1e-9;  // K
+        return RootByCourse(std::clamp(guess->t, low, high), guess->course, low, high, kClose,
+                            [&](double at) {
+                                constexpr double kUnknown = 1e9;
+                                const auto saturated = EvaluateSaturatedAir(at, p_bar_);
+                                return saturated ? Excess(*saturated, x_, enthalpy_) : kUnknown;
+                            });
+    }
+
+    // What the state has more than air saturated at `bulb` over this water, 0 where there is none.
+    template <typename Water>
+    double Above(double bulb, Water water) const {
+        auto saturated = EvaluateSaturatedAir(bulb, p_bar_);
+        if (!saturated) return 0;
+        saturated->condensed_enthalpy = water(bulb, p_bar_);
+        return Excess(*saturated, x_, enthalpy_);
+    }
+
+    std::optional<double> Iced() const {
+        const auto above = [&](double bulb) { return Above(bulb, IceEnthalpy); };
+        const double most = t_ > kIceUpTo ? kIceUpTo : HighestSaturated();
+        if (!(above(most) <= kRounding)) return std::nullopt;
+        if (const auto near = Near(Guessed(Bulb::Iced), kRealAirLowest, kIceUpTo)) return near;
+        if (!(above(kRealAirLowest) >= 0)) return std::nullopt;
+        return RootOfFalling(kRealAirLowest, most, kCloseEnough, above);
+    }
+
+    std::optional<double> Wet(const std::optional<Guess>& guess) const {
+        constexpr double kOffIce = kIceUpTo + 1e-6;
+        const auto above = [&](double bulb) { return Above(bulb, LiquidEnthalpy); };
+        if (!(t_ > kIceUpTo && above(kIceUpTo) >= -kRounding)) return std::nullopt;
+        if (const auto near = Near(guess, kOffIce, kRealAirHighest)) return near;
+        const double highest = HighestSaturated();
+        if (!(highest > kIceUpTo && above(highest) <= kRounding)) return std::nullopt;
+        return RootOfFalling(kIceUpTo, highest, kCloseEnough, above);
+    }
+
+    // The highest temperature up to that of the state with saturated air that the model knows.
+    double HighestSaturated() const {
+        if (EvaluateRealAir(1, t_, p_bar_)) return t_;
+        constexpr double kMostVapour = 0.9;  // of the pressure
+        return std::min(t_,
+                        RealDewPoint(kMostVapour * 1e5 * p_bar_, p_bar_).value_or(kRealAirLowest));
+    }
+
+    double t_, x_, enthalpy_, p_bar_;
+};
 
 }  // namespace
 
@@ -88,34 +170,12 @@ double CondensedEnthalpy(double t, double p_bar) {
 std::optional<double> AboveWetBulb(double t_wet, double x, double enthalpy, double p_bar) {
     const auto saturated = EvaluateSaturatedAir(t_wet, p_bar);
     if (!saturated) return std::nullopt;
-    return Excess(saturated->air, saturated->condensed_enthalpy, x, enthalpy);
+    return Excess(*saturated, x, enthalpy);
 }
 
 std::optional<WetBulb> RealWetBulb(double t, double x, double enthalpy, double p_bar) {
-    if (!EvaluateRealAir(0, t, p_bar)) return std::nullopt;
-    const auto above = [&](auto water, double bulb) {
-        const auto saturated = EvaluateRealAir(1, bulb, p_bar);
-        return saturated ? Excess(*saturated, water(bulb, p_bar), x, enthalpy) : 0.0;
-    };
-    const auto iced = [&](double bulb) { return above(IceEnthalpy, bulb); };
-    const auto liquid = [&](double bulb) { return above(LiquidEnthalpy, bulb); };
-    if (const auto near = NearWetBulb(t, x, enthalpy, p_bar)) return WetBulb{*near, {}};
-    const double highest = HighestSaturated(t, p_bar);
-    const double most_iced = std::min(highest, kIceUpTo);
-    constexpr double kRounding = 1e-9;  // kJ/kg; saturated air is its own wet bulb
-    std::optional<WetBulb> found;
-    if (iced(kRealAirLowest) >= 0 && iced(most_iced) <= kRounding) {
-        found = WetBulb{RootOfFalling(kRealAirLowest, most_iced, kCloseEnough, iced), {}};
-    }
-    if (highest > kIceUpTo && liquid(kIceUpTo) >= -kRounding && liquid(highest) <= kRounding) {
-        const double wet = RootOfFalling(kIceUpTo, highest, kCloseEnough, liquid);
-        if (found) {
-            found->liquid = wet;
-        } else {
-            found = WetBulb{wet, {}};
-        }
-    }
-    return found;
+    if (!RealAirKnows(t, p_bar)) return std::nullopt;
+    return BulbSearch(t, x, enthalpy, p_bar).Find();
 }
 
 }  // namespace zandrell

@@ -33,26 +33,38 @@ double RootOfFalling(double low, double high, double close_enough, const Functio
     return (low + high) / 2;
 }
 
-// The root of a function that falls, found by its slope from `start`: `slope` tells it about right,
-// to a tenth, so that each step leaves a small part of the distance; steps behind the first take it
-// from the two values before. Empty when a step leads out of `low` to `high` or the steps do not
-// get small, which leaves it to the bracketing.
+// How a function runs near its root: its slope, about right to a hundredth, and its bend, half the
+// second derivative over the slope, about right to a fifth.
+struct Course {
+    double slope = 0, bend = 0;
+};
+
+// The root of a function that falls, from a start close by, with the parabola that the course tells
+// in place of the tangent; steps behind the first take the slope from the two values before. Ends
+// when what the bend can leave of it is within `close_enough`. Empty when a step leads out of `low`
+// to `high` or the steps do not get small, which leaves it to the bracketing.
 template <typename Function>
-std::optional<double> RootBySlope(double start, double slope, double low, double high,
-                                  double close_enough, const Function& function) {
+std::optional<double> RootByCourse(double start, Course course, double low, double high,
+                                   double close_enough, const Function& function) {
     constexpr int kMostSteps = 6;
-    double at = start, value = function(at);
+    constexpr double kLeftByBend = 0.2;
+    const double steep = course.slope * course.bend;
+    double per_slope = 1 / course.slope;
+    double at = start, value = function(at), last = 1 / (kLeftByBend * course.bend);
     for (int i = 0; i < kMostSteps; ++i) {
-        const double step = -value / slope;
+        const double straight = -value * per_slope;
+        const double step = straight * (1 - course.bend * straight);
         const double next = at + step;
         if (!(next >= low && next <= high)) return std::nullopt;
         at = next;
-        if (std::abs(step) < close_enough) return at;
+        if (std::abs(step * last * course.bend) * kLeftByBend < close_enough) return at;
         const double found = function(at);
         if (std::abs(found) > std::abs(value)) return std::nullopt;
-        const double secant = (found - value) / step;
-        if (secant < 0 && std::isfinite(secant)) slope = secant;
+        // Between two places the function falls as in their middle.
+        const double across = step / (found - value + steep * step * step);
+        if (across < 0 && std::isfinite(across)) per_slope = across;
         value = found;
+        last = step;
     }
     return std::nullopt;
 }

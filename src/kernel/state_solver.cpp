@@ -4,8 +4,6 @@
 #include "kernel/state_arithmetic.h"
 
 namespace zandrell {
-namespace {}  // namespace
-
 struct StateSolver::Kept {
     WaterAirTables tables;
     FileStatus coefficient_status = FileStatus::Missing;

@@ -92,18 +92,18 @@ TEST(RealAirPair, SaysWhatContradictsItself) {
         PairEnd end;
         double least, most;  // of the figure at fault
     } rows[] = {
-        {{Temperature, 25}, {WetBulb, 26}, PairEnd::SecondOutside, 8.24, 25},
-        {{Temperature, 25}, {DewPoint, 25.5}, PairEnd::SecondOutside, -100, 25},
+        {{Temperature, 25}, {WetBulb, 26}, PairEnd::Contradicting, 8.24, 25},
+        {{Temperature, 25}, {DewPoint, 25.5}, PairEnd::Contradicting, -100, 25},
         {{Temperature, 25}, {HumidityRatio, -1}, PairEnd::SecondOutside, 0, 10000},
-        {{Temperature, 25}, {HumidityRatio, 21}, PairEnd::SecondOutside, 0, 20.17},
-        {{WetBulb, 26}, {Temperature, 25}, PairEnd::SecondOutside, 26, 77.9},
+        {{Temperature, 25}, {HumidityRatio, 21}, PairEnd::Contradicting, 0, 20.17},
+        {{WetBulb, 26}, {Temperature, 25}, PairEnd::Contradicting, 26, 77.9},
         {{Temperature, 25}, {RelativeHumidity, 1.2}, PairEnd::SecondOutside, 0, 1},
         {{Temperature, 101}, {Enthalpy, 50}, PairEnd::FirstOutside, -60, 100},
         {{HumidityRatio, 5}, {DewPoint, 4}, PairEnd::NotIndependent, 0, 0},
         {{Enthalpy, 50}, {Enthalpy, 50}, PairEnd::NotIndependent, 0, 0},
         {{Temperature, kNan}, {Enthalpy, 50}, PairEnd::FirstOutside, -60, 100},
         {{Temperature, 20}, {Enthalpy, kNan}, PairEnd::SecondOutside, -1e300, 1e300},
-        {{Enthalpy, 50}, {Density, 3}, PairEnd::SecondOutside, 1.0, 1.3},
+        {{Enthalpy, 50}, {Density, 3}, PairEnd::Contradicting, 1.0, 1.3},
     };
     for (const auto& row : rows) {
         const auto answer = RealAirFromPair(row.first, row.second, 1.01325);

@@ -118,7 +118,7 @@ TEST(RealAir, DewPointIsTheTemperatureAtSaturation) {
             if (!state) break;  // close to boiling
             const auto found = RealDewPoint(state->vapour_pressure, p);
             ASSERT_TRUE(found) << t;
-            EXPECT_NEAR(*found, t, 1e-7) << t << " " << p;
+            EXPECT_NEAR(*found, t, 1e-8) << t << " " << p;
         }
     }
 }
