@@ -3,15 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <ostream>
-#include <sstream>
 #include <stdexcept>
 
 #include "base/shared_values.h"
-#include "base/text_encoding.h"
-#include "base/text_helpers.h"
-#include "canvas/canvas.h"
-#include "command/table_cells.h"
-#include "selection/catalogue.h"
+#include "command/typed_options.h"
 
 namespace zandrell {
 namespace {
@@ -90,121 +85,6 @@ constexpr const char* kExamples =
     "  zandrell-calc capacity 600 LeistFaktor=0.92\n"
     "  zandrell-calc capacity 650 --duties rooms.csv";
 
-// The options as they were typed; a decimal comma is as good as a point in them.
-struct TypedOptions {
-    std::string data, t, rh, p, air, kind, size, zoom, convention, duties;
-    std::array<std::string, kPairFigures> figures;  // t and rh stand in their own
-    std::vector<std::string> inputs;
-};
-
-[[noreturn]] void Refuse(const std::string& reason) { throw std::invalid_argument(reason); }
-
-double NumberOf(const std::string& option, const std::string& text) {
-    const auto number = NumberInCell(text);
-    if (!number) Refuse(option + ": no number: \"" + Excerpt(text) + "\"");
-    return *number;
-}
-
-std::vector<double> NumbersOf(const std::string& option, const std::string& text, char separator) {
-    std::vector<double> numbers;
-    std::istringstream stream(text);
-    for (std::string part; std::getline(stream, part, separator);) {
-        numbers.push_back(NumberOf(option, part));
-    }
-    return numbers;
-}
-
-void TakeState(const TypedOptions& typed, CommandLine& line) {
-    if (typed.t.empty() && typed.rh.empty() && typed.p.empty()) return;
-    if (typed.t.empty() || typed.rh.empty()) Refuse("one state needs both --t and --rh");
-    StateOptions state;
-    state.t = NumberOf("--t", typed.t);
-    state.rh = NumberOf("--rh", typed.rh);
-    if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
-    line.state = state;
-}
-
-std::string OptionOf(std::string_view figure) {
-    std::string option = "--" + std::string(figure);
-    std::replace(option.begin(), option.end(), '_', '-');
-    return option;
-}
-
-// Two of the figures, or none for a table.
-void TakeRealState(const TypedOptions& typed, CommandLine& line) {
-    RealStateOptions state;
-    std::size_t given = 0;
-    for (std::size_t i = 0; i < kPairFigures; ++i) {
-        const std::string& text = i == 0 ? typed.t : i == 1 ? typed.rh : typed.figures[i];
-        if (text.empty()) continue;
-        state.given[i] = NumberOf(OptionOf(kPairFigureNames[i].name), text);
-        ++given;
-    }
-    if (given == 0 && typed.p.empty()) return;
-    if (given != 2) Refuse("one state needs two figures");
-    if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
-    line.real_state = state;
-}
-
-void TakeSuiteState(const TypedOptions& typed, CommandLine& line) {
-    for (std::size_t i = 2; i < kPairFigures; ++i) {
-        if (!typed.figures[i].empty()) {
-            Refuse(OptionOf(kPairFigureNames[i].name) + " needs --air real");
-        }
-    }
-    TakeState(typed, line);
-}
-
-// What is asked for chooses the air where the user does not: only real air is known by other
-// figures than t and rh. Scripts that ask by these two rely on the suite's columns.
-bool AsksForRealAir(const TypedOptions& typed) {
-    if (!typed.air.empty()) return typed.air == "real";
-    return std::any_of(typed.figures.begin() + 2, typed.figures.end(),
-                       [](const std::string& figure) { return !figure.empty(); });
-}
-
-int SideOf(double pixels) {
-    if (!(pixels >= 1 && pixels <= kLargestPictureSide) || pixels != std::floor(pixels)) {
-        Refuse("--size: each side has 1 to " + std::to_string(kLargestPictureSide) +
-               " whole pixels");
-    }
-    return static_cast<int>(pixels);
-}
-
-void TakeSize(const std::string& text, ChartRequest& chart) {
-    const auto sides = NumbersOf("--size", text, 'x');
-    if (sides.size() != 2) Refuse("--size: WIDTHxHEIGHT in pixels, as in 1600x900");
-    chart.width = SideOf(sides[0]);
-    chart.height = SideOf(sides[1]);
-}
-
-void TakeZoom(const std::string& text, ChartRequest& chart) {
-    const auto frame = NumbersOf("--zoom", text, ',');
-    if (frame.size() != 4) Refuse("--zoom: LEFT,TOP,WIDTH,HEIGHT in canvas units");
-    // As narrow or as far out as nobody can draw it with the pointer.
-    constexpr double kFarthest = 32767;
-    if (!(frame[2] >= 1 && frame[3] >= 1)) Refuse("--zoom: width and height are 1 or more");
-    if (std::any_of(frame.begin(), frame.end(), [](double f) { return std::abs(f) > kFarthest; })) {
-        Refuse("--zoom: the frame lies far outside the chart");
-    }
-    chart.zoom = ZoomFrame{frame[0], frame[1], frame[2], frame[3]};
-}
-
-bool HasEnding(std::string_view name, std::string_view ending) {
-    return name.size() > ending.size() &&
-           EqualIgnoringCase(name.substr(name.size() - ending.size()), ending);
-}
-
-void TakeChart(const TypedOptions& typed, ChartRequest& chart) {
-    const auto ends = [&](std::string_view ending) { return HasEnding(chart.output, ending); };
-    if (!ends(".svg") && !ends(".png") && !ends(".pdf")) {
-        Refuse(chart.output + ": a chart file ends in .svg, .png or .pdf");
-    }
-    if (!typed.kind.empty()) chart.kind = typed.kind == "carrier" ? kCarrier : kMollier;
-    if (!typed.size.empty()) TakeSize(typed.size, chart);
-    if (!typed.zoom.empty()) TakeZoom(typed.zoom, chart);
-}
-
 void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     auto* verb = app.add_subcommand("state", "States of humid air, for a table or for one state");
     verb->add_option("FILE", line.input, "the table; without it the standard input");
@@ -222,9 +102,7 @@ void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->footer(std::string(kStateHelp) + kTableHelp);
     verb->callback([&] {
         line.verb = Verb::State;
-        line.real_air = AsksForRealAir(typed);
-        (line.real_air ? TakeRealState : TakeSuiteState)(typed, line);
-        line.air_by_columns = typed.air.empty() && !line.state && !line.real_state;
+        TakeAir(typed, line);
         if ((line.state || line.real_state) && line.input != "-") {
             Refuse("either one state or a table, not both");
         }
@@ -247,11 +125,6 @@ void AddConvention(CLI::App& verb, TypedOptions& typed) {
     verb.add_option("--convention", typed.convention,
                     "suite or exact; without it as in the settings")
         ->check(CLI::IsMember({"suite", "exact"}));
-}
-
-void TakeConvention(const TypedOptions& typed, CommandLine& line) {
-    if (typed.convention.empty()) return;
-    line.convention = typed.convention == "exact" ? Convention::Exact : Convention::Suite;
 }
 
 void AddSelection(CLI::App& app, CommandLine& line) {
@@ -301,17 +174,6 @@ void AddCatalogue(CLI::App& app, CommandLine& line) {
     verb->add_option("--module", request.ModuleTag, "the module whose catalogues are read, QV");
     verb->add_flag("--json", line.json, "one JSON object a line");
     verb->callback([&] { line.verb = Verb::Catalogue; });
-}
-
-void TakeCapacity(const TypedOptions& typed, CapacityRequest& request) {
-    std::string error;
-    for (const auto& input : typed.inputs) {
-        if (!TakeInput(input, request, error)) Refuse(error);
-    }
-    if (FamilyOf(request.shared.KatalogArt) == KatalogFamilie::Unknown) {
-        Refuse("there is no kind " + std::to_string(request.shared.KatalogArt));
-    }
-    if (!typed.duties.empty()) request.duties = typed.duties;
 }
 
 void AddCapacity(CLI::App& app, TypedOptions& typed, CommandLine& line) {
@@ -396,9 +258,7 @@ std::optional<int> ReadCommandLine(int count, const char* const* arguments, Comm
     if (app.get_subcommands().empty()) {
         error =
             "a verb is needed: state, invert, form, selection, chart, print, catalogue or "
-            "capacity; --help "
-            "says "
-            "more";
+            "capacity; --help says more";
         return kWrongUse;
     }
     if (!typed.data.empty()) line.data = typed.data;
