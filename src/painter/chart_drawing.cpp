@@ -4,6 +4,7 @@
 #include <QPen>
 #include <algorithm>
 
+#include "painter/haloed_text.h"
 #include "painter/qt_canvas.h"
 #include "painter/shades.h"
 
