@@ -61,7 +61,18 @@ FloatingPanel::FloatingPanel(MainForm& form, Panel& panel, FormMirror& mirror, C
 
 void FloatingPanel::SetContent(QWidget* content) {
     scroll_ = new ContentScroll(content, this);
+    HideWhatIsUnder(*content);
     layout()->addWidget(scroll_);
+}
+
+// Where the panel has no picture its content has a ground of its own, so that a figure that changes
+// takes no repaint of the shadow and of the chart.
+void FloatingPanel::HideWhatIsUnder(QWidget& content) const {
+    if (!mirror_.PictureStore().Opaque(panel_.picture).isNull()) return;
+    QPalette palette;
+    palette.setColor(QPalette::Window, ColourOf(LookColour::Panel));
+    content.setPalette(palette);
+    content.setAutoFillBackground(true);
 }
 
 void FloatingPanel::Place() {
@@ -101,7 +112,10 @@ void FloatingPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body(Body());
+    painter.save();
+    painter.setClipRegion(QRegion(rect()) - Opaque().translated(-pos()), Qt::IntersectClip);
     PaintShadow(painter, body);
+    painter.restore();
     PaintPanelGround(painter, body, kRadius, panel_.picture, mirror_.PictureStore(),
                      ColourOf(LookColour::Panel));
     painter.setBrush(Qt::NoBrush);
