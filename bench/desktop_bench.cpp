@@ -19,6 +19,7 @@
 #include "desktop/qt_user.h"
 #include "painter/chart_drawing.h"
 #include "painter/chart_file.h"
+#include "peer_picture.h"
 
 namespace zandrell {
 namespace {
@@ -83,6 +84,33 @@ void FullPaint(benchmark::State& state) {
     }
 }
 BENCHMARK(FullPaint)->Unit(benchmark::kMillisecond);
+
+// As many bare primitives of the toolkit's painter, with the same pens.
+void FullPaintOfThePeer(benchmark::State& state) {
+    const RecordingCanvas& picture = TheSession().form.chart.picture;
+    QImage image(kWidth, kHeight, QImage::Format_RGB32);
+    const PeerPicture peer(picture, ChartView(picture, QRectF(image.rect()), 1));
+    for (auto _ : state) {
+        QPainter painter(&image);
+        peer.Paint(painter);
+        painter.end();
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+BENCHMARK(FullPaintOfThePeer)->Unit(benchmark::kMillisecond);
+
+// Every pixel of a screen copied once: the least that a frame of a resize can cost.
+void BlitOfThePicture(benchmark::State& state) {
+    QImage picture(kWidth, kHeight, QImage::Format_RGB32), screen = picture.copy();
+    picture.fill(Qt::white);
+    for (auto _ : state) {
+        QPainter painter(&screen);
+        painter.drawImage(QPointF(0, 0), picture);
+        painter.end();
+        benchmark::DoNotOptimize(screen.constBits());
+    }
+}
+BENCHMARK(BlitOfThePicture)->Unit(benchmark::kMillisecond);
 
 void SendMouse(ChartWidget& chart, QEvent::Type type, QPointF place) {
     const bool moves = type == QEvent::MouseMove;

@@ -22,6 +22,7 @@ struct LabelBox {
     }
     LabelBox Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
     LabelBox Moved(double x, double y) const { return {left + x, top + y, right + x, bottom + y}; }
+    bool operator==(const LabelBox&) const = default;
 };
 
 struct ClearLine {
@@ -45,6 +46,7 @@ struct PlacedLabel {
     LabelBox box;
     bool shown = true;
     bool far = false;  // so far from what it belongs to that a line should lead to it
+    bool operator==(const PlacedLabel&) const = default;
 };
 
 // Finds places for labels so that none covers another, a box or a line that is to stay clear. The

@@ -41,9 +41,7 @@ Qt::CursorShape ShapeOf(PointerShape shape) {
     return Qt::ArrowCursor;
 }
 
-void AddGrown(QRegion& region, const QRectF& rect) {
-    region += rect.adjusted(-2, -2, 2, 2).toAlignedRect();
-}
+QRect Grown(const QRectF& rect) { return rect.adjusted(-2, -2, 2, 2).toAlignedRect(); }
 
 }  // namespace
 
@@ -130,17 +128,19 @@ QString ChartWidget::StateUnderPointer() const {
 void ChartWidget::SyncOverlay() {
     OverlayDrawing wanted = WantedOverlay();
     if (wanted == shown_overlay_) return;
-    UpdateDevice(TouchedBy(shown_overlay_, View()));
-    UpdateDevice(TouchedBy(wanted, View()));
+    UpdateDevice(TouchedBy(Without(shown_overlay_, wanted), View()));
+    UpdateDevice(TouchedBy(Without(wanted, shown_overlay_), View()));
     shown_overlay_ = std::move(wanted);
+}
+
+QRect ChartWidget::FromDevice(const QRectF& pixels) const {
+    const double density = devicePixelRatioF();
+    return Grown(QRectF(pixels.topLeft() / density, pixels.size() / density));
 }
 
 void ChartWidget::UpdateDevice(const std::vector<QRectF>& touched) {
     QRegion region;
-    const double density = devicePixelRatioF();
-    for (const QRectF& rect : touched) {
-        AddGrown(region, QRectF(rect.topLeft() / density, rect.size() / density));
-    }
+    for (const QRectF& rect : touched) region += FromDevice(rect);
     if (covered) region -= covered();
     update(region);
 }
@@ -168,7 +168,7 @@ void ChartWidget::SyncFrames() {
     QRegion region;
     for (const Frames& frames : {shown_frames_, wanted}) {
         for (const auto& frame : {frames.zoom, frames.outline, frames.progress}) {
-            if (frame) AddGrown(region, *frame);
+            if (frame) region += Grown(*frame);
         }
     }
     shown_frames_ = wanted;
@@ -189,21 +189,34 @@ void ChartWidget::paintEvent(QPaintEvent* event) {
     // and go between two paints. A window may also have come to a screen of another density.
     if (stale_ || !picture_.IsOfDensity(devicePixelRatioF())) PaintAnew();
     QPainter painter(this);
-    painter.setClipRegion(event->region());
     const double density = devicePixelRatioF();
-    if (refine_.isActive()) {
+    if (refine_.isActive()) DrawMovedPicture(painter, event->region());
+    painter.setClipRegion(event->region());
+    if (!refine_.isActive()) picture_.Draw(painter);
+    painter.save();
+    painter.scale(1 / density, 1 / density);
+    const auto touches = [&](const QRectF& area) {
+        return event->region().intersects(FromDevice(area));
+    };
+    PaintOverlay(painter, Touching(shown_overlay_, View(), touches), View(),
+                 form_.chart.picture.Background());
+    painter.restore();
+    PaintFrames(painter);
+}
+
+// Under a clip of one rectangle the toolkit stretches a picture row by row; under a complex one it
+// cuts the picture into spans.
+void ChartWidget::DrawMovedPicture(QPainter& painter, const QRegion& region) const {
+    const double density = devicePixelRatioF();
+    painter.save();
+    for (const QRect& part : region) {
+        painter.setClipRect(part);
         painter.save();
         painter.scale(1 / density, 1 / density);
         picture_.DrawMoved(painter, View());
         painter.restore();
-    } else {
-        picture_.Draw(painter);
     }
-    painter.save();
-    painter.scale(1 / density, 1 / density);
-    PaintOverlay(painter, shown_overlay_, View(), form_.chart.picture.Background());
     painter.restore();
-    PaintFrames(painter);
 }
 
 void ChartWidget::PaintFrames(QPainter& painter) const {

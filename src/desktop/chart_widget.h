@@ -60,6 +60,7 @@ class ChartWidget : public QWidget {
 
     const ChartView& View() const;
     OverlayDrawing WantedOverlay() const;
+    void DrawMovedPicture(QPainter& painter, const QRegion& region) const;
     void PaintFrames(QPainter& painter) const;
     void PaintAnew();
     void SyncOverlay();
@@ -69,6 +70,7 @@ class ChartWidget : public QWidget {
     Frames FramesOfForm() const;
     const Mark* MarkUnder(QPointF place) const;
     void ShowMoved(const std::function<void()>& move);
+    QRect FromDevice(const QRectF& pixels) const;
     void UpdateDevice(const std::vector<QRectF>& touched);
     void EndDrag();
 

@@ -17,13 +17,24 @@ namespace {
 constexpr double kRadius = 8;
 constexpr int kStep = 16;  // pixels that an arrow key moves a panel
 
+// One pixel wide, filled: a stroke takes many times as long under the clip that the content leaves.
+void PaintBorder(QPainter& painter, const QRectF& body) {
+    QPainterPath path;
+    path.addRoundedRect(body, kRadius + 0.5, kRadius + 0.5);
+    path.addRoundedRect(body.adjusted(1, 1, -1, -1), kRadius - 0.5, kRadius - 0.5);
+    painter.fillPath(path, ColourOf(LookColour::Border));
+}
+
+// Only around the panel: its inside is painted over, at ten times the cost of the rims.
 void PaintShadow(QPainter& painter, const QRectF& body) {
-    painter.setPen(Qt::NoPen);
+    const QRectF inside = body.adjusted(kRadius, kRadius, -kRadius, -kRadius);
     for (int ring = FloatingPanel::kShadow; ring > 0; --ring) {
         const double fade = 1 - static_cast<double>(ring) / (FloatingPanel::kShadow + 1);
-        painter.setBrush(QColor(20, 35, 45, static_cast<int>(14 * fade * fade)));
-        const QRectF rim = body.adjusted(-ring, -ring + 2, ring, ring);
-        painter.drawRoundedRect(rim, kRadius + ring, kRadius + ring);
+        QPainterPath path;
+        path.addRoundedRect(body.adjusted(-ring, -ring + 2, ring, ring), kRadius + ring,
+                            kRadius + ring);
+        if (inside.isValid()) path.addRect(inside);
+        painter.fillPath(path, QColor(20, 35, 45, static_cast<int>(14 * fade * fade)));
     }
 }
 
@@ -61,7 +72,18 @@ FloatingPanel::FloatingPanel(MainForm& form, Panel& panel, FormMirror& mirror, C
 
 void FloatingPanel::SetContent(QWidget* content) {
     scroll_ = new ContentScroll(content, this);
+    HideWhatIsUnder(*content);
     layout()->addWidget(scroll_);
+}
+
+// Where the panel has no picture its content has a ground of its own, so that a figure that changes
+// takes no repaint of the shadow and of the chart.
+void FloatingPanel::HideWhatIsUnder(QWidget& content) const {
+    if (!mirror_.PictureStore().Opaque(panel_.picture).isNull()) return;
+    QPalette palette;
+    palette.setColor(QPalette::Window, ColourOf(LookColour::Panel));
+    content.setPalette(palette);
+    content.setAutoFillBackground(true);
 }
 
 void FloatingPanel::Place() {
@@ -104,9 +126,7 @@ void FloatingPanel::paintEvent(QPaintEvent*) {
     PaintShadow(painter, body);
     PaintPanelGround(painter, body, kRadius, panel_.picture, mirror_.PictureStore(),
                      ColourOf(LookColour::Panel));
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(ColourOf(LookColour::Border), 1));
-    painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    PaintBorder(painter, body);
 }
 
 CanvasPoint FloatingPanel::AsSeenByForm(QPointF place) const {

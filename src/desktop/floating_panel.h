@@ -49,6 +49,7 @@ class FloatingPanel : public QWidget {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    void HideWhatIsUnder(QWidget& content) const;
     QRect Body() const { return rect().adjusted(kShadow, kShadow, -kShadow, -kShadow); }
     // The place that the form knows belongs to the panel's shown corner, even where the window
     // holds the panel back at its edge.

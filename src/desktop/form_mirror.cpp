@@ -5,6 +5,9 @@
 #include <QIcon>
 #include <QStringList>
 #include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
 
 #include "desktop/accessible.h"
 #include "desktop/look.h"
@@ -294,7 +297,11 @@ void FormMirror::BindPanel(QWidget* panel, const Control& control) { AddCommon(p
 void FormMirror::Describe(QWidget* widget, const Control& caption, const QString& addition) {
     // A label with a symbol has the word for it in its tool tip.
     const bool symbol = caption.kind == ControlKind::Label;
-    writers_.push_back([widget, &caption, addition, symbol] {
+    const auto before = std::make_shared<std::optional<std::pair<std::string, std::string>>>();
+    writers_.push_back([widget, &caption, addition, symbol, before] {
+        if (*before && (*before)->first == caption.text && (*before)->second == caption.tool_tip)
+            return;
+        *before = {caption.text, caption.tool_tip};
         CaptionParts parts = PartsOf(ShownText(caption.text) + QLatin1Char(' ') + addition);
         if (symbol && !caption.tool_tip.empty()) parts.quantity = ShownText(caption.tool_tip);
         // What is typed has no value of its own that the unit could stand behind.

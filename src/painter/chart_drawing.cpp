@@ -3,7 +3,9 @@
 #include <QFontMetricsF>
 #include <QPen>
 #include <algorithm>
+#include <utility>
 
+#include "painter/haloed_text.h"
 #include "painter/qt_canvas.h"
 #include "painter/shades.h"
 
@@ -106,6 +108,40 @@ void PaintMark(QPainter& painter, const OverlayDrawing::Mark& mark, const ChartV
     }
 }
 
+// --- What the items of an overlay touch, in pixels.
+
+double Reach(const ChartView& view) { return 5 * view.StrokeUnit(); }
+
+QRectF AreaBetween(QPointF a, QPointF b, double reach) {
+    return QRectF(a, b).normalized().adjusted(-reach, -reach, reach, reach);
+}
+
+QRectF AreaOf(const OverlayDrawing::Line& line, const ChartView& view) {
+    return AreaBetween(view.ToDevice(line.part.from), view.ToDevice(line.part.to), Reach(view));
+}
+
+QRectF AreaOf(const OverlayDrawing::Mark& mark, const ChartView& view) {
+    const QPointF centre = view.ToDevice(mark.centre);
+    return AreaBetween(centre, centre, 2 * MarkRadius(view) + Reach(view));
+}
+
+QRectF BoxArea(const OverlayDrawing::Label& label, const ChartView& view) {
+    const LabelBox box = label.placed.box.Grown(Reach(view));
+    return {QPointF(box.left, box.top), QPointF(box.right, box.bottom)};
+}
+
+// Null: the label stands beside its mark.
+QRectF LeaderArea(const OverlayDrawing::Label& label, const ChartView& view) {
+    const auto leader = LeaderTo(label.placed, WantedPlace(label, view));
+    return leader ? AreaBetween(leader->p1(), leader->p2(), Reach(view)) : QRectF();
+}
+
+bool LooksLike(const auto& a, const auto& b) { return a == b; }
+// What follows from all else may follow from another item.
+bool LooksLike(const OverlayDrawing::Label& a, const OverlayDrawing::Label& b) {
+    return a == b && a.placed == b.placed;
+}
+
 }  // namespace
 
 bool OverlayDrawing::Line::operator==(const Line& other) const {
@@ -166,26 +202,39 @@ void PaintOverlay(QPainter& painter, const OverlayDrawing& drawing, const ChartV
 
 std::vector<QRectF> TouchedBy(const OverlayDrawing& drawing, const ChartView& view) {
     std::vector<QRectF> touched;
-    const double reach = 5 * view.StrokeUnit();
-    for (const auto& line : drawing.lines) {
-        const QRectF box(view.ToDevice(line.part.from), view.ToDevice(line.part.to));
-        touched.push_back(box.normalized().adjusted(-reach, -reach, reach, reach));
-    }
-    const double mark_reach = 2 * MarkRadius(view) + reach;
-    for (const auto& mark : drawing.marks) {
-        const QPointF centre = view.ToDevice(mark.centre);
-        touched.push_back(
-            {centre - QPointF(mark_reach, mark_reach), QSizeF(2 * mark_reach, 2 * mark_reach)});
-    }
+    for (const auto& line : drawing.lines) touched.push_back(AreaOf(line, view));
+    for (const auto& mark : drawing.marks) touched.push_back(AreaOf(mark, view));
     for (const auto& label : drawing.labels) {
-        const LabelBox box = label.placed.box.Grown(reach);
-        touched.emplace_back(QPointF(box.left, box.top), QPointF(box.right, box.bottom));
-        if (const auto leader = LeaderTo(label.placed, WantedPlace(label, view))) {
-            const QRectF line = QRectF(leader->p1(), leader->p2()).normalized();
-            touched.push_back(line.adjusted(-reach, -reach, reach, reach));
-        }
+        touched.push_back(BoxArea(label, view));
+        const QRectF leader = LeaderArea(label, view);
+        if (!leader.isNull()) touched.push_back(leader);
     }
     return touched;
+}
+
+OverlayDrawing Without(OverlayDrawing drawing, const OverlayDrawing& other) {
+    const auto drop = [](auto& items, const auto& others) {
+        std::erase_if(items, [&others](const auto& item) {
+            return std::any_of(others.begin(), others.end(), [&item](const auto& candidate) {
+                return LooksLike(item, candidate);
+            });
+        });
+    };
+    drop(drawing.lines, other.lines);
+    drop(drawing.marks, other.marks);
+    drop(drawing.labels, other.labels);
+    return drawing;
+}
+
+OverlayDrawing Touching(OverlayDrawing drawing, const ChartView& view,
+                        const std::function<bool(const QRectF&)>& touches) {
+    std::erase_if(drawing.lines, [&](const auto& line) { return !touches(AreaOf(line, view)); });
+    std::erase_if(drawing.marks, [&](const auto& mark) { return !touches(AreaOf(mark, view)); });
+    std::erase_if(drawing.labels, [&](const auto& label) {
+        const QRectF leader = LeaderArea(label, view);
+        return !touches(BoxArea(label, view)) && (leader.isNull() || !touches(leader));
+    });
+    return drawing;
 }
 
 QImage RenderPicture(const RecordingCanvas& picture, int width, int height, double density) {

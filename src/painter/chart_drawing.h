@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRectF>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -52,8 +53,16 @@ OverlayDrawing VisibleItems(const Overlay& overlay, const ChartView& view, const
 void PaintOverlay(QPainter& painter, const OverlayDrawing& drawing, const ChartView& view,
                   int ground);
 
-// Rectangles that hold all that PaintOverlay touches, one for each item.
+// Rectangles that hold all that PaintOverlay touches.
 std::vector<QRectF> TouchedBy(const OverlayDrawing& drawing, const ChartView& view);
+
+// The items that `other` does not show just so: what has to be painted over when one follows the
+// other.
+OverlayDrawing Without(OverlayDrawing drawing, const OverlayDrawing& other);
+
+// The items that have to be painted where `touches` answers for rectangles of the surface.
+OverlayDrawing Touching(OverlayDrawing drawing, const ChartView& view,
+                        const std::function<bool(const QRectF&)>& touches);
 
 // The radius of a mark's ring, in pixels.
 double MarkRadius(const ChartView& view);

@@ -1,15 +1,14 @@
 #include "painter/qt_canvas.h"
 
-#include <QFontMetricsF>
 #include <QImage>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstring>
-#include <numbers>
 
+#include "painter/haloed_text.h"
+#include "painter/pixel_stroke.h"
 #include "painter/svg_engine.h"
 
 namespace zandrell {
@@ -36,34 +35,6 @@ QColor Mixed(const QColor& colour, const QColor& ground) {
     return QColor::fromRgbF(mix(colour.redF(), ground.redF()),
                             mix(colour.greenF(), ground.greenF()),
                             mix(colour.blueF(), ground.blueF()));
-}
-
-std::array<QPointF, 8> Around(double rim) {
-    const double diagonal = rim * std::numbers::sqrt2 / 2;
-    return {{{rim, 0},
-             {-rim, 0},
-             {0, rim},
-             {0, -rim},
-             {diagonal, diagonal},
-             {diagonal, -diagonal},
-             {-diagonal, diagonal},
-             {-diagonal, -diagonal}}};
-}
-
-// On pixels the text itself is drawn all around: its glyphs are kept ready, stroking their outlines
-// would cost ten times as much. Elsewhere one outline is better than eight texts on top of each
-// other.
-void PaintRim(QPainter& painter, QPointF baseline, const QString& text, const QColor& ground,
-              double rim) {
-    if (!DrawsPixels(painter)) {
-        QPainterPath outline;
-        outline.addText(baseline, painter.font(), text);
-        painter.strokePath(outline,
-                           QPen(ground, 2 * rim, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        return;
-    }
-    painter.setPen(ground);
-    for (const QPointF& aside : Around(rim)) painter.drawText(baseline + aside, text);
 }
 
 double Length(QPointF chord) { return std::hypot(chord.x(), chord.y()); }
@@ -96,9 +67,12 @@ void AppendChords(const Bend& bend, QPolygonF& points) {
     points << bend.to;
 }
 
-// The stroke of a chain of chords that bend little, as one filled shape: the toolkit's own stroker
-// shifts and joins each chord by itself, which takes as long as all else of a picture.
+// The stroke of a chain of chords that bend little; where its pixels cannot be written, as one
+// filled shape: the toolkit's own stroker shifts and joins each chord by itself, which takes as
+// long as all else of a picture.
 void PaintRibbon(QPainter& painter, const QPolygonF& chain) {
+    QImage* image = PlainImageOf(painter);
+    if (image && StrokePixels(*image, chain, painter.pen().widthF(), painter.pen().color())) return;
     const double half = painter.pen().widthF() / 2;
     const auto count = chain.size();
     QPolygonF outline(2 * count);
@@ -122,13 +96,8 @@ void PaintRibbon(QPainter& painter, const QPolygonF& chain) {
 // An opaque image as a whole, its first row copied to the others: that takes half as long as the
 // toolkit's fill, which reads all memory before it overwrites it. False: nothing was filled.
 bool FillWholeImage(const QPainter& painter, const QRectF& target, const QColor& colour) {
-    if (!DrawsPixels(painter) || painter.device()->devType() != QInternal::Image) return false;
-    auto* image = static_cast<QImage*>(painter.device());
-    const bool whole = target == QRectF(QPointF(), image->size()) &&
-                       painter.combinedTransform().isIdentity() && !painter.hasClipping();
-    if (!whole || image->pixelFormat() != QImage::toPixelFormat(QImage::Format_RGB32) ||
-        !image->isDetached())
-        return false;
+    QImage* image = PlainImageOf(painter);
+    if (!image || target != QRectF(QPointF(), image->size())) return false;
     auto* const first = reinterpret_cast<QRgb*>(image->scanLine(0));
     std::fill_n(first, image->width(), colour.rgb());
     const auto bytes = static_cast<std::size_t>(image->width()) * sizeof(QRgb);
@@ -186,20 +155,6 @@ void DrawDotRows(QPainter& painter, const std::vector<QPointF>& dots, QPen pen) 
 
 }  // namespace
 
-void PaintHaloedText(QPainter& painter, QPointF corner, double box_height, const QString& text,
-                     const QFont& font, const QColor& colour, const QColor& ground, double rim) {
-    const QFontMetricsF metrics(font);
-    const QPointF baseline(corner.x(), corner.y() + (box_height + metrics.capHeight()) / 2);
-    if (auto* svg = SvgEngine::Of(painter)) {
-        svg->HaloedText(baseline, text, font, colour, ground, Around(rim));
-        return;
-    }
-    painter.setFont(font);
-    PaintRim(painter, baseline, text, ground, rim);
-    painter.setPen(colour);
-    painter.drawText(baseline, text);
-}
-
 QtCanvas::QtCanvas(QPainter& painter, const ChartView& view)
     : painter_(painter), view_(view), texts_(view) {
     painter_.setRenderHint(QPainter::Antialiasing);
@@ -254,15 +209,15 @@ void QtCanvas::FlushLines() {
 // short chord, as clipping leaves it, tells most about the direction near it.
 void QtCanvas::DrawCurve() const {
     const auto count = polyline_.size();
-    if (count == 2) {
-        painter_.drawLine(polyline_[0], polyline_[1]);
+    const bool flat = DrawsPixels(painter_);
+    if (count == 2 && flat) {
+        PaintRibbon(painter_, polyline_);
         return;
     }
     if (count < kPointsOfCurve) {
         painter_.drawPolyline(polyline_);
         return;
     }
-    const bool flat = DrawsPixels(painter_);
     QPainterPath path(polyline_[0]);
     QPolygonF chords{polyline_[0]};
     QPointF start = DirectionAt(polyline_, 0);

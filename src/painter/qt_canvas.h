@@ -14,11 +14,6 @@
 
 namespace zandrell {
 
-// Draws `text` with its upper left corner at `corner` and a rim of the ground colour, so that it
-// reads well over lines. `box_height` is the height that the text is centred in.
-void PaintHaloedText(QPainter& painter, QPointF corner, double box_height, const QString& text,
-                     const QFont& font, const QColor& colour, const QColor& ground, double rim);
-
 // A canvas on any of Qt's painters. Lines of one look that follow each other are drawn in one go;
 // texts are kept until Finish, since they stand over all lines.
 class QtCanvas : public Canvas {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "painter/haloed_text.h"
 #include "painter/picture_file.h"
 #include "painter/qt_canvas.h"
 #include "painter/text_layout.h"

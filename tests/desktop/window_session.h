@@ -37,6 +37,7 @@ inline QApplication& TheApplication() {
 struct WindowSetup {
     std::string language = "ENG";
     int skin = 0;
+    std::string chart = {};  // what stands in qv_par.dat; empty: as delivered
 };
 
 // The windows on a data folder of their own, with simulated input.
@@ -64,6 +65,7 @@ class WindowSession : public testing::Test {
         put("\"ENG\"", "\"" + setup.language + "\"");
         put("\n0,\"\",\"1\"", "\n" + std::to_string(setup.skin) + ",\"\",\"1\"");
         folder_.Write("kparam.dat", parameters);
+        if (!setup.chart.empty()) folder_.Write("qv_par.dat", setup.chart);
     }
 
     template <class Widget>
