@@ -57,9 +57,8 @@ double MeanHeat(const WaterAirTables& tables, double celsius) {
 constexpr std::size_t kSteamTerms = StateTable::kSteamTerms;
 
 struct CellTools {
-    Interpolation<8> temperature;
+    Interpolation<6> place;
     Interpolation<kSteamTerms> humidity;
-    Interpolation<9> pressure;
 };
 
 const CellTools& Tools() {
@@ -90,13 +89,13 @@ std::array<double, kSteamTerms> SteamPolynomial(const SteamAt& steam) {
 }  // namespace
 
 StateTable::StateTable(const WaterAirTables& tables) {
-    static_assert(kDegree + 1 == 8 && kPressureDegree + 1 == 9, "see CellTools");
+    static_assert(kDegree + 1 == 6, "see CellTools and Sum");
     if (!tables.Loaded()) return;
     for (std::size_t cell = 0; cell < kPressureCells; ++cell) TabulatePressures(tables, cell);
     if (!BoundaryTermIsNothing(tables)) return;
     for (std::size_t cell = 0; cell < kCells; ++cell) {
         TabulateCell(tables, cell);
-        if (CellIsGood(tables, cell)) cells_covered_ |= 1U << cell;
+        cells_[cell].covered = CellIsGood(tables, cell);
     }
 }
 
@@ -113,14 +112,14 @@ void StateTable::TabulateCell(const WaterAirTables& tables, std::size_t cell) {
         for (std::size_t k = 0; k < kSteamTerms; ++k) values[3 + k][i] = polynomial[k];
     }
     for (std::size_t quantity = 0; quantity < kQuantities; ++quantity) {
-        const auto powers = Tools().temperature.Powers(values[quantity]);
+        const auto powers = Tools().place.Powers(values[quantity]);
         for (std::size_t k = 0; k <= kDegree; ++k)
             cells_[cell].powers[k][quantity / 2][quantity % 2] = powers[k];
     }
 }
 
 bool StateTable::CellIsGood(const WaterAirTables& tables, std::size_t cell) const {
-    constexpr int kTrials = 13;
+    constexpr int kTrials = 3;
     const double start = kLowest + kCellWidth * static_cast<double>(cell);
     for (int i = 0; i < kTrials; ++i) {
         const double t = start + kCellWidth * (i + 0.001) / kTrials;
@@ -143,25 +142,24 @@ bool StateTable::CellIsGood(const WaterAirTables& tables, std::size_t cell) cons
 
 void StateTable::TabulatePressures(const WaterAirTables& tables, std::size_t cell) {
     const auto at = [cell](std::size_t i) {
-        return std::bit_cast<double>((PressureDigits(kLowestPressure) + cell + i) << 50U);
+        return std::bit_cast<double>((PressureDigits(kLowestPressure) + cell + i) << kDigitsBelow);
     };
     const double low = at(0), high = at(1);
     PressureCell& entry = pressures_[cell];
     entry.middle = (low + high) / 2;
     entry.per_half_width = 2 / (high - low);
-    std::array<double, kPressureDegree + 1> values{};
+    std::array<double, kDegree + 1> values{};
     for (std::size_t i = 0; i < values.size(); ++i) {
-        values[i] =
-            SiedeTemperatur(tables, entry.middle + Interpolation<kPressureDegree + 1>::Node(i) /
-                                                       entry.per_half_width);
+        values[i] = SiedeTemperatur(
+            tables, entry.middle + Interpolation<kDegree + 1>::Node(i) / entry.per_half_width);
     }
-    entry.powers = Tools().pressure.Powers(values);
-    constexpr int kTrials = 16;
+    entry.powers = Tools().place.Powers(values);
+    constexpr int kTrials = 3;
     for (int i = 0; i < kTrials; ++i) {
         const double p_bar = low + (high - low) * (i + 0.01) / kTrials;
         if (!Agrees(BoilingTemperature(p_bar), SiedeTemperatur(tables, p_bar))) return;
     }
-    pressures_covered_ |= 1U << cell;
+    entry.covered = true;
 }
 
 }  // namespace zandrell

@@ -32,7 +32,7 @@ class StateTable {
 
     // t in degC; not-a-number is not covered.
     bool Covers(double t) const {
-        return t >= kLowest && t < kHighest && ((cells_covered_ >> CellOf(t)) & 1U) != 0;
+        return t >= kLowest && t < kHighest && cells_[CellOf(t)].covered;
     }
     // Requires: Covers(t).
     inline Entry At(double t) const;
@@ -42,16 +42,16 @@ class StateTable {
     // Whether BoilingTemperature (K) has an answer for p_bar.
     bool CoversPressure(double p_bar) const {
         return p_bar >= kLowestPressure && p_bar < kPressureEnd &&
-               ((pressures_covered_ >> PressureCellOf(p_bar)) & 1U) != 0;
+               pressures_[PressureCellOf(p_bar)].covered;
     }
     inline double BoilingTemperature(double p_bar) const;
 
   private:
-    static constexpr std::size_t kCells = 28, kDegree = 7;
+    static constexpr std::size_t kCells = 168, kDegree = 5;
     static constexpr double kCellWidth = (kHighest - kLowest) / kCells;
     static constexpr std::size_t kQuantities = 10;  // one is spare, so that pairs fill registers
-    // Four cells to each doubling of the pressure.
-    static constexpr std::size_t kPressureCells = 29, kPressureDegree = 8;
+    // Sixteen cells to each doubling of the pressure.
+    static constexpr std::size_t kPressureCells = 116;
     static constexpr double kLowestPressure = 0.0625, kPressureEnd = 10;  // bar
 
     // Two numbers to a register, which every processor of this kind can add and multiply at once.
@@ -66,9 +66,10 @@ class StateTable {
         const double middle = kLowest + kCellWidth * (static_cast<double>(cell) + 0.5);
         return (t - middle) * (2 / kCellWidth);
     }
-    // Exponent and upper two digits of the mantissa number the cells.
+    // Exponent and upper four digits of the mantissa number the cells.
+    static constexpr unsigned kDigitsBelow = 48;
     static std::uint64_t PressureDigits(double p_bar) {
-        return std::bit_cast<std::uint64_t>(p_bar) >> 50U;
+        return std::bit_cast<std::uint64_t>(p_bar) >> kDigitsBelow;
     }
     static std::size_t PressureCellOf(double p_bar) {
         return PressureDigits(p_bar) - PressureDigits(kLowestPressure);
@@ -80,24 +81,25 @@ class StateTable {
 
     struct PressureCell {
         double middle = 0, per_half_width = 0;
-        std::array<double, kPressureDegree + 1> powers{};
+        std::array<double, kDegree + 1> powers{};
+        bool covered = false;
     };
 
     struct Cell {
         std::array<std::array<Pair, kPairs>, kDegree + 1> powers{};  // of the place
+        bool covered = false;
     };
 
-    // The polynomial of degree 7 by halves, whose terms do not wait for each other.
+    // The polynomial of degree 5 by pairs of terms, which do not wait for each other.
     template <typename Coefficient>
     static auto Sum(double place, const Coefficient& c) {
         const double square = place * place;
-        return ((c(7) * place + c(6)) * square + (c(5) * place + c(4))) * (square * square) +
-               ((c(3) * place + c(2)) * square + (c(1) * place + c(0)));
+        return ((c(5) * place + c(4)) * square + (c(3) * place + c(2))) * square +
+               (c(1) * place + c(0));
     }
 
     std::array<Cell, kCells> cells_{};
     std::array<PressureCell, kPressureCells> pressures_{};
-    std::uint32_t cells_covered_ = 0, pressures_covered_ = 0;
 };
 
 StateTable::Entry StateTable::At(double t) const {
@@ -123,9 +125,7 @@ double StateTable::SaturatedDensity(double t) const {
 double StateTable::BoilingTemperature(double p_bar) const {
     const PressureCell& cell = pressures_[PressureCellOf(p_bar)];
     const double place = (p_bar - cell.middle) * cell.per_half_width;
-    double sum = cell.powers[kPressureDegree];
-    for (std::size_t k = kPressureDegree; k-- > 0;) sum = sum * place + cell.powers[k];
-    return sum;
+    return Sum(place, [&cell](std::size_t k) { return cell.powers[k]; });
 }
 
 }  // namespace zandrell
