@@ -41,8 +41,8 @@ class StateTable {
 
     // Whether BoilingTemperature (K) has an answer for p_bar.
     bool CoversPressure(double p_bar) const {
-        return p_bar >= kLowestPressure && p_bar < kPressureEnd &&
-               pressures_[PressureCellOf(p_bar)].covered;
+        const std::size_t cell = PressureCellOf(p_bar);
+        return cell < kPressureCells && pressures_[cell].covered;
     }
     inline double BoilingTemperature(double p_bar) const;
 
@@ -52,7 +52,7 @@ class StateTable {
     static constexpr std::size_t kQuantities = 10;  // one is spare, so that pairs fill registers
     // Sixteen cells to each doubling of the pressure.
     static constexpr std::size_t kPressureCells = 116;
-    static constexpr double kLowestPressure = 0.0625, kPressureEnd = 10;  // bar
+    static constexpr double kLowestPressure = 0.0625;  // bar; the highest is 10
 
     // Two numbers to a register, which every processor of this kind can add and multiply at once.
     using Pair [[gnu::vector_size(16)]] = double;
@@ -71,6 +71,7 @@ class StateTable {
     static std::uint64_t PressureDigits(double p_bar) {
         return std::bit_cast<std::uint64_t>(p_bar) >> kDigitsBelow;
     }
+    // Beyond kPressureCells for a pressure below the lowest, a negative one and not-a-number.
     static std::size_t PressureCellOf(double p_bar) {
         return PressureDigits(p_bar) - PressureDigits(kLowestPressure);
     }
