@@ -13,8 +13,9 @@ enum class TextRole {
     AxisNumber,  // stands at its line of the grid or not at all
     AxisTitle,   // moves aside
     CurveLabel,  // at the end of its curve: moves aside, or is left out where there is no room near
-    StubLabel,  // at the end of a stub: moves along it before it moves across; else as a CurveLabel
-    MarkLabel,  // beside a mark: moves around it and is never left out
+    ExtensionLabel,  // at the end of an extension line: moves along it before it moves across; else
+                     // as a CurveLabel
+    MarkLabel,       // beside a mark: moves around it and is never left out
 };
 
 // A drawing surface in canvas units: x to the right, y downward. Colours are palette numbers or

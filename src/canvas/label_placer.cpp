@@ -43,7 +43,7 @@ const std::vector<Offset>& MovesOf(const WantedLabel& label) {
     static const std::vector<Offset> all_around = Moves(1, 1);
     static const std::vector<Offset> level = Moves(kAlongCost, 1);
     static const std::vector<Offset> upright = Moves(1, kAlongCost);
-    if (label.role != TextRole::StubLabel) return all_around;
+    if (label.role != TextRole::ExtensionLabel) return all_around;
     return std::abs(label.along_x) >= std::abs(label.along_y) ? level : upright;
 }
 
@@ -56,7 +56,7 @@ int Turn(TextRole role) {
             return 1;
         case TextRole::CurveLabel:
             return 2;
-        case TextRole::StubLabel:
+        case TextRole::ExtensionLabel:
             return 3;
         case TextRole::MarkLabel:
             break;

@@ -36,9 +36,9 @@ struct WantedLabel {
     double left = 0, middle = 0;  // the left end of the text and the middle of its height
     std::string text;
     TextRole role = TextRole::CurveLabel;
-    // What the text belongs to: the end of a stub, a mark.
+    // What the text belongs to: the end of an extension line, a mark.
     double anchor_x = 0, anchor_y = 0;
-    // The direction of the stub that a StubLabel stands at; any length.
+    // The direction of the extension line that an ExtensionLabel stands at; any length.
     double along_x = 0, along_y = 0;
 };
 

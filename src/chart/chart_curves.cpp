@@ -104,22 +104,24 @@ std::optional<EnthalpyLine> FindEnthalpyLine(const ChartPainting& painting, int 
     return line;
 }
 
-bool EnthalpyLineFits(const ChartPainting& painting, const EnthalpyLine& line, CanvasPoint stub) {
+bool EnthalpyLineFits(const ChartPainting& painting, const EnthalpyLine& line,
+                      CanvasPoint extension) {
     if (!painting.on_printer) return true;
     if (painting.Mollier()) {
         return line.saturated.x >= 0 && line.saturated.x <= painting.width &&
-               stub.x < 0.93 * painting.width;
+               extension.x < 0.93 * painting.width;
     }
     const double x = painting.scale.Turned(line.dry).x;
     return x >= 0 && x <= 2 * painting.width;
 }
 
 void PaintEnthalpyLine(const ChartPainting& painting, int h, const EnthalpyLine& line) {
-    const CanvasPoint stub = EnthalpyStubEnd(painting, line.saturated);
-    if (line.saturated.x < painting.left_edge || !EnthalpyLineFits(painting, line, stub)) return;
+    const CanvasPoint extension = EnthalpyExtensionEnd(painting, line.saturated);
+    if (line.saturated.x < painting.left_edge || !EnthalpyLineFits(painting, line, extension))
+        return;
     painting.Line(line.dry, line.saturated, kGrey);
-    painting.Line(line.saturated, stub, kGrey);
-    PaintEnthalpyNumber(painting, h, stub);
+    painting.Line(line.saturated, extension, kGrey);
+    PaintEnthalpyNumber(painting, h, extension);
 }
 
 void PaintDensityLine(const ChartPainting& painting, int i) {
@@ -172,12 +174,12 @@ std::vector<int> EnthalpiesWithLine(const ChartSettings& settings) {
     return enthalpies;
 }
 
-CanvasPoint EnthalpyStubEnd(const ChartPainting& painting, CanvasPoint saturated) {
+CanvasPoint EnthalpyExtensionEnd(const ChartPainting& painting, CanvasPoint saturated) {
     return {saturated.x + 0.1 * painting.width, saturated.y};
 }
 
-void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint stub_end) {
-    const CanvasPoint end = painting.scale.Turned(stub_end);
+void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint extension_end) {
+    const CanvasPoint end = painting.scale.Turned(extension_end);
     const std::string unit(UnitKJkg);
     if (painting.Mollier()) {
         painting.canvas.Text(end.x, end.y - 5, NumberText(h) + " " + unit);
@@ -187,7 +189,7 @@ void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint stub_
 }
 
 void PaintEnthalpyLines(const ChartPainting& painting) {
-    painting.canvas.SetTextRole(TextRole::StubLabel);
+    painting.canvas.SetTextRole(TextRole::ExtensionLabel);
     const int step = EnthalpyStep(painting.settings);
     for (const int h : EnthalpiesWithLine(painting.settings)) {
         if (const auto line = FindEnthalpyLine(painting, h, step))

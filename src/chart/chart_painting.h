@@ -65,8 +65,8 @@ inline constexpr int kDensityLines = 9;
 std::vector<int> EnthalpiesWithLine(const ChartSettings& settings);
 // The piece from saturation into the fog, where its number has room; canvas units of the Mollier
 // chart.
-CanvasPoint EnthalpyStubEnd(const ChartPainting& painting, CanvasPoint saturated);
-void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint stub_end);
+CanvasPoint EnthalpyExtensionEnd(const ChartPainting& painting, CanvasPoint saturated);
+void PaintEnthalpyNumber(const ChartPainting& painting, int h, CanvasPoint extension_end);
 
 // The curves (chart_curves.cpp).
 void PaintHumidityCurves(const ChartPainting& painting);

@@ -66,7 +66,7 @@ bool NumberFits(const ChartPainting& painting, CanvasPoint saturated) {
     if (saturated.x < painting.left_edge) return false;
     if (!painting.on_printer || !painting.Mollier()) return true;
     return saturated.x <= painting.width &&
-           EnthalpyStubEnd(painting, saturated).x < kPaperEnd * painting.width;
+           EnthalpyExtensionEnd(painting, saturated).x < kPaperEnd * painting.width;
 }
 
 // The line behind saturation: of liquid water it hardly falls, of ice it rises, and where ice melts
@@ -128,9 +128,9 @@ class EnthalpyPainter {
         if (settings.fog_lines) {
             PaintInFog(h, x, saturated, fits);
         } else if (fits) {
-            const CanvasPoint stub = EnthalpyStubEnd(painting_, saturated);
-            painting_.Line(saturated, stub, kGrey);
-            PaintEnthalpyNumber(painting_, h, stub);
+            const CanvasPoint extension = EnthalpyExtensionEnd(painting_, saturated);
+            painting_.Line(saturated, extension, kGrey);
+            PaintEnthalpyNumber(painting_, h, extension);
         }
     }
 
@@ -150,7 +150,7 @@ class EnthalpyPainter {
                                 : window_.x_to;
         Gap number;
         if (with_number) {
-            const double place = EnthalpyStubEnd(painting_, saturated).x;
+            const double place = EnthalpyExtensionEnd(painting_, saturated).x;
             const double x = saturated_x + (place - saturated.x) / painting_.scale.MassstabX;
             const auto t = air_.Temperature(h, x);
             if (t) PaintEnthalpyNumber(painting_, h, {place, painting_.scale.Ym(*t)});
@@ -169,7 +169,7 @@ class EnthalpyPainter {
 }  // namespace
 
 void PaintExactEnthalpyLines(const ChartPainting& painting) {
-    painting.canvas.SetTextRole(TextRole::StubLabel);
+    painting.canvas.SetTextRole(TextRole::ExtensionLabel);
     const EnthalpyPainter painter(painting);
     for (const int h : EnthalpiesWithLine(painting.settings)) painter.Paint(h);
 }

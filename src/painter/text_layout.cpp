@@ -61,7 +61,8 @@ void TextLayout::Text(CanvasPoint place, std::string_view text, TextRole role) {
         QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).trimmed();
     const double width = QFontMetricsF(view_->Font()).horizontalAdvance(shown);
     corner.setX(std::min(corner.x(), view_->TextsEnd() - width));
-    const QPointF anchor = role == TextRole::StubLabel ? last_end_ : QPointF(corner.x(), middle);
+    const QPointF anchor =
+        role == TextRole::ExtensionLabel ? last_end_ : QPointF(corner.x(), middle);
     wanted_.push_back({corner.x(), middle, shown.toStdString(), role, anchor.x(), anchor.y(),
                        last_direction_.x(), last_direction_.y()});
 }

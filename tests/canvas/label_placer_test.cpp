@@ -33,7 +33,7 @@ TEST(LabelPlacer, EachRoleYieldsInItsOwnWay) {
     } cases[] = {{"number", TextRole::AxisNumber, false, false},
                  {"title", TextRole::AxisTitle, true, true},
                  {"curve", TextRole::CurveLabel, true, true},
-                 {"stub", TextRole::StubLabel, true, true},
+                 {"extension", TextRole::ExtensionLabel, true, true},
                  {"mark", TextRole::MarkLabel, true, true}};
     for (const auto& c : cases) {
         auto placer = Placer();
@@ -47,7 +47,7 @@ TEST(LabelPlacer, EachRoleYieldsInItsOwnWay) {
 
 TEST(LabelPlacer, WhereThereIsNoRoomOnlyMarksAndTitlesKeepTheirLabels) {
     for (const auto role : {TextRole::AxisNumber, TextRole::AxisTitle, TextRole::CurveLabel,
-                            TextRole::StubLabel, TextRole::MarkLabel}) {
+                            TextRole::ExtensionLabel, TextRole::MarkLabel}) {
         auto placer = Placer();
         placer.KeepClear(LabelBox{-1000, -1000, 1600, 1300});
         const bool kept = role == TextRole::MarkLabel || role == TextRole::AxisTitle;
@@ -55,11 +55,11 @@ TEST(LabelPlacer, WhereThereIsNoRoomOnlyMarksAndTitlesKeepTheirLabels) {
     }
 }
 
-TEST(LabelPlacer, AStubsLabelMovesAlongItsStub) {
+TEST(LabelPlacer, AnExtensionsLabelMovesAlongIt) {
     for (const bool level : {true, false}) {
         auto placer = Placer();
         placer.KeepClear(LabelBox{95, 40, 125, 60});
-        WantedLabel label = At(100, 50, TextRole::StubLabel);
+        WantedLabel label = At(100, 50, TextRole::ExtensionLabel);
         (level ? label.along_x : label.along_y) = 1;
         const auto placed = placer.Place({label});
         EXPECT_EQ(placed[0].box.top == 44.5, level);

@@ -93,7 +93,7 @@ TEST(EnthalpyLines, RunFromTheDryEdgeToSaturationAndOnIntoTheFog) {
         EXPECT_NEAR(label->x1 - 200, UnitsOfX(TextbookSaturationHumidity(t)),
                     45 * 0.012 * std::abs(t) + 3)
             << h;
-        // the stub of a tenth of the canvas
+        // the extension line of a tenth of the canvas
         EXPECT_NE(
             FindLine(picture, label->x1 - 200, label->y1 + 5, label->x1, label->y1 + 5, kGrey),
             nullptr);
@@ -173,7 +173,8 @@ TEST(PrinterCurves, WidthsAndLimits) {
     EXPECT_EQ(thin, 9 * 31);
     EXPECT_EQ(thick, 31);
     EXPECT_NE(FindText(chart.paper, " 60 kJ/kg"), nullptr);
-    EXPECT_EQ(FindText(chart.paper, " 140 kJ/kg"), nullptr) << "its stub passes .93 of the width";
+    EXPECT_EQ(FindText(chart.paper, " 140 kJ/kg"), nullptr)
+        << "its extension line passes .93 of the width";
     EXPECT_NE(FindText(chart.paper, " 1.2 kg/m³"), nullptr);
     EXPECT_EQ(FindText(chart.paper, " 1.25 kg/m³"), nullptr) << "below 270 units";
 }

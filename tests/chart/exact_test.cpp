@@ -274,7 +274,7 @@ std::vector<ChartState> StatesAlong(const PaintedChart& chart, const CanvasOpera
 }
 
 // Every piece of the saturation line and of the enthalpy lines, on the whole chart and in a zoom.
-// An enthalpy line is what comes before its stub and its number.
+// An enthalpy line is what comes before its extension line and its number.
 TEST(Exact, SaturationAndEnthalpyLinesLieWhereTheirFiguresAre) {
     for (const char* pressure : {"1.013", "0.8"}) {
         for (const int kind : {kMollier, kCarrier}) {
@@ -297,7 +297,7 @@ TEST(Exact, SaturationAndEnthalpyLinesLieWhereTheirFiguresAre) {
                     for (std::size_t k = i - 2;
                          all[k].stroke == Stroke::Line && all[k].colour == kGrey; --k) {
                         const auto states = StatesAlong(chart, all[k]);
-                        if (std::abs(states[0].t - states[2].t) < 1e-9) break;  // a stub
+                        if (std::abs(states[0].t - states[2].t) < 1e-9) break;  // an extension line
                         ++lines;
                         for (const ChartState& at : states) {
                             EXPECT_NEAR(independent::H(at.t, at.x, 1e5 * chart.pressure), h,
