@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QStringList>
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <utility>
 
@@ -297,20 +296,22 @@ void FormMirror::BindPanel(QWidget* panel, const Control& control) { AddCommon(p
 void FormMirror::Describe(QWidget* widget, const Control& caption, const QString& addition) {
     // A label with a symbol has the word for it in its tool tip.
     const bool symbol = caption.kind == ControlKind::Label;
-    const auto before = std::make_shared<std::optional<std::pair<std::string, std::string>>>();
-    writers_.push_back([widget, &caption, addition, symbol, before] {
-        if (*before && (*before)->first == caption.text && (*before)->second == caption.tool_tip)
-            return;
-        *before = {caption.text, caption.tool_tip};
-        CaptionParts parts = PartsOf(ShownText(caption.text) + QLatin1Char(' ') + addition);
-        if (symbol && !caption.tool_tip.empty()) parts.quantity = ShownText(caption.tool_tip);
-        // What is typed has no value of its own that the unit could stand behind.
-        const bool typed = qobject_cast<QLineEdit*>(widget) != nullptr;
-        const QString name =
-            (typed ? parts.quantity + QLatin1Char(' ') + parts.unit : parts.quantity).trimmed();
-        if (widget->accessibleName() != name) widget->setAccessibleName(name);
-        if (widget->property("unit") != parts.unit) widget->setProperty("unit", parts.unit);
-    });
+    // Taken apart only when they changed: that takes long, and all captions are asked at each act.
+    using Words = std::pair<std::string, std::string>;
+    writers_.push_back(
+        [widget, &caption, addition, symbol, before = std::optional<Words>()]() mutable {
+            Words words(caption.text, caption.tool_tip);
+            if (before == words) return;
+            before = std::move(words);
+            CaptionParts parts = PartsOf(ShownText(caption.text) + QLatin1Char(' ') + addition);
+            if (symbol && !caption.tool_tip.empty()) parts.quantity = ShownText(caption.tool_tip);
+            // What is typed has no value of its own that the unit could stand behind.
+            const bool typed = qobject_cast<QLineEdit*>(widget) != nullptr;
+            const QString name =
+                (typed ? parts.quantity + QLatin1Char(' ') + parts.unit : parts.quantity).trimmed();
+            if (widget->accessibleName() != name) widget->setAccessibleName(name);
+            if (widget->property("unit") != parts.unit) widget->setProperty("unit", parts.unit);
+        });
 }
 
 void FormMirror::Perform(const std::function<void()>& act) {

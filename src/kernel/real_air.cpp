@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/unit_factors.h"
 #include "kernel/real_air_fits.h"
 #include "kernel/real_air_polynomial.h"
 #include "kernel/real_air_table.h"
@@ -11,11 +12,10 @@
 namespace zandrell {
 namespace {
 
-constexpr double kIceUpTo = 0.01;                                      // degC
+constexpr double kIceUpTo = RealAirTable::kIceUpTo;
 constexpr double kMolarMassAir = 28.966, kMolarMassWater = 18.015268;  // g/mol
 // The report takes one gas constant for the mixture and a newer one for the enhancement factor.
 constexpr double kGasConstant = 8.314472, kGasConstantOfFactor = 8.314371;  // J/(mol K)
-constexpr double kPascalPerBar = 100000;
 constexpr double kCubicMetrePerCm3 = 1e-6;
 
 // ln(1 - z) for the share of air that water dissolves, some 1E-05.
@@ -93,9 +93,10 @@ struct Mixture {
     double B = 0, C = 0, of_enthalpy_B = 0, of_enthalpy_C = 0;
 };
 
-// What of a state follows first, by kg of dry air; all else is a product of these.
-struct Core {
-    [[gnu::always_inline]] Core(const RealAirTable::Gas& gas, double T, double p, double psi)
+// A mole of the gas with the mole fraction psi of water, and what of the state takes more than a
+// product or a quotient.
+struct MolarGas {
+    MolarGas(const RealAirTable::Gas& gas, double T, double p, double psi)
         : air((1 - psi) * kMolarMassAir), water(psi * kMolarMassWater), per_air(1 / air) {
         const Mixture mixture(gas, psi);
         r = mixture.Density(p * (kCubicMetrePerCm3 / (kGasConstant * T)));
@@ -109,12 +110,12 @@ struct Core {
 };
 
 RealAirState StateOf(const RealAirTable::Gas& gas, double T, double p, double psi) {
-    const Core core(gas, T, p, psi);
+    const MolarGas mole(gas, T, p, psi);
     RealAirState state;
-    state.x = core.x;
-    state.volume = core.per_air / (1000 * core.r);
-    state.density = 1000 * (core.air + core.water) * core.r;
-    state.enthalpy = core.enthalpy;
+    state.x = mole.x;
+    state.volume = mole.per_air / (1000 * mole.r);
+    state.density = 1000 * (mole.air + mole.water) * mole.r;
+    state.enthalpy = mole.enthalpy;
     state.vapour_pressure = psi * p;
     return state;
 }
@@ -130,11 +131,11 @@ double LogOfRatio(double one, double other) {
 
 // The dew point on one side of the triple point, from that of pure water.
 std::optional<double> NearDewPoint(double vapour_pressure, double p_bar) {
-    constexpr double kUsualRise = 0.004;  // of the saturation pressure, by a bar of air
-    constexpr double kOffIce = 1e-6;      // K
-    constexpr double kClose = 1e-9;       // K
-    const double log_pressure =
-        std::log(vapour_pressure) - RealAirTable::Get().LogOfTriplePressure() - kUsualRise * p_bar;
+    constexpr double kOffIce = 1e-6;  // K
+    constexpr double kClose = 1e-9;   // K
+    const double log_pressure = std::log(vapour_pressure) -
+                                RealAirTable::Get().LogOfTriplePressure() -
+                                RealAirTable::kUsualEnhancement * p_bar;
     const auto start = RealAirTable::Get().SaturationTemperatureAt(log_pressure);
     if (!start) return std::nullopt;
     // The equation of Magnus (coefficients of Sonntag, Z. Meteorol. 40, 1990) by its slope.
@@ -191,12 +192,12 @@ std::optional<SaturatedRealAir> EvaluateSaturatedAir(double t, double p_bar) {
     const double psi =
         Enhancement(saturation, t + kKelvinOffset, p) * (saturation.pressure * p.reciprocal);
     if (!(psi <= kRealAirMostWater)) return std::nullopt;
-    const Core core(table.GasAt(t), t + kKelvinOffset, p.value, psi);
+    const MolarGas mole(table.GasAt(t), t + kKelvinOffset, p.value, psi);
     // What water gains by being pressed together from saturation to p.
     constexpr double kPerMolarMass = kCubicMetrePerCm3 / kMolarMassWater;
     const double pressed =
         saturation.condensed_volume * kPerMolarMass * (p.value - saturation.pressure);
-    return SaturatedRealAir{core.x, core.enthalpy, saturation.condensed_enthalpy + pressed};
+    return SaturatedRealAir{mole.x, mole.enthalpy, saturation.condensed_enthalpy + pressed};
 }
 
 std::optional<RealAirState> EvaluateRealGas(double x, double t, double p_bar) {

@@ -15,6 +15,9 @@ class RealAirTable {
     static constexpr double kLowest = -60, kIceUpTo = 0.01, kHighest = 102;  // degC
     static constexpr double kTriplePressure = 611.657;                       // Pa
 
+    // About what a bar of air adds to the saturation pressure, relative: enough to begin with.
+    static constexpr double kUsualEnhancement = 0.004;
+
     // Of saturation: what ln f, the logarithm of the enhancement factor, is made of, with n and n_s
     // the pressure and the saturation pressure over R T in mol/cm3, b the mole fraction of the air:
     // (n - n_s) volume + (n^2 - n_s^2) square + ln(1 - henry p b) +

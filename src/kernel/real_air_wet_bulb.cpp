@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/unit_factors.h"
 #include "kernel/air_state.h"
 #include "kernel/real_air_fits.h"
 #include "kernel/real_air_polynomial.h"
@@ -12,7 +13,7 @@
 namespace zandrell {
 namespace {
 
-constexpr double kIceUpTo = 0.01;       // degC
+constexpr double kIceUpTo = RealAirTable::kIceUpTo;
 constexpr double kCloseEnough = 1e-11;  // kJ/kg
 
 // kJ/kg that water gains by being pressed together from saturation to p_bar.
@@ -74,21 +75,22 @@ class BulbSearch {
     // off. Empty where vapour makes most of the pressure.
     std::optional<Guess> Guessed(Bulb bulb) const {
         constexpr int kMostSteps = 10;
-        constexpr double kGood = 0.0004;         // K, more than what a step leaves
-        constexpr double kUsualRise = 0.004;     // of the saturation pressure, by a bar of air
-        constexpr double kRatio = 0.621945;      // kg/kg
-        constexpr double kGasConstant = 0.4615;  // of vapour, kJ/(kg K)
-        constexpr double kMostVapour = 0.8;      // of the pressure
+        constexpr double kGood = 0.0004;  // K, more than what a step leaves
+        constexpr double kRatio = kRealAirRatio / 1000;
+        constexpr double kGasConstant = kGasConstantSteam / 1000;  // kJ/(kg K)
+        constexpr double kMostVapour = 0.8;                        // of the pressure
         const bool ice = bulb == Bulb::Iced;
         const double heat = ice ? 1.0063 : 1.006;  // of air, kJ/(kg K)
         const double latent_at_0 = ice ? 2834.4 : 2500.9, latent_slope = ice ? -0.25 : -2.34;
         const double latent_bend = ice ? 0 : -0.00094;
         const double water_at_0 = ice ? -333.4 : 0, water_slope = ice ? 2.07 : 4.19;
         const auto& table = RealAirTable::Get();
-        const double per_bar = 1e-5 * (1 + kUsualRise * p_bar_), x = x_ / 1000;
+        const double per_pascal =
+                         1 / kPascalPerBar * (1 + RealAirTable::kUsualEnhancement * p_bar_),
+                     x = x_ / 1000;
         double at = std::clamp(t_ - 5, kRealAirLowest, 60.0);
         for (int i = 0; i < kMostSteps; ++i) {
-            const double vapour = per_bar * table.SaturationPressureAt(at);
+            const double vapour = per_pascal * table.SaturationPressureAt(at);
             if (!(vapour < kMostVapour * p_bar_)) return std::nullopt;
             const double air = p_bar_ - vapour, per_T = 1 / (at + kKelvinOffset);
             const double latent = latent_at_0 + (latent_slope + latent_bend * at) * at;

@@ -6,6 +6,8 @@
 #include <bit>
 #include <cmath>
 
+#include "kernel/real_air.h"
+
 namespace zandrell {
 namespace {
 
@@ -32,6 +34,21 @@ TEST(RealAirTable, HasWhatTheFitsHave) {
     }
     EXPECT_EQ(table.SaturationAt(0.01).henry, 0) << "ice dissolves no air";
     EXPECT_GT(table.SaturationAt(0.0100001).henry, 0.2);
+}
+
+TEST(RealAirTable, TakesASaturationPressureBackToItsTemperature) {
+    const auto& table = RealAirTable::Get();
+    const auto temperature = [&table](double pressure) {
+        return table.SaturationTemperatureAt(std::log(pressure) - table.LogOfTriplePressure());
+    };
+    for (double t = -59.99; t < 102; t += 0.037) {
+        const double pressure = RealSaturationPressure(t);
+        EXPECT_NEAR(table.SaturationPressureAt(t), pressure, 1e-9 * pressure) << t;
+        EXPECT_NEAR(temperature(pressure).value_or(-999), t, 1e-8) << t;
+    }
+    // Steam tables boil water at 99.974 degC under 1.01325 bar.
+    EXPECT_NEAR(temperature(101325).value_or(0), 99.974, 0.001);
+    for (const double outside : {0.0, 1.0, 110000.0, -5.0}) EXPECT_FALSE(temperature(outside));
 }
 
 }  // namespace
