@@ -81,6 +81,13 @@ BENCHMARK_CAPTURE(StateTable, json, RowFormat::Json, 1000)
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 
+void ExactTable(benchmark::State& rounds) {
+    constexpr int kRows = 1000000;
+    Table(rounds, *MakeExactAirCalculation(Files(), 1.013), Measurements(kRows, 1000),
+          RowFormat::Csv, kRows);
+}
+BENCHMARK(ExactTable)->UseRealTime()->Unit(benchmark::kMillisecond);
+
 void HumidityTable(benchmark::State& rounds) {
     constexpr int kRows = 100000;
     std::string table = "t,x,p\n";

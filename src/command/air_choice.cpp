@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "command/real_air_calculation.h"
+#include "command/real_air_figures.h"
 #include "command/table_cells.h"
 
 namespace zandrell {

@@ -25,12 +25,14 @@ constexpr const char* kStateHelp =
     "Columns in:    t (degC), rh (per cent), p (bar)\n"
     "Columns added: x_g_per_kg, h_kj_per_kg, h_dry_air_kj_per_kg, p_dry_air_pa, p_vapour_pa,\n"
     "               density_kg_per_m3, density_dry_air_kg_per_m3, t_boiling_k\n"
-    "With --air real two of the columns t, rh, x (g/kg), h (kJ/kg), t_dew, t_wet (degC), p_vapour\n"
-    "(Pa) and density (kg/m3) hold a number in each row, and all the others are worked out, over\n"
-    "ice up to 0.01 degC, from -60 to 100 degC and 0.5 to 2 bar. One state takes two of the "
-    "options\n"
-    "of the same names. Without --air air is real where two of these columns or options are given\n"
-    "that are not t and rh, which have the columns of the suite.\n";
+    "Under the Exact convention of the settings, and with --air real, also: t_degc, rh_percent,\n"
+    "               t_dew_degc, t_wet_degc, t_wet_liquid_degc, v_m3_per_kg, enhancement\n"
+    "Any two of the columns t, rh, x (g/kg), h (kJ/kg), t_dew, t_wet (degC), p_vapour (Pa) and\n"
+    "density (kg/m3) give a state of real air, over ice up to 0.01 degC, from -60 to 100 degC and\n"
+    "0.5 to 2 bar; one state takes two of the options of the same names. With --air real they may\n"
+    "change from row to row. Without --air t and rh give the air of the settings' convention, "
+    "which\n"
+    "goes on beyond these limits, and other figures are passed through where both are there.\n";
 
 constexpr const char* kInvertHelp =
     "rh-from-x       in: t, x (g/kg), p                             added: rh (per cent)\n"
@@ -91,19 +93,21 @@ void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->add_option("--t", typed.t, "one state instead of a table: temperature in degC");
     verb->add_option("--rh", typed.rh, "its relative humidity in per cent");
     verb->add_option("--p", typed.p, "its total pressure in bar; without it that of the settings");
-    verb->add_option("--air", typed.air,
-                     "suite or real; without it real where figures other than t and rh are given")
+    verb->add_option(
+            "--air", typed.air,
+            "suite or real; without it by the settings' convention, and real for figures other "
+            "than t and rh")
         ->check(CLI::IsMember({"suite", "real"}));
     for (std::size_t i = 2; i < kPairFigures; ++i) {
         verb->add_option(OptionOf(kPairFigureNames[i].name), typed.figures[i],
-                         "of one state of real air, in " + std::string(kPairFigureNames[i].unit));
+                         "of one state, in " + std::string(kPairFigureNames[i].unit));
     }
     verb->add_flag("--json", line.json, "one JSON object a line");
     verb->footer(std::string(kStateHelp) + kTableHelp);
     verb->callback([&] {
         line.verb = Verb::State;
         TakeAir(typed, line);
-        if ((line.state || line.real_state) && line.input != "-") {
+        if (line.state && line.input != "-") {
             Refuse("either one state or a table, not both");
         }
     });

@@ -5,9 +5,8 @@
 #include <string>
 
 #include "chart/chart_scale.h"
-#include "command/real_air_calculation.h"
+#include "command/real_air_figures.h"
 #include "command/selection_verbs.h"
-#include "command/single_state.h"
 #include "shell/start_up.h"
 
 namespace zandrell {
@@ -21,16 +20,18 @@ struct ChartRequest {
     int width = 1600, height = 900;  // pixels
 };
 
-// One state that is asked for on the command line; without p the pressure of the settings.
+// One state that is asked for on the command line, by two of its figures in the order of
+// kPairFigureNames; without p the pressure of the settings.
 struct StateOptions {
-    double t = 0, rh = 0;
+    GivenFigures given;
     std::optional<double> p;
 };
 
-// One state of real air by two of its figures, in the order of kPairFigureNames.
-struct RealStateOptions {
-    GivenFigures given;
-    std::optional<double> p;
+// Whose air the verb state works with.
+enum class AirChoice {
+    Convention,  // as the settings say for t and rh, real air for any other pair
+    Suite,
+    Real
 };
 
 // The page to print, and where to.
@@ -51,9 +52,7 @@ struct CommandLine {
     std::string input = "-";  // the table or script; "-" is the standard input
     std::string search;       // of the verb invert
     std::optional<StateOptions> state;
-    bool real_air = false;        // of the verb state
-    bool air_by_columns = false;  // real air too where the columns of the table are of it alone
-    std::optional<RealStateOptions> real_state;
+    AirChoice air = AirChoice::Convention;
     ChartRequest chart;
     std::optional<Convention> convention;  // of form, chart and print; empty as in the settings
     CatalogueRequest catalogue;

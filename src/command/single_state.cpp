@@ -4,9 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <optional>
 
-#include "command/row_calculations.h"
 #include "command/table_cells.h"
 #include "kernel/humid_air_state.h"
 
@@ -14,19 +12,29 @@ namespace zandrell {
 namespace {
 
 struct Quantity {
-    std::string_view name, unit;
+    std::string_view words, unit;
+    bool may_lack = false;
 };
 
 constexpr std::array<Quantity, 3> kGiven{
     {{"Temperature", "degC"}, {"Relative humidity", "%"}, {"Total pressure", "bar"}}};
-constexpr std::array<Quantity, kStateResults> kFound{{{"Humidity ratio", "g/kg dry air"},
-                                                      {"Enthalpy", "kJ/kg dry air"},
-                                                      {"Enthalpy of the dry air", "kJ/kg dry air"},
-                                                      {"Partial pressure of the dry air", "Pa"},
-                                                      {"Partial pressure of the vapour", "Pa"},
-                                                      {"Density", "kg/m3"},
-                                                      {"Density of dry air", "kg/m3"},
-                                                      {"Boiling temperature of water", "K"}}};
+// Those of the suite, then those of real air; the point, which stands above them, has no words.
+constexpr std::array<Quantity, kRealAirResults> kFound{
+    {{"Humidity ratio", "g/kg dry air"},
+     {"Enthalpy", "kJ/kg dry air"},
+     {"Enthalpy of the dry air", "kJ/kg dry air"},
+     {"Partial pressure of the dry air", "Pa"},
+     {"Partial pressure of the vapour", "Pa"},
+     {"Density", "kg/m3"},
+     {"Density of dry air", "kg/m3"},
+     {"Boiling temperature of water", "K"},
+     {},
+     {},
+     {"Dew or frost point", "degC", true},
+     {"Wet bulb", "degC", true},
+     {"Wet bulb not iced", "degC", true},
+     {"Specific volume", "m3/kg dry air"},
+     {"Enhancement factor", "", true}}};
 constexpr std::size_t kNameWidth = 32, kValueWidth = 13;
 
 std::string SevenDigits(double value) {
@@ -39,51 +47,74 @@ std::string SevenDigits(double value) {
 
 void AppendRow(std::string& text, const Quantity& quantity, std::optional<double> value) {
     const std::string digits = value ? SevenDigits(*value) : "-";
-    text += quantity.name;
-    text.append(kNameWidth - quantity.name.size(), ' ');
+    text += quantity.words;
+    text.append(kNameWidth - quantity.words.size(), ' ');
     text.append(kValueWidth - std::min(digits.size(), kValueWidth), ' ');
-    text.append(digits).append("  ").append(quantity.unit).append("\n");
+    text += digits;
+    if (!quantity.unit.empty()) text.append("  ").append(quantity.unit);
+    text += '\n';
 }
 
-// What of a state is a finite number.
-using FoundResults = std::array<std::optional<double>, kStateResults>;
+void AddRow(std::size_t place, std::optional<double> value, StateSheet& sheet) {
+    const auto& [words, unit, may_lack] = kFound[place];
+    sheet.rows.push_back({kRealAirResultNames[place], words, unit, value, may_lack});
+}
 
-// Replaces humidity and pressure in the question by those that were used.
-bool FindState(const WaterAirTables& tables, StateQuestion& question, FoundResults& found,
-               std::string& reason) {
-    double relF = question.rh / 100;
-    ClampArguments(relF, question.p);
-    if (!WithinLimits(relF, question.t, question.p)) {
-        reason = NoStateReason(question.t, question.p);
-        return false;
-    }
-    if (relF != question.rh / 100) question.rh = relF * 100;
-    const auto results =
-        ResultsOf(EvaluateAt(tables, EvaluatePressure(tables, question.p), relF, question.t));
-    for (std::size_t i = 0; i < found.size(); ++i) {
-        if (std::isfinite(results[i])) found[i] = results[i];
-    }
-    return true;
+StateSheet SheetOf(const StateQuestion& point, const RealAirResults& results) {
+    StateSheet sheet{point, {}};
+    sheet.rows.reserve(results.size());
+    for (std::size_t i = 0; i < results.size(); ++i) AddRow(i, results[i], sheet);
+    return sheet;
 }
 
 }  // namespace
 
-bool StateAsTable(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
-                  std::string& reason) {
-    StateQuestion used = question;
-    FoundResults results;
-    if (!FindState(tables, used, results, reason)) return false;
-    const std::array<double, kGiven.size()> given{used.t, used.rh, used.p};
-    for (std::size_t i = 0; i < given.size(); ++i) AppendRow(text, kGiven[i], given[i]);
-    for (std::size_t i = 0; i < results.size(); ++i) AppendRow(text, kFound[i], results[i]);
-    return true;
+std::optional<StateSheet> SuiteSheet(const WaterAirTables& tables, StateQuestion question,
+                                     std::string& reason) {
+    ClampQuestion(question);
+    const double relF = question.rh / 100;
+    if (!WithinLimits(relF, question.t, question.p)) {
+        reason = NoStateReason(question.t, question.p);
+        return std::nullopt;
+    }
+    const auto results =
+        ResultsOf(EvaluateAt(tables, EvaluatePressure(tables, question.p), relF, question.t));
+    StateSheet sheet{question, {}};
+    sheet.rows.reserve(results.size());
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        AddRow(i, std::isfinite(results[i]) ? std::optional(results[i]) : std::nullopt, sheet);
+    }
+    return sheet;
 }
 
-bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, std::string& text,
-                 std::string& reason) {
-    StateQuestion used = question;
-    FoundResults results;
-    if (!FindState(tables, used, results, reason)) return false;
+std::optional<StateSheet> ExactSheet(StateSolver& solver, StateQuestion question,
+                                     std::string& reason) {
+    RealAirResults results;
+    if (!FindExactAir(solver, question, results, reason)) return std::nullopt;
+    return SheetOf(question, results);
+}
+
+std::optional<StateSheet> RealSheet(const GivenFigures& given, double p_bar, std::string& reason) {
+    RealAirResults results;
+    if (!FindRealAir(given, p_bar, results, reason)) return std::nullopt;
+    const double t = results.Of(RealAirResult::Temperature).value_or(0);
+    const double rh = results.Of(RealAirResult::RelativeHumidity).value_or(0);
+    return SheetOf({t, rh, p_bar}, results);
+}
+
+std::string SheetAsTable(const StateSheet& sheet) {
+    std::string text;
+    const std::array<double, kGiven.size()> given{sheet.point.t, sheet.point.rh, sheet.point.p};
+    for (std::size_t i = 0; i < given.size(); ++i) AppendRow(text, kGiven[i], given[i]);
+    for (const auto& row : sheet.rows) {
+        const bool shown = !row.words.empty() && (row.value || !row.may_lack);
+        if (shown) AppendRow(text, {row.words, row.unit}, row.value);
+    }
+    return text;
+}
+
+std::string SheetAsJson(const StateSheet& sheet) {
+    std::string text;
     char mark = '{';
     const auto member = [&](std::string_view name, std::optional<double> value) {
         text += mark;
@@ -95,39 +126,11 @@ bool StateAsJson(const WaterAirTables& tables, const StateQuestion& question, st
         }
         mark = ',';
     };
-    member("t", used.t);
-    member("rh", used.rh);
-    member("p", used.p);
-    for (std::size_t i = 0; i < results.size(); ++i) member(kStateResultNames[i], results[i]);
-    text += "}\n";
-    return true;
-}
-
-bool RealStateAsTable(const GivenFigures& given, double p_bar, std::string& text,
-                      std::string& reason) {
-    RealAirResults results;
-    if (!FindRealAir(given, p_bar, results, reason)) return false;
-    AppendRow(text, kGiven.back(), p_bar);
-    for (std::size_t i = 0; i < results.size(); ++i) {
-        const auto& [column, words, unit] = kRealAirResultNames[i];
-        if (results[i]) AppendRow(text, {words, unit}, results[i]);
-    }
-    return true;
-}
-
-bool RealStateAsJson(const GivenFigures& given, double p_bar, std::string& text,
-                     std::string& reason) {
-    RealAirResults results;
-    if (!FindRealAir(given, p_bar, results, reason)) return false;
-    text += "{\"p\":";
-    AppendNumber(text, p_bar);
-    for (std::size_t i = 0; i < results.size(); ++i) {
-        if (!results[i]) continue;
-        text.append(",\"").append(kRealAirResultNames[i].column).append("\":");
-        AppendNumber(text, *results[i]);
-    }
-    text += "}\n";
-    return true;
+    member("t", sheet.point.t);
+    member("rh", sheet.point.rh);
+    member("p", sheet.point.p);
+    for (const auto& row : sheet.rows) member(row.column, row.value);
+    return text + "}\n";
 }
 
 }  // namespace zandrell

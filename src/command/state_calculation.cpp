@@ -44,6 +44,18 @@ class StateCalculation : public RowCalculation {
     std::optional<PressurePoint> pressure_;
 };
 
+}  // namespace
+
+constexpr std::array<std::string_view, kStateResults> kStateResultNames{
+    "x_g_per_kg",  "h_kj_per_kg",       "h_dry_air_kj_per_kg",       "p_dry_air_pa",
+    "p_vapour_pa", "density_kg_per_m3", "density_dry_air_kg_per_m3", "t_boiling_k"};
+
+std::array<double, kStateResults> ResultsOf(const AirState& state) {
+    return {
+        state.ZustandX,      state.ZustandH,      state.ZustandHLuft,         state.ZustandPLuft,
+        state.ZustandPDampf, state.ZustandDichte, state.ZustandDichteTrocken, state.SiedeTempK};
+}
+
 std::string OutsideText(std::string_view name, double value, double low, double high,
                         std::string_view unit) {
     std::string text(name);
@@ -57,23 +69,17 @@ std::string OutsideText(std::string_view name, double value, double low, double 
     return text.append(unit);
 }
 
-}  // namespace
-
-constexpr std::array<std::string_view, kStateResults> kStateResultNames{
-    "x_g_per_kg",  "h_kj_per_kg",       "h_dry_air_kj_per_kg",       "p_dry_air_pa",
-    "p_vapour_pa", "density_kg_per_m3", "density_dry_air_kg_per_m3", "t_boiling_k"};
-
-std::array<double, kStateResults> ResultsOf(const AirState& state) {
-    return {
-        state.ZustandX,      state.ZustandH,      state.ZustandHLuft,         state.ZustandPLuft,
-        state.ZustandPDampf, state.ZustandDichte, state.ZustandDichteTrocken, state.SiedeTempK};
+void ClampQuestion(StateQuestion& question) {
+    double relF = question.rh / 100;
+    ClampArguments(relF, question.p);
+    if (relF != question.rh / 100) question.rh = relF * 100;
 }
 
-std::string NoStateReason(double t, double p_bar) {
+std::string NoStateReason(double t, double p_bar, double lowest_t) {
     if (!(p_bar >= kLowestPressureBar && p_bar <= kHighestPressureBar)) {
         return OutsideText("p", p_bar, kLowestPressureBar, kHighestPressureBar, "bar");
     }
-    return OutsideText("t", t, kLowestTemperature, kHighestTemperature, "degC");
+    return OutsideText("t", t, lowest_t, kHighestTemperature, "degC");
 }
 
 std::unique_ptr<RowCalculation> MakeStateCalculation(const WaterAirTables& tables,

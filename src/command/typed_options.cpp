@@ -43,47 +43,30 @@ std::vector<double> NumbersOf(const std::string& option, const std::string& text
     return numbers;
 }
 
-void TakeState(const TypedOptions& typed, CommandLine& line) {
-    if (typed.t.empty() && typed.rh.empty() && typed.p.empty()) return;
-    if (typed.t.empty() || typed.rh.empty()) Refuse("one state needs both --t and --rh");
-    StateOptions state;
-    state.t = NumberOf("--t", typed.t);
-    state.rh = NumberOf("--rh", typed.rh);
-    if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
-    line.state = state;
+const std::string& TypedFigure(const TypedOptions& typed, std::size_t place) {
+    return place == 0 ? typed.t : place == 1 ? typed.rh : typed.figures[place];
 }
 
 // Two of the figures, or none for a table.
-void TakeRealState(const TypedOptions& typed, CommandLine& line) {
-    RealStateOptions state;
-    std::size_t given = 0;
+void TakeState(const TypedOptions& typed, CommandLine& line) {
+    StateOptions state;
+    std::size_t count = 0, of_real_air = 0;
     for (std::size_t i = 0; i < kPairFigures; ++i) {
-        const std::string& text = i == 0 ? typed.t : i == 1 ? typed.rh : typed.figures[i];
+        const std::string& text = TypedFigure(typed, i);
         if (text.empty()) continue;
-        state.given[i] = NumberOf(OptionOf(kPairFigureNames[i].name), text);
-        ++given;
+        const std::string option = OptionOf(kPairFigureNames[i].name);
+        if (i > 1 && line.air == AirChoice::Suite) Refuse(option + " needs --air real");
+        if (i > 1) ++of_real_air;
+        state.given[i] = NumberOf(option, text);
+        ++count;
     }
-    if (given == 0 && typed.p.empty()) return;
-    if (given != 2) Refuse("one state needs two figures");
+    if (count == 0 && typed.p.empty()) return;
+    if (count != 2) {
+        Refuse(of_real_air == 0 && line.air != AirChoice::Real ? "one state needs both --t and --rh"
+                                                               : "one state needs two figures");
+    }
     if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
-    line.real_state = state;
-}
-
-void TakeSuiteState(const TypedOptions& typed, CommandLine& line) {
-    for (std::size_t i = 2; i < kPairFigures; ++i) {
-        if (!typed.figures[i].empty()) {
-            Refuse(OptionOf(kPairFigureNames[i].name) + " needs --air real");
-        }
-    }
-    TakeState(typed, line);
-}
-
-// What is asked for chooses the air where the user does not: only real air is known by other
-// figures than t and rh. Scripts that ask by these two rely on the suite's columns.
-bool AsksForRealAir(const TypedOptions& typed) {
-    if (!typed.air.empty()) return typed.air == "real";
-    return std::any_of(typed.figures.begin() + 2, typed.figures.end(),
-                       [](const std::string& figure) { return !figure.empty(); });
+    line.state = state;
 }
 
 int SideOf(double pixels) {
@@ -116,9 +99,8 @@ void TakeZoom(const std::string& text, ChartRequest& chart) {
 }  // namespace
 
 void TakeAir(const TypedOptions& typed, CommandLine& line) {
-    line.real_air = AsksForRealAir(typed);
-    (line.real_air ? TakeRealState : TakeSuiteState)(typed, line);
-    line.air_by_columns = typed.air.empty() && !line.state && !line.real_state;
+    if (!typed.air.empty()) line.air = typed.air == "real" ? AirChoice::Real : AirChoice::Suite;
+    TakeState(typed, line);
 }
 
 void TakeConvention(const TypedOptions& typed, CommandLine& line) {

@@ -9,6 +9,7 @@
 #include "command/row_calculations.h"
 #include "command/sibling_printer.h"
 #include "command/single_state.h"
+#include "kernel/state_solver.h"
 #include "kernel/water_air_tables.h"
 #include "shell/form_script.h"
 #include "shell/selection_stage.h"
@@ -47,24 +48,42 @@ struct CalculationData {
     }
 };
 
-bool AskOneState(const CalculationData& data, const CommandLine& line, std::string& text,
-                 std::string& error) {
-    const double usual_bar = data.settings.pressure_bar;
-    if (line.real_state) {
-        const auto show = line.json ? RealStateAsJson : RealStateAsTable;
-        return show(line.real_state->given, line.real_state->p.value_or(usual_bar), text, error);
-    }
-    const StateQuestion question{line.state->t, line.state->rh, line.state->p.value_or(usual_bar)};
-    return (line.json ? StateAsJson : StateAsTable)(data.tables, question, text, error);
+// The air that is worked with; Suite and Exact know it by t and rh alone.
+enum class Air { Suite, Exact, Real };
+
+Air AirFor(AirChoice choice, bool by_other_figures, const CalculationData& data) {
+    if (choice == AirChoice::Suite) return Air::Suite;
+    if (choice == AirChoice::Real || by_other_figures) return Air::Real;
+    return data.settings.convention == Convention::Exact ? Air::Exact : Air::Suite;
 }
 
-bool ShowOneState(const CalculationData& data, const CommandLine& line, const ByteSink& output,
-                  std::string& error) {
-    std::string text;
-    if (!AskOneState(data, line, text, error)) return false;
-    if (output(text)) return true;
+std::optional<StateSheet> SheetFor(Air air, const StateOptions& asked, const CalculationData& data,
+                                   std::string& error) {
+    const double p_bar = asked.p.value_or(data.settings.pressure_bar);
+    if (air == Air::Real) return RealSheet(asked.given, p_bar, error);
+    const StateQuestion question{asked.given[0].value_or(0), asked.given[1].value_or(0), p_bar};
+    if (air == Air::Suite) return SuiteSheet(data.tables, question, error);
+    StateSolver solver(data.files);
+    return ExactSheet(solver, question, error);
+}
+
+bool ShowOneState(const CommandLine& line, const ByteSink& output, std::string& error) {
+    CalculationData data(line.data);
+    const auto& given = line.state->given;
+    const Air air = AirFor(line.air, !(given[0] && given[1]), data);
+    if (air != Air::Real && !data.ReadTables(error)) return false;
+    const auto sheet = SheetFor(air, *line.state, data, error);
+    if (!sheet) return false;
+    if (output(line.json ? SheetAsJson(*sheet) : SheetAsTable(*sheet))) return true;
     error = "the output cannot be written";
     return false;
+}
+
+std::unique_ptr<RowCalculation> CalculationFor(Air air, const CalculationData& data) {
+    const double p_bar = data.settings.pressure_bar;
+    if (air == Air::Real) return MakeRealAirCalculation(p_bar);
+    if (air == Air::Exact) return MakeExactAirCalculation(data.files, p_bar);
+    return MakeStateCalculation(data.tables, p_bar);
 }
 
 RowFormat FormatOf(const CommandLine& line) { return line.json ? RowFormat::Json : RowFormat::Csv; }
@@ -72,15 +91,13 @@ RowFormat FormatOf(const CommandLine& line) { return line.json ? RowFormat::Json
 }  // namespace
 
 bool RunState(const CommandLine& line, const RowStreams& streams, std::string& error) {
+    if (line.state) return ShowOneState(line, streams.output, error);
     CalculationData data(line.data);
     RowStreams table = streams;
-    const bool real_air = line.real_air || (line.air_by_columns && TableIsOfRealAir(table.input));
-    if (!real_air && !data.ReadTables(error)) return false;
-    if (line.state || line.real_state) return ShowOneState(data, line, streams.output, error);
-    const auto calculation = real_air
-                                 ? MakeRealAirCalculation(data.settings.pressure_bar)
-                                 : MakeStateCalculation(data.tables, data.settings.pressure_bar);
-    return RunRows(*calculation, FormatOf(line), table, error);
+    const bool asked = line.air != AirChoice::Convention;
+    const Air air = AirFor(line.air, !asked && TableIsOfRealAir(table.input), data);
+    if (air != Air::Real && !data.ReadTables(error)) return false;
+    return RunRows(*CalculationFor(air, data), FormatOf(line), table, error);
 }
 
 bool RunInvert(const CommandLine& line, const RowStreams& streams, std::string& error) {

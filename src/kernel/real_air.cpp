@@ -149,22 +149,38 @@ std::optional<double> NearDewPoint(double vapour_pressure, double p_bar) {
     });
 }
 
+// IAPWS-IF97, table 34.
+constexpr double kSaturationLine[] = {0.11670521452767e4,  -0.72421316703206e6, -0.17073846940092e2,
+                                      0.12020824702470e5,  -0.32325550322333e7, 0.14915108613530e2,
+                                      -0.48232657361591e4, 0.40511340542057e6,  -0.23855557567849,
+                                      0.65017534844798e3};
+
 }  // namespace
 
 double RealSaturationPressure(double t) {
     if (t <= kIceUpTo)
         return RealAirTable::kTriplePressure *
                std::exp(FitAt(real_air::kSublimation, FitVariable(t)));
-    constexpr double n[] = {0.11670521452767e4,  -0.72421316703206e6, -0.17073846940092e2,
-                            0.12020824702470e5,  -0.32325550322333e7, 0.14915108613530e2,
-                            -0.48232657361591e4, 0.40511340542057e6,  -0.23855557567849,
-                            0.65017534844798e3};
+    const auto& n = kSaturationLine;
     const double T = t + kKelvinOffset, theta = T + n[8] / (T - n[9]);
     const double A = (theta + n[0]) * theta + n[1];
     const double B = (n[2] * theta + n[3]) * theta + n[4];
     const double C = (n[5] * theta + n[6]) * theta + n[7];
     const double root = 2 * C / (-B + std::sqrt(B * B - 4 * A * C));
     return 1e6 * root * root * root * root;
+}
+
+std::optional<double> RealBoilingTemperature(double p_bar) {
+    constexpr double kTripleBar = 0.00611657, kCriticalBar = 220.64;
+    if (!(p_bar >= kTripleBar && p_bar <= kCriticalBar)) return std::nullopt;
+    const auto& n = kSaturationLine;
+    const double square = std::sqrt(p_bar / 10), beta = std::sqrt(square);  // of MPa
+    const double E = square + n[2] * beta + n[5];
+    const double F = n[0] * square + n[3] * beta + n[6];
+    const double G = n[1] * square + n[4] * beta + n[7];
+    const double D = n[9] + 2 * G / (-F - std::sqrt(F * F - 4 * E * G));
+    const double T = (D - std::sqrt(D * D - 4 * (n[8] + n[9] * (D - n[9])))) / 2;
+    return T - kKelvinOffset;
 }
 
 double RealSaturatedVapour(double t, double p_bar) {

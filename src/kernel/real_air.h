@@ -40,6 +40,10 @@ struct RealAirState {
 // from -100), over liquid water above (IAPWS-IF97, equation 30, to 373 degC).
 double RealSaturationPressure(double t);
 
+// The temperature in degC at which pure water boils at p_bar (IAPWS-IF97, equation 31, which is
+// the one above turned round). Empty below the triple point and above the critical one.
+std::optional<double> RealBoilingTemperature(double p_bar);
+
 // The pressure in Pa of vapour that saturates air at t and p_bar, from -100 degC: that of pure
 // water, raised by the enhancement factor; above boiling without it.
 double RealSaturatedVapour(double t, double p_bar);

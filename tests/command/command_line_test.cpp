@@ -31,6 +31,9 @@ TEST(CommandLine, RefusesInOneClearLine) {
              {{"state", "--frob"}, "--frob"},
              {{"state", "--t", "5"}, "both --t and --rh"},
              {{"state", "--p", "1"}, "both --t and --rh"},
+             {{"state", "--rh", "5", "--t-wet", "3", "--t", "4"}, "needs two figures"},
+             {{"state", "--air", "real", "--t", "5"}, "needs two figures"},
+             {{"state", "--air", "suite", "--t", "5", "--x", "5"}, "--x needs --air real"},
              {{"state", "--t", "warm", "--rh", "50"}, "--t: no number: \"warm\""},
              {{"state", "a.csv", "--t", "1", "--rh", "50"}, "not both"},
              {{"invert"}, "SEARCH"},
@@ -60,8 +63,9 @@ TEST(CommandLine, TakesWhatIsAsked) {
     Reading state;
     Read({"state", "--t", "-2,5", "--rh=50", "--data", "set", "--json"}, state);
     ASSERT_FALSE(state.status) << state.error;
-    EXPECT_EQ(state.line.state->t, -2.5);
-    EXPECT_EQ(state.line.state->rh, 50);
+    EXPECT_EQ(state.line.state->given[0], -2.5);
+    EXPECT_EQ(state.line.state->given[1], 50);
+    EXPECT_EQ(state.line.air, AirChoice::Convention);
     EXPECT_FALSE(state.line.state->p);
     EXPECT_EQ(state.line.data, "set");
     EXPECT_TRUE(state.line.json);

@@ -2,15 +2,36 @@
 #include <nlohmann/json.hpp>
 
 #include "command/table_run.h"
+#include "support/test_folder.h"
 
 namespace zandrell::command_test {
 namespace {
 
-CommandLine RealLine() {
-    CommandLine line = StateLine();
-    line.real_air = true;
-    return line;
-}
+CommandLine RealLine() { return StateLine(AirChoice::Real); }
+
+constexpr const char* kAdded =
+    "x_g_per_kg,h_kj_per_kg,h_dry_air_kj_per_kg,p_dry_air_pa,p_vapour_pa,density_kg_per_m3,"
+    "density_dry_air_kg_per_m3,t_boiling_k,t_degc,rh_percent,t_dew_degc,t_wet_degc,"
+    "t_wet_liquid_degc,v_m3_per_kg,enhancement";
+
+enum Result {
+    kX,
+    kEnthalpy,
+    kDryEnthalpy,
+    kDryPressure,
+    kVapourPressure,
+    kDensity,
+    kDryDensity,
+    kBoiling,
+    kT,
+    kHumidity,
+    kDewPoint,
+    kWetBulb,
+    kLiquidBulb,
+    kVolume,
+    kEnhancement,
+    kResults
+};
 
 // From an independent calculation of the model: 25 degC, 50 % at 1.01325 bar.
 TEST(RealAirTable, AnyTwoFiguresGiveAllOthers) {
@@ -35,47 +56,119 @@ TEST(RealAirTable, AnyTwoFiguresGiveAllOthers) {
         EXPECT_EQ(run.reports, "") << table;
         const auto lines = Lines(run.output);
         ASSERT_EQ(lines.size(), 2U);
-        EXPECT_EQ(lines[0], head +
-                                ",p,t_degc,rh_percent,x_g_per_kg,h_kj_per_kg,t_dew_degc,t_wet_degc,"
-                                "t_wet_liquid_degc,p_vapour_pa,density_kg_per_m3,v_m3_per_kg,"
-                                "enhancement");
-        const auto found = LastNumbers(lines[1], 11);
-        EXPECT_NEAR(found[0], 25, 0.002) << table;
-        EXPECT_NEAR(found[1], 50, 0.02) << table;
-        EXPECT_NEAR(found[2], 9.9257393, 0.002) << table;
-        EXPECT_NEAR(found[3], 50.4234504, 0.005) << table;
-        EXPECT_NEAR(found[4], 13.86689, 0.002) << table;
-        EXPECT_NEAR(found[5], 17.88349, 0.002) << table;
-        EXPECT_EQ(found[6], -1e9) << "there is one wet bulb";
-        EXPECT_NEAR(found[8], 1.1773602, 0.0002) << table;
+        EXPECT_EQ(lines[0], head + ",p," + kAdded);
+        const auto found = LastNumbers(lines[1], kResults);
+        EXPECT_NEAR(found[kT], 25, 0.002) << table;
+        EXPECT_NEAR(found[kHumidity], 50, 0.02) << table;
+        EXPECT_NEAR(found[kX], 9.9257393, 0.002) << table;
+        EXPECT_NEAR(found[kEnthalpy], 50.4234504, 0.005) << table;
+        EXPECT_NEAR(found[kDewPoint], 13.86689, 0.002) << table;
+        EXPECT_NEAR(found[kWetBulb], 17.88349, 0.002) << table;
+        EXPECT_EQ(found[kLiquidBulb], -1e9) << "there is one wet bulb";
+        EXPECT_NEAR(found[kDensity], 1.1773602, 0.0002) << table;
+        // The same calculation for dry air.
+        EXPECT_NEAR(found[kDryEnthalpy], 25.1484154, 0.005) << table;
+        EXPECT_NEAR(found[kDryDensity], 1.18434596, 0.0002) << table;
+        EXPECT_NEAR(found[kDryPressure], 101325 - 1591.66341, 0.3) << table;
+        EXPECT_NEAR(found[kBoiling], 373.124, 0.001) << "the normal boiling point of water";
     }
 }
 
-TEST(RealAirTable, WithoutAChoiceTheColumnsChooseTheAir) {
+TEST(RealAirTable, WithoutAChoiceOtherFiguresThanTAndRhAreOfRealAir) {
     const struct {
-        const char *table, *added;
+        const char* table;
         bool real;
-    } rows[] = {{"t,rh,p\n25,50,1\n", "density_dry_air_kg_per_m3,t_boiling_k", false},
-                {"t,rh,t_wet,p\n25,50,18,1\n", "density_dry_air_kg_per_m3,t_boiling_k", false},
-                {"room, t ,\"t_wet\",p\r\n7,25,18,1\r\n", "v_m3_per_kg,enhancement", true},
-                {"\xEF\xBB\xBFx,h,p\n7,40,1", "v_m3_per_kg,enhancement", true}};
+    } rows[] = {{"t,rh,p\n25,50,1\n", false},
+                {"t,rh,t_wet,p\n25,50,18,1\n", false},
+                {"room, t ,\"t_wet\",p\r\n7,25,18,1\r\n", true},
+                {"\xEF\xBB\xBFx,h,p\n7,40,1", true}};
+    const TestFolder folder;  // with settings of the suite
+    folder.CopyWholeSet();
     for (const auto& row : rows) {
-        CommandLine line = StateLine();
-        line.air_by_columns = true;
-        const TableRun run = RunTable(line, row.table);
-        ASSERT_TRUE(run.done) << row.table << run.error;
-        EXPECT_EQ(run.reports, "") << row.table;
-        const auto lines = Lines(run.output);
-        ASSERT_EQ(lines.size(), 2U) << row.table;
-        EXPECT_TRUE(lines[0].ends_with(row.added)) << lines[0];
-        EXPECT_GT(LastNumbers(lines[1], 1)[0], 0.9) << "a result in the last column";
-        line.air_by_columns = false;
+        CommandLine line = StateLine(AirChoice::Convention);
+        for (const bool suite : {false, true}) {
+            if (suite) line.data = folder.Path();
+            const TableRun run = RunTable(line, row.table);
+            ASSERT_TRUE(run.done) << row.table << run.error;
+            EXPECT_EQ(run.reports, "") << row.table;
+            const auto lines = Lines(run.output);
+            ASSERT_EQ(lines.size(), 2U) << row.table;
+            EXPECT_EQ(lines[0].ends_with(kAdded), row.real || !suite) << lines[0];
+            EXPECT_EQ(lines[0].ends_with("t_boiling_k"), !row.real && suite) << lines[0];
+            EXPECT_GT(LastNumbers(lines[1], 1)[0], 0.9) << "a result in the last column";
+        }
+        line.air = AirChoice::Suite;
         EXPECT_EQ(RunTable(line, row.table).done, !row.real) << "the suite needs t and rh";
     }
-    CommandLine line = StateLine();
-    line.air_by_columns = true;
+    const CommandLine line = StateLine(AirChoice::Convention);
     EXPECT_FALSE(RunTable(line, "").done);
+    EXPECT_EQ(RunTable(line, "t,RH\n").error, "line 1: there is no column rh");
     EXPECT_TRUE(RunTable(line, "t,x").done) << "a header alone is a table without rows";
+}
+
+// Scripts that read the suite's columns find them in their places, with figures of real air.
+TEST(RealAirTable, WithoutAChoiceTAndRhHaveTheAirOfTheSettings) {
+    const std::string table = "t,rh,p\n25,50,1.01325\n-10,90,1\n20,130,1\n120,10,1.01325\n";
+    CommandLine line = StateLine(AirChoice::Convention);
+    const auto exact = Lines(RunTable(line, table).output);
+    line.air = AirChoice::Real;
+    const auto real = Lines(RunTable(line, table).output);
+    line.air = AirChoice::Suite;
+    const TableRun suite = RunTable(line, table);
+    const auto names = Lines(suite.output)[0];
+    EXPECT_TRUE(exact[0].starts_with(names + ",t_degc")) << exact[0];
+    EXPECT_EQ(exact[1], real[1]);
+    EXPECT_EQ(exact[2], real[2]);
+    EXPECT_NE(exact[2], Lines(suite.output)[2]);
+    EXPECT_EQ(LastNumbers(exact[3], kResults)[kHumidity], 100) << "what was used in its place";
+
+    const TestFolder folder;  // with settings of the suite
+    folder.CopyWholeSet();
+    line = StateLine(AirChoice::Convention);
+    line.data = folder.Path();
+    EXPECT_EQ(RunTable(line, table).output, suite.output) << "settings of an older installation";
+    line.state = StateOptions{{25, 50}, 1.01325};
+    EXPECT_EQ(Lines(RunTable(line, "").output).size(), 11U);
+    line.data = ZANDRELL_STAGED_DATA;
+    EXPECT_NE(RunTable(line, "").output.find("Wet bulb                             17.88349"),
+              std::string::npos);
+}
+
+// Beyond the model the air of the settings goes on; where it ends too, the limits are its own.
+TEST(RealAirTable, TheAirOfTheSettingsGoesOnBeyondTheModel) {
+    const TableRun run = RunTable(StateLine(AirChoice::Convention),
+                                  "t,rh,p\n120,10,1.01325\n99.999999,5,1\n100.000001,5,1\n-55,50,1"
+                                  "\n20,50,3\n20,50,0.3\n-55,50,3\n-61,50,1\n801,1,1\n20,50,9\n"
+                                  "120,60,1.01325\n20,0,3\n20,,1\n");
+    ASSERT_TRUE(run.done) << run.error;
+    // Of 198.67 kPa, the pressure of steam at 120 degC, 101.325 are 51 %.
+    const std::vector<std::string> reasons{
+        "line 8: t = -55 is outside -50..800 degC",
+        "line 9: t = -61 is outside -60..800 degC",
+        "line 10: t = 801 is outside -60..800 degC",
+        "line 11: p = 9 is outside 0..8.5 bar",
+        "line 12: rh = 60 is outside 0..51.002842 %, with this t",
+        "line 14: rh is empty"};
+    EXPECT_EQ(Lines(run.reports), reasons);
+    const auto lines = Lines(run.output);
+    ASSERT_EQ(lines.size(), 14U);
+    // Steam tables: 198.67 kPa at 120 degC. x = 621.945 * 19867 / (101325 - 19867); the density by
+    // the gas law, 81458 / (287.04 * 393.15) + 19867 / (461.5 * 393.15).
+    const auto hot = LastNumbers(lines[1], kResults);
+    EXPECT_NEAR(hot[kVapourPressure], 19867, 2);
+    EXPECT_NEAR(hot[kX], 151.69, 0.05);
+    EXPECT_NEAR(hot[kDensity], 0.8313, 0.002);
+    EXPECT_EQ(hot[kEnhancement], -1e9);
+    const auto below = LastNumbers(lines[2], kResults), above = LastNumbers(lines[3], kResults);
+    for (std::size_t i = 0; i < kEnhancement; ++i) {
+        EXPECT_NEAR(below[i], above[i], 1e-6 * std::abs(below[i])) << "no jump in figure " << i;
+    }
+    // Over ice at -55 degC 2.0934 Pa (IAPWS R14-08), which the enhancement raises by 0.7 %.
+    EXPECT_NEAR(LastNumbers(lines[4], kResults)[kVapourPressure], 1.0467 * 1.0066, 0.001);
+    // 1169.6 Pa by the steam tables, more or less of which is enhancement.
+    EXPECT_NEAR(LastNumbers(lines[5], kResults)[kVapourPressure], 1169.6, 12);
+    EXPECT_NEAR(LastNumbers(lines[6], kResults)[kVapourPressure], 1169.6, 12);
+    EXPECT_EQ(LastNumbers(lines[12], kResults)[kDewPoint], -1e9) << "dry air";
 }
 
 TEST(RealAirTable, SaysLineByLineWhatIsWrong) {
@@ -97,28 +190,27 @@ TEST(RealAirTable, SaysLineByLineWhatIsWrong) {
     EXPECT_EQ(Lines(run.reports), reasons);
     const auto lines = Lines(run.output);
     ASSERT_EQ(lines.size(), 12U);
-    EXPECT_TRUE(lines[1].ends_with(",,,,,,,,,,,")) << lines[1];
-    const auto both = LastNumbers(lines[9], 11);
-    EXPECT_EQ(both[5], 0) << "iced";
-    EXPECT_GT(both[6], 0.01) << "a wet bulb that is not iced is a solution too";
-    const auto dry = LastNumbers(lines[10], 11);
-    EXPECT_EQ(dry[4], -1e9) << "dry air has no dew point, and that is no fault";
-    EXPECT_EQ(dry[2], 0);
+    EXPECT_TRUE(lines[1].ends_with(std::string(kResults, ','))) << lines[1];
+    const auto both = LastNumbers(lines[9], kResults);
+    EXPECT_EQ(both[kWetBulb], 0) << "iced";
+    EXPECT_GT(both[kLiquidBulb], 0.01) << "a wet bulb that is not iced is a solution too";
+    const auto dry = LastNumbers(lines[10], kResults);
+    EXPECT_EQ(dry[kDewPoint], -1e9) << "dry air has no dew point, and that is no fault";
+    EXPECT_EQ(dry[kX], 0);
 }
 
 TEST(RealAirTable, OneStateForPeopleAndAsJson) {
     CommandLine line = RealLine();
-    line.real_state = RealStateOptions{};
-    line.real_state->given[0] = 25;
-    line.real_state->given[1] = 50;
-    line.real_state->p = 1.01325;
+    line.state = StateOptions{{25, 50}, 1.01325};
     const TableRun people = RunTable(line, "");
     EXPECT_NE(people.output.find("Dew or frost point"), std::string::npos);
     EXPECT_EQ(people.output.find("not iced"), std::string::npos);
     line.json = true;
     const auto json = nlohmann::json::parse(RunTable(line, "").output);
     EXPECT_NEAR(json["t_wet_degc"].get<double>(), 17.88349, 0.002);
-    line.real_state->given[1] = 150;
+    EXPECT_TRUE(json["t_wet_liquid_degc"].is_null());
+    EXPECT_EQ(json["t"], 25);
+    line.state->given[1] = 150;
     const TableRun wrong = RunTable(line, "");
     EXPECT_FALSE(wrong.done);
     EXPECT_EQ(wrong.error, "rh = 150 is outside 0..100 %");

@@ -165,7 +165,7 @@ TEST(StateTable, ResultsAreLackingOneByOne) {
     EXPECT_NEAR(LastNumbers(lines[2], 6)[0], 60.4, 0.1);
     EXPECT_NEAR(LastNumbers(lines[2], 4)[0], 0.02 * 19920, 5);
 
-    line.state = StateOptions{60, 2, 1.013};
+    line.state = StateOptions{{60, 2}, 1.013};
     EXPECT_EQ(Lines(RunTable(line, "").output)[4],
               "Enthalpy                                    -  kJ/kg dry air");
     line.json = true;
@@ -254,7 +254,7 @@ TEST(StateTable, StopsWhenNobodyTakesTheOutput) {
 
 TEST(SingleState, ShowsATableForPeople) {
     CommandLine line = StateLine();
-    line.state = StateOptions{20, 150, std::nullopt};
+    line.state = StateOptions{{20, 150}, std::nullopt};
     const auto lines = Lines(RunTable(line, "").output);
     ASSERT_EQ(lines.size(), 11U);
     for (const auto& text : lines) EXPECT_EQ(text.find("  ", 33 + 11), 45U) << text;
@@ -265,7 +265,7 @@ TEST(SingleState, ShowsATableForPeople) {
     const auto json = nlohmann::json::parse(RunTable(line, "").output);
     EXPECT_EQ(json["rh"], 100) << "what was used, as in the table";
     EXPECT_NEAR(json["p_vapour_pa"].get<double>(), 2339.085126, 1e-5);
-    line.state->t = -50.5;
+    line.state->given[0] = -50.5;
     const TableRun outside = RunTable(line, "");
     EXPECT_FALSE(outside.done);
     EXPECT_EQ(outside.error, "t = -50.5 is outside -50..800 degC");

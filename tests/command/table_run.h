@@ -34,9 +34,10 @@ inline TableRun RunTable(const CommandLine& line, const std::string& table,
     return run;
 }
 
-inline CommandLine StateLine() {
+inline CommandLine StateLine(AirChoice air = AirChoice::Suite) {
     CommandLine line;
     line.data = ZANDRELL_STAGED_DATA;
+    line.air = air;
     return line;
 }
 
@@ -61,6 +62,7 @@ inline std::vector<double> LastNumbers(const std::string& row, std::size_t count
     for (std::string cell; std::getline(stream, cell, ',');) {
         numbers.push_back(cell.empty() ? -1e9 : std::stod(cell));
     }
+    if (row.ends_with(',')) numbers.push_back(-1e9);
     if (numbers.size() < count) return std::vector<double>(count, -1e9);
     return {numbers.end() - static_cast<std::ptrdiff_t>(count), numbers.end()};
 }

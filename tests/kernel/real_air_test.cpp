@@ -65,6 +65,18 @@ TEST(RealAir, MeetsThePublishedTables) {
     for (const auto& row : saturation) {
         EXPECT_NEAR(RealSaturationPressure(row.t), row.p, 0.006 + 2e-5 * row.p) << row.t;
     }
+    // IAPWS-IF97, table 36.
+    const struct {
+        double p_bar, T;
+    } boiling[] = {{1, 372.755919}, {10, 453.035632}, {100, 584.149488}};
+    for (const auto& row : boiling) {
+        const auto t = RealBoilingTemperature(row.p_bar);
+        EXPECT_NEAR(t.value_or(0) + 273.15, row.T, 1e-6) << row.p_bar;
+        EXPECT_NEAR(RealSaturationPressure(*t), 1e5 * row.p_bar, 1e-3 * row.p_bar) << row.p_bar;
+    }
+    for (const double p_bar : {0.006, 221.0, std::nan("")}) {
+        EXPECT_FALSE(RealBoilingTemperature(p_bar)) << p_bar;
+    }
     EXPECT_NEAR(EvaluateRealAir(0, 25, 1.01325)->volume, 0.8443, 0.0001);
     EXPECT_NEAR(EvaluateRealAir(0, 0, 1.01325)->enthalpy, 0, 0.0005);
 }
