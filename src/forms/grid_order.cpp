@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/captions.h"
+#include "base/data_files.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 
@@ -86,6 +88,15 @@ std::string GridAsCsv(const Grid& grid) {
         csv += "\r\n";
     }
     return csv;
+}
+
+std::string SaveAsCsv(const Grid& grid, const std::string& file, const DataFiles& files,
+                      const Captions& captions) {
+    std::string reason;
+    const FileStatus status =
+        files.ReplaceBytes(file, GridAsCsv(grid), Durability::Flushed, &reason);
+    if (status == FileStatus::Ok) return captions[Caption::Saved] + " " + file;
+    return FilledIn(captions[Caption::SavingFailed], {file, reason});
 }
 
 }  // namespace zandrell

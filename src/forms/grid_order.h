@@ -6,6 +6,9 @@
 
 namespace zandrell {
 
+class Captions;
+class DataFiles;
+
 // The order of a grid that its user asked for.
 struct GridOrder {
     int column = -1;  // -1: as it was filled
@@ -22,5 +25,9 @@ void SortRows(Grid& grid, const GridOrder& order);
 // The visible columns and rows as comma-separated values, CR LF behind each line. Cells lose the
 // blanks around them; one with a comma, a quote or a line end stands in double quotes.
 std::string GridAsCsv(const Grid& grid);
+
+// Replaces the file by them; how that went, in the words of the language in force.
+std::string SaveAsCsv(const Grid& grid, const std::string& file, const DataFiles& files,
+                      const Captions& captions);
 
 }  // namespace zandrell

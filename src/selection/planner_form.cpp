@@ -217,12 +217,8 @@ void PlannerForm::WriteCsv() {
     for (const char sign : std::string_view("/\\:*?\"<>|")) std::erase(proposal, sign);
     const std::string file = ask_file ? ask_file(proposal + ".csv") : "";
     if (file.empty()) return;
-    std::string reason;
-    const FileStatus status = context_.files.ReplaceBytes(
-        file, GridAsCsv(units ? c.Venttab : c.KatalogSpread), Durability::Flushed, &reason);
-    Message.text = status == FileStatus::Ok
-                       ? file
-                       : FilledIn(context_.captions[Caption::SavingFailed], {file, reason});
+    const Grid& grid = units ? c.Venttab : c.KatalogSpread;
+    Message.text = SaveAsCsv(grid, file, context_.files, context_.captions);
 }
 
 }  // namespace zandrell

@@ -74,13 +74,7 @@ void StateTableForm::Sort() {
 
 void StateTableForm::SaveCsv() {
     const std::string file = ask_file ? ask_file() : "";
-    if (file.empty()) return;
-    std::string reason;
-    const FileStatus status =
-        files_.ReplaceBytes(file, GridAsCsv(States), Durability::Flushed, &reason);
-    Message.text = status == FileStatus::Ok
-                       ? captions_[Caption::Saved] + " " + file
-                       : FilledIn(captions_[Caption::SavingFailed], {file, reason});
+    if (!file.empty()) Message.text = SaveAsCsv(States, file, files_, captions_);
 }
 
 }  // namespace zandrell

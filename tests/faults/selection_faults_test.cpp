@@ -55,7 +55,7 @@ TEST(SelectionFaults, ListAsCsv) {
                                     ready();
                                     planning.planner.UserClick("Csv");
                                     const std::string file = (folder.Path() / "list.csv").string();
-                                    return planning.planner.Message.text == file ? 0 : 1;
+                                    return planning.planner.Message.text == "Saved " + file ? 0 : 1;
                                 }};
     TryAndReport(folder.Path(), act);
 }

@@ -283,12 +283,12 @@ TEST_F(OpenerTest, PlannerWritesTheListHeSees) {
     file = (folder / "list.csv.d").string();
     std::filesystem::create_directories(file + "/inside");
     planner.UserClick("Csv");
-    EXPECT_NE(planner.Message.text, file);
+    EXPECT_NE(planner.Message.text, "Saved " + file);
     EXPECT_TRUE(std::filesystem::exists(file + "/inside"));
     EXPECT_EQ(folder.Read("list.csv"), old);
     file = (folder / "list.csv").string();
     planner.UserClick("Csv");
-    EXPECT_EQ(planner.Message.text, file);
+    EXPECT_EQ(planner.Message.text, "Saved " + file);
     const std::string series = folder.Read("list.csv");
     EXPECT_NE(series.find("Ulmrain AW Würfelkühler"), std::string::npos) << series;
     desk.window.UserPickCell("KatalogSpread", 3, 3);
