@@ -129,21 +129,40 @@ double LogOfRatio(double one, double other) {
     return 2 * y * ((1 + square * (1. / 3)) + square * square * (1. / 5));
 }
 
+constexpr double kOffIce = 1e-6;  // K
+
+// Water dissolves air and ice does not, so that there are two dew points for one pressure here, of
+// which the frost point is no higher than the air's own temperature. The triple point lies within
+// `reach`, in K.
+double DewPointAboutTriple(double vapour_pressure, const Pressure& p, double reach) {
+    constexpr double kRounding = 1e-7, kClose = 1e-12;  // of the pressure
+    const auto excess = [&](double t) {
+        return std::log(vapour_pressure / SaturatedVapourAt(t, p));
+    };
+    const double over_ice = excess(kIceUpTo);
+    if (over_ice <= 0) return RootOfFalling(kIceUpTo - reach, kIceUpTo, kClose, excess);
+    if (over_ice <= kRounding) return kIceUpTo;
+    return RootOfFalling(kIceUpTo + kOffIce, kIceUpTo + reach, kClose, excess);
+}
+
 // The dew point on one side of the triple point, from that of pure water.
 std::optional<double> NearDewPoint(double vapour_pressure, double p_bar) {
-    constexpr double kOffIce = 1e-6;  // K
-    constexpr double kClose = 1e-9;   // K
+    constexpr double kClose = 1e-9;                      // K
+    constexpr double kAboutTriple = 0.05, kReach = 0.1;  // K
     const double log_pressure = std::log(vapour_pressure) -
                                 RealAirTable::Get().LogOfTriplePressure() -
                                 RealAirTable::kUsualEnhancement * p_bar;
     const auto start = RealAirTable::Get().SaturationTemperatureAt(log_pressure);
     if (!start) return std::nullopt;
+    const Pressure p(p_bar * kPascalPerBar);
+    if (std::abs(*start - kIceUpTo) < kAboutTriple) {
+        return DewPointAboutTriple(vapour_pressure, p, kReach);
+    }
     // The equation of Magnus (coefficients of Sonntag, Z. Meteorol. 40, 1990) by its slope.
     const bool ice = *start <= kIceUpTo;
     const double a = ice ? 22.46 : 17.62, b = ice ? 272.62 : 243.12, per_t = 1 / (b + *start);
     const double low = ice ? kRealAirLowest : kIceUpTo + kOffIce;
     const double high = ice ? kIceUpTo : RealAirTable::kHighest;
-    const Pressure p(p_bar * kPascalPerBar);
     return RootByCourse(*start, {-a * b * per_t * per_t, -per_t}, low, high, kClose, [&](double t) {
         return LogOfRatio(vapour_pressure, SaturatedVapourAt(t, p));
     });
