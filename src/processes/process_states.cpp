@@ -65,13 +65,15 @@ ProcessStates PlantPanel::States() const {
         return std::string(" + ").append(FigureAlone(rise.text)).append(" ").append(UnitK);
     };
     ProcessState* extract = add(words[Caption::ExtractAir], way_.mixing.exhaust, total);
+    extract->percent = ParsedNumber(PHIAbluft.text);
     extract->flow = Positive(ParsedNumber(vhAnlage.text));
     extract->capacity = FigureAlone(RaumLeist.text);
     extract->water = FigureAlone(RaumWasserLeist.text);
     if (way_.mixing.behind_fan.t != way_.mixing.exhaust.t) {
         add(words[Caption::ExtractAir] + fan(dtVent2), way_.mixing.behind_fan, total);
     }
-    add(words[Caption::OutdoorAir], way_.mixing.outside, total * share);
+    add(words[Caption::OutdoorAir], way_.mixing.outside, total * share)->percent =
+        ParsedNumber(PhiAussen.text);
     add(words[Caption::Mixing], way_.mixing.mixed, total);
     if (way_.coil) {
         add(leaving + words[Caption::Cooler], *way_.coil, total)->capacity =
@@ -90,6 +92,7 @@ ProcessStates PlantPanel::States() const {
         if (humidified && humidifier_shown_) humid->water = FigureAlone(Bef.text);
     }
     if (warmed) add(words[Caption::SupplyAir], way_.supply, total);
+    states.back().percent = ParsedNumber(PHIZuluft.text);
     return states;
 }
 

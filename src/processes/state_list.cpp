@@ -36,9 +36,11 @@ std::optional<StateFigures> SuiteFigures(const ProcessState& state, StateSolver&
                         solver.ZustandDichte};
 }
 
+// A figure that its way here left a rounding below its last decimal keeps that.
 std::string CutText(std::optional<double> value, double factor) {
+    constexpr double kRounding = 1e-9;
     if (!value || !std::isfinite(*value)) return {};
-    return TrimmedNumberText(Cut(*value, factor));
+    return TrimmedNumberText(Cut(*value + kRounding * std::abs(*value), factor));
 }
 
 // One column: its head, and what it shows of a state.

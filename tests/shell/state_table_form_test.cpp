@@ -100,6 +100,36 @@ TEST(StateTable, TellsWhatThePanelTells) {
     }
 }
 
+// Cut figures of what was typed would lose a tenth where the way to x and back leaves a digit.
+TEST(StateTable, TypedHumiditiesOfThePlantStandAsTheyAre) {
+    constexpr std::size_t kPlants = 30;
+    for (const char* convention : {"", kExact}) {
+        std::string script(convention);
+        script +=
+            "set tabLuft 22\nset Taus -10\nset tKA 10\nset phiKanal 95\nset TZuluft 26\n"
+            "set PHIZuluft 30\nset vhAnlage 10000\nset aussenAnt 3\nset dtVent1 1\n"
+            "set dtVent2 .5\nchoose Option3D3\nclick AnlageButt\n";
+        for (std::size_t i = 0; i < kPlants; ++i) {
+            script.append("set PHIAbluft ").append(std::to_string(40 + i % 13));
+            script.append(".").append(std::to_string(i % 10));
+            script.append("\nset PhiAussen ").append(std::to_string(35 + i));
+            script.append(".3\nreturn Taus\ndump\n").append(kTable).append("close\n");
+        }
+        ScriptSession session;
+        const auto dumps = session.Run(script);
+        ASSERT_EQ(dumps.size(), 2 * kPlants);
+        for (std::size_t i = 0; i < dumps.size(); i += 2) {
+            const Json& panel = dumps[i];
+            const Cells cells = CellsOf(dumps[i + 1]);
+            ASSERT_GT(cells.size(), 5U);
+            const std::size_t supply = cells.size() - 1;
+            EXPECT_EQ(NumberIn(cells, 1, "Rel"), ParsedNumber(TextOf(panel, "PHIAbluft")));
+            EXPECT_EQ(NumberIn(cells, 3, "Rel"), ParsedNumber(TextOf(panel, "PhiAussen")));
+            EXPECT_EQ(NumberIn(cells, supply, "Rel"), ParsedNumber(TextOf(panel, "PHIZuluft")));
+        }
+    }
+}
+
 TEST(StateTable, HasNoRowsForInputsThatWereNotComputed) {
     for (const char* script : {"",
                                "set Temp1 20\nset relF1 50\nset Temp2 30\nset relF2 40\n"
