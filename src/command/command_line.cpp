@@ -99,7 +99,11 @@ void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
             "than t and rh")
         ->check(CLI::IsMember({"suite", "real"}));
     for (std::size_t i = 2; i < kPairFigures; ++i) {
-        verb->add_option(OptionOf(kPairFigureNames[i].name), typed.figures[i],
+        // Also with the underscore of the column.
+        const std::string_view column = kPairFigureNames[i].name;
+        std::string options = OptionOf(column);
+        if (column.find('_') != std::string_view::npos) options.append(",--").append(column);
+        verb->add_option(options, typed.figures[i],
                          "of one state, in " + std::string(kPairFigureNames[i].unit));
     }
     verb->add_flag("--json", line.json, "one JSON object a line");

@@ -70,6 +70,13 @@ TEST(CommandLine, TakesWhatIsAsked) {
     EXPECT_EQ(state.line.data, "set");
     EXPECT_TRUE(state.line.json);
 
+    Reading bulb;
+    Read({"state", "--air", "real", "--t_wet", "18", "--t-dew", "14"}, bulb);
+    ASSERT_FALSE(bulb.status) << bulb.error;
+    EXPECT_EQ(bulb.line.state->given[4], 14);
+    EXPECT_EQ(bulb.line.state->given[5], 18);
+    EXPECT_EQ(bulb.line.air, AirChoice::Real);
+
     Reading invert;
     Read({"--data", "set", "invert", "t-from-h", "-"}, invert);
     ASSERT_FALSE(invert.status) << invert.error;
