@@ -23,7 +23,16 @@ RowMaker::RowMaker(RowCalculation& calculation, const TableLayout& layout)
     : calculation_(calculation),
       layout_(layout),
       inputs_(calculation.Inputs().size()),
-      results_(calculation.Results().size()) {}
+      results_(calculation.Results().size()) {
+    if (!layout.json) return;
+    const auto add = [this](std::string_view name) {
+        std::string& member = members_.emplace_back(members_.empty() ? "{" : ",");
+        AppendJsonString(member, name);
+        member += ':';
+    };
+    for (const auto& name : layout.names) add(name);
+    for (const auto name : calculation.Results()) add(name);
+}
 
 void RowMaker::Make(const LineReader::Line& line, std::string& rows, std::string& reports) {
     std::string reason;
@@ -134,17 +143,13 @@ void RowMaker::AppendJsonResult(std::string& json, std::size_t result) const {
 }
 
 void RowMaker::WriteJsonRow(std::string& rows) const {
-    char mark = '{';
-    for (std::size_t i = 0; i < layout_.names.size(); ++i, mark = ',') {
-        rows += mark;
-        AppendJsonString(rows, layout_.names[i]);
-        rows += ':';
+    const std::size_t columns = layout_.names.size();
+    for (std::size_t i = 0; i < columns; ++i) {
+        rows += members_[i];
         AppendJsonInput(rows, i);
     }
     for (std::size_t i = 0; i < results_.size(); ++i) {
-        rows += ',';
-        AppendJsonString(rows, calculation_.Results()[i]);
-        rows += ':';
+        rows += members_[columns + i];
         AppendJsonResult(rows, i);
     }
     rows += '}';
