@@ -28,8 +28,11 @@ ProcessStates PointPanel::States() const {
     const Inputs inputs = ReadInputs();
     ProcessStates states = {{"1", inputs.t1, ZustandX1, enthalpy1_, inputs.relF1},
                             {"2", inputs.t2, ZustandX2, enthalpy2_, inputs.relF2}};
-    // Behind a tool the suite shows another x than it counts with.
-    if (!IsExact()) states[1].x = ParsedNumber(absF2.text);
+    // Behind a tool the suite shows another x, and another enthalpy, than it counts with.
+    if (!IsExact()) {
+        states[1].x = ParsedNumber(absF2.text);
+        states[1].h = ParsedNumber(enth2.text);
+    }
     if (mode == Calculation::StateChange || !outcome_of_.Hold(basis)) return states;
     const double dry_air = inputs.LuftM1 * density1_;
     states[0].flow = Positive(inputs.LuftM1);
@@ -41,6 +44,9 @@ ProcessStates PointPanel::States() const {
         const ProcessFigures& figures = context_.figures;
         ProcessState& mixture = states.emplace_back();
         mixture = {context_.captions[Caption::Mixing], figures.MischTemp, figures.MischX};
+        mixture.percent = ParsedNumber(relFM.text);
+        if (!IsExact())
+            mixture.t = ParsedNumber(TempM.text);  // cut a rounding below its last digit
         mixture.dry_air = Positive(dry_air + second);
     } else {
         states[1].capacity = FigureAlone(Kleist.text);
