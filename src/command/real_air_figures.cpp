@@ -111,6 +111,17 @@ void Enter(const ExactAir& air, const ExactAirState& state, const ExactAirState&
     results.Of(RealAirResult::Volume) = state.volume;
 }
 
+// Why there is no air that goes on beyond the model.
+std::string NoExactAirReason(const StateQuestion& question) {
+    const auto& [t, rh, p] = question;
+    if (!WithinLimits(0, t, p)) {
+        return NoStateReason(t, p, RealAirKnowsPressure(p) ? kRealAirLowest : kLowestTemperature);
+    }
+    const double most = kPercent * p * kPascalPerBar / ContinuedSaturation(t, p);
+    if (rh < most) return "the state is no finite number";  // by odd coefficients
+    return OutsideText("rh", rh, 0, Limit(most), "%") + ", with this t";
+}
+
 }  // namespace
 
 constexpr std::array<NamedFigure, kPairFigures> kPairFigureNames{{{"t", "degC"},
@@ -189,12 +200,7 @@ bool FindExactAir(StateSolver& solver, StateQuestion& question, RealAirResults& 
         Enter(air, *state, *dry, rh, results);
         return true;
     }
-    if (!WithinLimits(0, t, p)) {
-        reason = NoStateReason(t, p, RealAirKnowsPressure(p) ? kRealAirLowest : kLowestTemperature);
-    } else {
-        const double most = p * kPascalPerBar / ContinuedSaturation(t, p);
-        reason = OutsideText("rh", rh, 0, Limit(kPercent * most), "%") + ", with this t";
-    }
+    reason = NoExactAirReason(question);
     return false;
 }
 

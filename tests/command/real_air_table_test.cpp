@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "command/table_run.h"
+#include "kernel/kernel_support.h"
 #include "support/test_folder.h"
 
 namespace zandrell::command_test {
@@ -169,6 +170,15 @@ TEST(RealAirTable, TheAirOfTheSettingsGoesOnBeyondTheModel) {
     EXPECT_NEAR(LastNumbers(lines[5], kResults)[kVapourPressure], 1169.6, 12);
     EXPECT_NEAR(LastNumbers(lines[6], kResults)[kVapourPressure], 1169.6, 12);
     EXPECT_EQ(LastNumbers(lines[12], kResults)[kDewPoint], -1e9) << "dry air";
+
+    // A specific heat of vapour that overflows.
+    const TestFolder folder;
+    folder.CopyStaged("qv_par.dat");
+    folder.Write("qvdata.dat", kernel_test::FirstNumbers(116) + ",1e295,0");
+    CommandLine line = StateLine(AirChoice::Convention);
+    line.data = folder.Path();
+    EXPECT_EQ(RunTable(line, "t,rh,p\n50,5,1\n150,1,1\n").reports,
+              "line 3: the state is no finite number\n");
 }
 
 TEST(RealAirTable, SaysLineByLineWhatIsWrong) {
