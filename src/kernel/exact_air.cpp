@@ -212,7 +212,11 @@ std::optional<double> ExactAir::BracketedDewPoint(double vapour_pressure) const 
         return std::log(vapour_pressure / ContinuedSaturation(t, p_bar_));
     };
     if (!(above(kLowest) >= 0 && above(kHighest) <= 0)) return std::nullopt;
-    return RootOfFalling(kLowest, kHighest, kClose, above);
+    constexpr double kRounding = 1e-7;
+    const double over_ice = above(kIceUpTo);  // of the two dew points there the frost point
+    if (over_ice <= 0) return RootOfFalling(kLowest, kIceUpTo, kClose, above);
+    if (over_ice <= kRounding) return kIceUpTo;
+    return RootOfFalling(kLiquidFrom, kHighest, kClose, above);
 }
 
 std::optional<double> ExactAir::DewPoint(const ExactAirState& state) const {

@@ -114,6 +114,18 @@ TEST_F(ExactAirTest, BeyondTheModelEnthalpyAndDensityGoOnAsAirDoes) {
     EXPECT_NEAR(ContinuedSaturation(200, 1), 1554900, 1000);
 }
 
+// Ice and water saturate air at another pressure each where ice melts.
+TEST_F(ExactAirTest, DewPointsDoNotPassTheTemperatureWhereIceMelts) {
+    for (const double p : {0.2, 0.5, 1.0, 2.0, 2.5, 8.0}) {
+        for (const double t : {-0.02, 0.0, 0.01, 0.0100001, 0.011, 0.015, 0.1}) {
+            const ExactAir air = At(p);
+            const double dew = air.DewPoint(*air.FromHumidity(1, t)).value_or(1e9);
+            EXPECT_LE(dew, t + 1e-8) << p;
+            EXPECT_GE(dew, t - (t > 0.01 && t < 0.1 ? 0.01 : 1e-8)) << p << ' ' << t;
+        }
+    }
+}
+
 // ASHRAE Handbook of Fundamentals 2017, chapter 1, table 2, at 101.325 kPa: saturated air of 20
 // degC 14.758 g/kg and 57.555 kJ/kg, of -20 degC 0.6373 g/kg and -18.542 kJ/kg. Steam tables: water
 // of 20 degC 83.91 kJ/kg (and 0.1 for the pressure); ice of 0.01 degC -333.44 and of -20 degC
