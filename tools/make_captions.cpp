@@ -2,7 +2,7 @@
 // make_captions --names SOURCE_FOLDER HEADER
 //
 // Turns the caption tables (slots.tsv and one table a language, UTF-8) into the suite's positional
-// files Caption.XXX, AirCoCap.XXX and QVCapt.XXX: one field a line in double quotes, slots that
+// files (Caption.ENG, AirCoCap.ENG, QVCapt.ENG): one field a line in double quotes, slots that
 // nothing uses as "". With --names it writes the header by which the program addresses a word
 // through the name of its slot. A fault in a table is reported with file and line, and ends with
 // status 1.

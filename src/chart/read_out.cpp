@@ -6,6 +6,7 @@
 #include "base/number_text.h"
 #include "canvas/palette.h"
 #include "kernel/exact_air.h"
+#include "kernel/real_air.h"
 
 namespace zandrell {
 namespace {
@@ -48,7 +49,6 @@ void ShowAir(double fraction, const AirState& air, ReadOutPanel& panel) {
 
 // The rows that the suite does not have.
 void ShowMoreOf(const ExactAirState& state, const ExactAir& air, ReadOutPanel& panel) {
-    constexpr double kIceUpTo = 0.01;  // degC
     const auto dew_point = air.DewPoint(state), wet_bulb = air.WetBulb(state);
     panel.CallIce(panel.DewPoint, dew_point.value_or(state.t) <= kIceUpTo);
     panel.CallIce(panel.CondensedWater, state.t <= kIceUpTo);

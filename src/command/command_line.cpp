@@ -90,8 +90,8 @@ constexpr const char* kExamples =
 void AddState(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     auto* verb = app.add_subcommand("state", "States of humid air, for a table or for one state");
     verb->add_option("FILE", line.input, "the table; without it the standard input");
-    verb->add_option("--t", typed.t, "one state instead of a table: temperature in degC");
-    verb->add_option("--rh", typed.rh, "its relative humidity in per cent");
+    verb->add_option("--t", typed.figures[0], "one state instead of a table: temperature in degC");
+    verb->add_option("--rh", typed.figures[1], "its relative humidity in per cent");
     verb->add_option("--p", typed.p, "its total pressure in bar; without it that of the settings");
     verb->add_option(
             "--air", typed.air,

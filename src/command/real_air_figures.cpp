@@ -15,7 +15,6 @@ namespace zandrell {
 namespace {
 
 constexpr double kPercent = 100;
-constexpr double kIceUpTo = 0.01;          // degC
 constexpr std::size_t kHumidityPlace = 1;  // of rh, which the kernel counts as a fraction
 
 // In the order of the columns.
@@ -67,48 +66,51 @@ std::string ReasonOf(const PairAnswer& answer, const std::array<std::size_t, 2>&
     return {};
 }
 
-void EnterPressures(double p_bar, double vapour_pressure, RealAirResults& results) {
-    results.Of(RealAirResult::VapourPressure) = vapour_pressure;
-    results.Of(RealAirResult::DryAirPressure) = p_bar * kPascalPerBar - vapour_pressure;
-    if (const auto boiling = RealBoilingTemperature(p_bar)) {
-        results.Of(RealAirResult::BoilingTemperature) = *boiling + kKelvinOffset;
-    }
-}
-
-void Enter(const RealAirState& state, const RealAirPoint& point, double p_bar,
+// What both airs have of a state; `dry` is dry air of its temperature and pressure.
+template <typename State, typename Dry>
+void Enter(const StateQuestion& point, const State& state, const Dry& dry,
            RealAirResults& results) {
-    EnterPressures(p_bar, state.vapour_pressure, results);
-    results.Of(RealAirResult::HumidityRatio) = state.x;
-    results.Of(RealAirResult::Enthalpy) = state.enthalpy;
-    results.Of(RealAirResult::Density) = state.density;
-    if (const auto dry = EvaluateRealGas(0, point.t, p_bar)) {
-        results.Of(RealAirResult::DryAirEnthalpy) = dry->enthalpy;
-        results.Of(RealAirResult::DryAirDensity) = dry->density;
-    }
-    results.Of(RealAirResult::Temperature) = point.t;
-    results.Of(RealAirResult::RelativeHumidity) = kPercent * point.relF;
-    results.Of(RealAirResult::DewPoint) = RealDewPoint(state.vapour_pressure, p_bar);
-    if (const auto bulb = RealWetBulb(point.t, state.x, state.enthalpy, p_bar)) {
-        results.Of(RealAirResult::WetBulb) = bulb->t;
-        results.Of(RealAirResult::LiquidWetBulb) = bulb->liquid;
-    }
-    results.Of(RealAirResult::Volume) = state.volume;
-    results.Of(RealAirResult::Enhancement) = state.enhancement;
-}
-
-void Enter(const ExactAir& air, const ExactAirState& state, const ExactAirState& dry, double rh,
-           RealAirResults& results) {
-    EnterPressures(air.PressureBar(), state.vapour_pressure, results);
     results.Of(RealAirResult::HumidityRatio) = state.x;
     results.Of(RealAirResult::Enthalpy) = state.enthalpy;
     results.Of(RealAirResult::DryAirEnthalpy) = dry.enthalpy;
+    results.Of(RealAirResult::DryAirPressure) = point.p * kPascalPerBar - state.vapour_pressure;
+    results.Of(RealAirResult::VapourPressure) = state.vapour_pressure;
     results.Of(RealAirResult::Density) = state.density;
     results.Of(RealAirResult::DryAirDensity) = dry.density;
-    results.Of(RealAirResult::Temperature) = state.t;
-    results.Of(RealAirResult::RelativeHumidity) = rh;
-    results.Of(RealAirResult::DewPoint) = air.DewPoint(state);
-    results.Of(RealAirResult::WetBulb) = air.WetBulb(state);
+    if (const auto boiling = RealBoilingTemperature(point.p)) {
+        results.Of(RealAirResult::BoilingTemperature) = *boiling + kKelvinOffset;
+    }
+    results.Of(RealAirResult::Temperature) = point.t;
+    results.Of(RealAirResult::RelativeHumidity) = point.rh;
     results.Of(RealAirResult::Volume) = state.volume;
+}
+
+// False where the model does not know the point.
+bool EnterRealAir(const StateQuestion& point, RealAirResults& results) {
+    const auto& [t, rh, p] = point;
+    const auto state = EvaluateRealAir(rh / kPercent, t, p);
+    const auto dry = EvaluateRealGas(0, t, p);
+    if (!state || !dry) return false;
+    Enter(point, *state, *dry, results);
+    results.Of(RealAirResult::DewPoint) = RealDewPoint(state->vapour_pressure, p);
+    if (const auto bulb = RealWetBulb(t, state->x, state->enthalpy, p)) {
+        results.Of(RealAirResult::WetBulb) = bulb->t;
+        results.Of(RealAirResult::LiquidWetBulb) = bulb->liquid;
+    }
+    results.Of(RealAirResult::Enhancement) = state->enhancement;
+    return true;
+}
+
+bool EnterContinuedAir(StateSolver& solver, const StateQuestion& point, RealAirResults& results) {
+    solver.ChartDruckBar = point.p;
+    const ExactAir air(solver);
+    const auto state = air.FromHumidity(point.rh / kPercent, point.t);
+    const auto dry = air.FromX(point.t, 0);
+    if (!state || !dry) return false;
+    Enter(point, *state, *dry, results);
+    results.Of(RealAirResult::DewPoint) = air.DewPoint(*state);
+    results.Of(RealAirResult::WetBulb) = air.WetBulb(*state);
+    return true;
 }
 
 // Why there is no air that goes on beyond the model.
@@ -168,13 +170,11 @@ bool FindRealAir(const GivenFigures& given, double p_bar, RealAirResults& result
         return GivenFigure{kFigures[place], *given[place] / ScaleOf(place)};
     };
     const PairAnswer answer = RealAirFromPair(figure(places[0]), figure(places[1]), p_bar);
-    const auto state =
-        answer.point ? EvaluateRealAir(answer.point->relF, answer.point->t, p_bar) : std::nullopt;
-    if (!state) {
+    if (!answer.point ||
+        !EnterRealAir({answer.point->t, kPercent * answer.point->relF, p_bar}, results)) {
         reason = ReasonOf(answer, places, given, p_bar);
         return false;
     }
-    Enter(*state, *answer.point, p_bar, results);
     // What was given stands as it was given.
     for (const std::size_t place : places) {
         const bool not_iced = kFigures[place] == AirFigure::WetBulb &&
@@ -187,19 +187,8 @@ bool FindRealAir(const GivenFigures& given, double p_bar, RealAirResults& result
 bool FindExactAir(StateSolver& solver, StateQuestion& question, RealAirResults& results,
                   std::string& reason) {
     ClampQuestion(question);
-    const auto& [t, rh, p] = question;
-    if (const auto real = EvaluateRealAir(rh / kPercent, t, p)) {
-        Enter(*real, {t, rh / kPercent}, p, results);
-        results.Of(RealAirResult::RelativeHumidity) = rh;  // as it was given
+    if (EnterRealAir(question, results) || EnterContinuedAir(solver, question, results))
         return true;
-    }
-    solver.ChartDruckBar = p;
-    const ExactAir air(solver);
-    const auto state = air.FromHumidity(rh / kPercent, t), dry = air.FromX(t, 0);
-    if (state && dry) {
-        Enter(air, *state, *dry, rh, results);
-        return true;
-    }
     reason = NoExactAirReason(question);
     return false;
 }

@@ -43,16 +43,12 @@ std::vector<double> NumbersOf(const std::string& option, const std::string& text
     return numbers;
 }
 
-const std::string& TypedFigure(const TypedOptions& typed, std::size_t place) {
-    return place == 0 ? typed.t : place == 1 ? typed.rh : typed.figures[place];
-}
-
 // Two of the figures, or none for a table.
 void TakeState(const TypedOptions& typed, CommandLine& line) {
     StateOptions state;
     std::size_t count = 0, of_real_air = 0;
     for (std::size_t i = 0; i < kPairFigures; ++i) {
-        const std::string& text = TypedFigure(typed, i);
+        const std::string& text = typed.figures[i];
         if (text.empty()) continue;
         const std::string option = OptionOf(kPairFigureNames[i].name);
         if (i > 1 && line.air == AirChoice::Suite) Refuse(option + " needs --air real");

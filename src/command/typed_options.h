@@ -11,8 +11,8 @@ namespace zandrell {
 
 // The options as they were typed; a decimal comma is as good as a point in them.
 struct TypedOptions {
-    std::string data, t, rh, p, air, kind, size, zoom, convention, duties;
-    std::array<std::string, kPairFigures> figures;  // t and rh stand in their own
+    std::string data, p, air, kind, size, zoom, convention, duties;
+    std::array<std::string, kPairFigures> figures;  // of one state
     std::vector<std::string> inputs;
 };
 

@@ -5,6 +5,7 @@
 
 #include "base/unit_factors.h"
 #include "kernel/continued_air.h"
+#include "kernel/frost_point.h"
 #include "kernel/real_air.h"
 #include "kernel/real_air_wet_bulb.h"
 #include "kernel/root.h"
@@ -13,10 +14,7 @@ namespace zandrell {
 namespace {
 
 constexpr double kGramsPerKg = 1000;
-constexpr double kIceUpTo = 0.01;       // degC
 constexpr double kCloseEnough = 1e-10;  // kJ/kg
-
-const double kLiquidFrom = std::nextafter(kIceUpTo, 1.0);
 
 double InGrains(double t) {
     constexpr double kGrains = 1e9;  // a kelvin
@@ -212,11 +210,7 @@ std::optional<double> ExactAir::BracketedDewPoint(double vapour_pressure) const 
         return std::log(vapour_pressure / ContinuedSaturation(t, p_bar_));
     };
     if (!(above(kLowest) >= 0 && above(kHighest) <= 0)) return std::nullopt;
-    constexpr double kRounding = 1e-7;
-    const double over_ice = above(kIceUpTo);  // of the two dew points there the frost point
-    if (over_ice <= 0) return RootOfFalling(kLowest, kIceUpTo, kClose, above);
-    if (over_ice <= kRounding) return kIceUpTo;
-    return RootOfFalling(kLiquidFrom, kHighest, kClose, above);
+    return FrostOrDewPoint(kLowest, kHighest, kClose, above);
 }
 
 std::optional<double> ExactAir::DewPoint(const ExactAirState& state) const {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/unit_factors.h"
+#include "kernel/frost_point.h"
 #include "kernel/real_air_fits.h"
 #include "kernel/real_air_polynomial.h"
 #include "kernel/real_air_table.h"
@@ -12,7 +13,6 @@
 namespace zandrell {
 namespace {
 
-constexpr double kIceUpTo = RealAirTable::kIceUpTo;
 constexpr double kMolarMassAir = 28.966, kMolarMassWater = 18.015268;  // g/mol
 // The report takes one gas constant for the mixture and a newer one for the enhancement factor.
 constexpr double kGasConstant = 8.314472, kGasConstantOfFactor = 8.314371;  // J/(mol K)
@@ -129,26 +129,10 @@ double LogOfRatio(double one, double other) {
     return 2 * y * ((1 + square * (1. / 3)) + square * square * (1. / 5));
 }
 
-constexpr double kOffIce = 1e-6;  // K
-
-// Water dissolves air and ice does not, so that there are two dew points for one pressure here, of
-// which the frost point is no higher than the air's own temperature. The triple point lies within
-// `reach`, in K.
-double DewPointAboutTriple(double vapour_pressure, const Pressure& p, double reach) {
-    constexpr double kRounding = 1e-7, kClose = 1e-12;  // of the pressure
-    const auto excess = [&](double t) {
-        return std::log(vapour_pressure / SaturatedVapourAt(t, p));
-    };
-    const double over_ice = excess(kIceUpTo);
-    if (over_ice <= 0) return RootOfFalling(kIceUpTo - reach, kIceUpTo, kClose, excess);
-    if (over_ice <= kRounding) return kIceUpTo;
-    return RootOfFalling(kIceUpTo + kOffIce, kIceUpTo + reach, kClose, excess);
-}
-
 // The dew point on one side of the triple point, from that of pure water.
 std::optional<double> NearDewPoint(double vapour_pressure, double p_bar) {
-    constexpr double kClose = 1e-9;                      // K
-    constexpr double kAboutTriple = 0.05, kReach = 0.1;  // K
+    constexpr double kClose = 1e-9, kClosePressure = 1e-12;  // K, and relative
+    constexpr double kAboutTriple = 0.05, kReach = 0.1;      // K
     const double log_pressure = std::log(vapour_pressure) -
                                 RealAirTable::Get().LogOfTriplePressure() -
                                 RealAirTable::kUsualEnhancement * p_bar;
@@ -156,12 +140,14 @@ std::optional<double> NearDewPoint(double vapour_pressure, double p_bar) {
     if (!start) return std::nullopt;
     const Pressure p(p_bar * kPascalPerBar);
     if (std::abs(*start - kIceUpTo) < kAboutTriple) {
-        return DewPointAboutTriple(vapour_pressure, p, kReach);
+        return FrostOrDewPoint(kIceUpTo - kReach, kIceUpTo + kReach, kClosePressure, [&](double t) {
+            return std::log(vapour_pressure / SaturatedVapourAt(t, p));
+        });
     }
     // The equation of Magnus (coefficients of Sonntag, Z. Meteorol. 40, 1990) by its slope.
     const bool ice = *start <= kIceUpTo;
     const double a = ice ? 22.46 : 17.62, b = ice ? 272.62 : 243.12, per_t = 1 / (b + *start);
-    const double low = ice ? kRealAirLowest : kIceUpTo + kOffIce;
+    const double low = ice ? kRealAirLowest : kLiquidFrom;
     const double high = ice ? kIceUpTo : RealAirTable::kHighest;
     return RootByCourse(*start, {-a * b * per_t * per_t, -per_t}, low, high, kClose, [&](double t) {
         return LogOfRatio(vapour_pressure, SaturatedVapourAt(t, p));

@@ -13,7 +13,9 @@ namespace zandrell {
 // Limits, inclusive.
 inline constexpr double kRealAirLowest = -60, kRealAirHighest = 100;      // degC
 inline constexpr double kRealAirLowestBar = 0.5, kRealAirHighestBar = 2;  // bar
-inline constexpr double kRealAirMostX = 10000;                            // g/kg
+// Up to which saturation, dew point and wet bulb are those of ice, degC.
+inline constexpr double kIceUpTo = 0.01;
+inline constexpr double kRealAirMostX = 10000;  // g/kg
 constexpr bool RealAirKnowsPressure(double p_bar) {
     return p_bar >= kRealAirLowestBar && p_bar <= kRealAirHighestBar;
 }

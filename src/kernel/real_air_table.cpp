@@ -104,8 +104,8 @@ RealAirTable::Gas RealAirTable::GasByFits(double t) {
 
 namespace {
 
-constexpr double kIceWidth = (RealAirTable::kIceUpTo - RealAirTable::kLowest) / 10;
-constexpr double kLiquidWidth = (RealAirTable::kHighest - RealAirTable::kIceUpTo) / 17;
+constexpr double kIceWidth = (kIceUpTo - RealAirTable::kLowest) / 10;
+constexpr double kLiquidWidth = (RealAirTable::kHighest - kIceUpTo) / 17;
 
 // The cells over liquid water and over ice, looked up rather than branched to: which it is changes
 // from state to state.
@@ -113,7 +113,7 @@ struct Side {
     double start = 0, per_width = 0;
     int first = 0, last = 0;
 };
-constexpr Side kSides[] = {{RealAirTable::kIceUpTo, 1 / kLiquidWidth, 10, 26},
+constexpr Side kSides[] = {{kIceUpTo, 1 / kLiquidWidth, 10, 26},
                            {RealAirTable::kLowest, 1 / kIceWidth, 0, 9}};
 
 }  // namespace

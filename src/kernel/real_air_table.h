@@ -12,8 +12,8 @@ namespace zandrell {
 // cells.
 class RealAirTable {
   public:
-    static constexpr double kLowest = -60, kIceUpTo = 0.01, kHighest = 102;  // degC
-    static constexpr double kTriplePressure = 611.657;                       // Pa
+    static constexpr double kLowest = -60, kHighest = 102;  // degC
+    static constexpr double kTriplePressure = 611.657;      // Pa
 
     // About what a bar of air adds to the saturation pressure, relative: enough to begin with.
     static constexpr double kUsualEnhancement = 0.004;

@@ -13,7 +13,6 @@
 namespace zandrell {
 namespace {
 
-constexpr double kIceUpTo = RealAirTable::kIceUpTo;
 constexpr double kCloseEnough = 1e-11;  // kJ/kg
 
 // kJ/kg that water gains by being pressed together from saturation to p_bar.

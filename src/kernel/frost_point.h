@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cmath>
+
+#include "kernel/real_air.h"
+#include "kernel/root.h"
+
+namespace zandrell {
+
+inline const double kLiquidFrom = std::nextafter(kIceUpTo, 1.0);  // degC
+
+// The temperature in degC at which a vapour pressure saturates. `excess`, the logarithm of that
+// pressure over the saturation pressure, falls with the temperature; the search ends within `close`
+// of 0. Water dissolves air and ice does not, so that saturation drops where ice melts and some
+// pressures are met on both sides: there over ice, no higher than the temperature of the air
+// itself. Requires: not below 0 at `low`, where there is ice, and not above it at `high`.
+template <typename Function>
+double FrostOrDewPoint(double low, double high, double close, const Function& excess) {
+    constexpr double kRounding = 1e-7;  // a pressure of eight digits
+    const double over_ice = excess(kIceUpTo);
+    if (over_ice <= 0) return RootOfFalling(low, kIceUpTo, close, excess);
+    if (over_ice <= kRounding) return kIceUpTo;
+    return RootOfFalling(kLiquidFrom, high, close, excess);
+}
+
+}  // namespace zandrell
