@@ -45,7 +45,7 @@ class RowMaker {
     std::vector<std::string_view> cells_;
     std::vector<std::optional<double>> inputs_, results_;
     std::vector<std::string> members_;  // the starts of those of a JSON object, with their names
-    bool calculated_ = false;  // the row; only then may its texts be asked for
+    bool calculated_ = false;           // the row; only then may its texts be asked for
 };
 
 }  // namespace zandrell
