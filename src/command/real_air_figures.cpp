@@ -5,8 +5,10 @@
 
 #include "base/unit_factors.h"
 #include "command/row_calculations.h"
+#include "command/table_cells.h"
 #include "kernel/continued_air.h"
 #include "kernel/exact_air.h"
+#include "kernel/frost_point.h"
 #include "kernel/real_air_pair.h"
 #include "kernel/real_air_wet_bulb.h"
 #include "kernel/state_solver.h"
@@ -51,6 +53,8 @@ std::string ReasonOf(const PairAnswer& answer, const std::array<std::size_t, 2>&
             break;
         case PairEnd::NotIndependent:
             return first + " and " + second + " do not determine a state";
+        case PairEnd::DryAir:
+            return "dry air has no dew point";
         case PairEnd::FirstOutside:
             return LimitText(places[0], *given[places[0]], answer);
         case PairEnd::SecondOutside:
@@ -88,13 +92,16 @@ void Enter(const StateQuestion& point, const State& state, const Dry& dry,
 // False where the model does not know the point.
 bool EnterRealAir(const StateQuestion& point, RealAirResults& results) {
     const auto& [t, rh, p] = point;
-    const auto state = EvaluateRealAir(rh / kPercent, t, p);
+    const double fraction = rh / kPercent;
+    const auto state = EvaluateRealAir(fraction, t, p);
     const auto dry = EvaluateRealGas(0, t, p);
     if (!state || !dry) return false;
     Enter(point, *state, *dry, results);
-    results.Of(RealAirResult::DewPoint) = RealDewPoint(state->vapour_pressure, p);
+    if (const auto dew_point = RealDewPoint(state->vapour_pressure, p)) {
+        results.Of(RealAirResult::DewPoint) = WithinAir(*dew_point, t, fraction);
+    }
     if (const auto bulb = RealWetBulb(t, state->x, state->enthalpy, p)) {
-        results.Of(RealAirResult::WetBulb) = bulb->t;
+        results.Of(RealAirResult::WetBulb) = WithinAir(bulb->t, t, fraction);
         results.Of(RealAirResult::LiquidWetBulb) = bulb->liquid;
     }
     results.Of(RealAirResult::Enhancement) = state->enhancement;
@@ -113,9 +120,19 @@ bool EnterContinuedAir(StateSolver& solver, const StateQuestion& point, RealAirR
     return true;
 }
 
+std::string HumidityText(double percent) { return OutsideText("rh", percent, 0, kPercent, "%"); }
+
+std::string DegreesText(double t) {
+    std::string text;
+    AppendNumber(text, Limit(t));
+    return text.append(" degC");
+}
+
 // Why there is no air that goes on beyond the model.
 std::string NoExactAirReason(const StateQuestion& question) {
     const auto& [t, rh, p] = question;
+    if (!(rh >= 0)) return HumidityText(rh);
+    if (p == 0) return "p = 0 is not above 0 bar";
     if (!WithinLimits(0, t, p)) {
         return NoStateReason(t, p, RealAirKnowsPressure(p) ? kRealAirLowest : kLowestTemperature);
     }
@@ -175,6 +192,10 @@ bool FindRealAir(const GivenFigures& given, double p_bar, RealAirResults& result
         reason = ReasonOf(answer, places, given, p_bar);
         return false;
     }
+    if (answer.warmer) {
+        reason = "air of " + DegreesText(answer.point->t) + " and of " +
+                 DegreesText(answer.warmer->t) + " has both figures; the first is taken";
+    }
     // What was given stands as it was given.
     for (const std::size_t place : places) {
         const bool not_iced = kFigures[place] == AirFigure::WetBulb &&
@@ -186,9 +207,16 @@ bool FindRealAir(const GivenFigures& given, double p_bar, RealAirResults& result
 
 bool FindExactAir(StateSolver& solver, StateQuestion& question, RealAirResults& results,
                   std::string& reason) {
-    ClampQuestion(question);
-    if (EnterRealAir(question, results) || EnterContinuedAir(solver, question, results))
+    // As sensors do that saturated air has wetted.
+    if (question.rh > kPercent) {
+        reason = HumidityText(question.rh) + ", 100 is taken";
+        question.rh = kPercent;
+    }
+    const bool answers = question.rh >= 0 && question.p != 0;
+    if (answers &&
+        (EnterRealAir(question, results) || EnterContinuedAir(solver, question, results))) {
         return true;
+    }
     reason = NoExactAirReason(question);
     return false;
 }

@@ -47,14 +47,14 @@ class RealAirResults : public std::array<std::optional<double>, kRealAirResults>
 
 // Real air within the limits of its model. False, with a reason that names the limit, where the
 // figures are not two or give no state. A result that does not exist is empty: the dew point of
-// dry air.
+// dry air. True with words in `reason` where two states have the figures.
 bool FindRealAir(const GivenFigures& given, double p_bar, RealAirResults& results,
                  std::string& reason);
 
 // The air of the Exact convention from t and rh: real air, and beyond the limits of its model what
 // continues it up to those of the state function (kernel/exact_air.h), where the enhancement
-// factor is empty. Humidity and pressure of the question are replaced as the state function does.
-// Uses the pressure of the solver, which has its coefficients.
+// factor is empty. A humidity above 100 is replaced by 100, which `reason` then tells. Uses the
+// pressure of the solver, which has its coefficients.
 bool FindExactAir(StateSolver& solver, StateQuestion& question, RealAirResults& results,
                   std::string& reason);
 

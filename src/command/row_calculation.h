@@ -35,7 +35,8 @@ class RowCalculation {
 
     // `inputs` and `results` stand in the order of the two lists; the results come empty. A result
     // that does not exist stays empty, or may be no finite number; `reason` says in a few words why
-    // there is none, where that is known. Requires: numbers where the need of the column says so.
+    // there is none, where that is known, or what is to be said of those that there are. Requires:
+    // numbers where the need of the column says so.
     virtual void Calculate(std::span<const std::optional<double>> inputs,
                            std::span<std::optional<double>> results, std::string& reason) = 0;
 

@@ -5,6 +5,7 @@
 #include <system_error>
 #include <thread>
 
+#include "base/text_encoding.h"
 #include "base/text_helpers.h"
 #include "command/record_writer.h"
 #include "command/table_cells.h"
@@ -96,6 +97,7 @@ class RowRun {
   private:
     bool TakeHeader(const LineReader::Line& line, std::string& error);
     bool FindColumns(std::string& error);
+    std::string HintFor(std::string_view column) const;
     bool NamesAreFitForJson(std::string& error) const;
     void TakeRows();
 
@@ -139,7 +141,8 @@ bool RowRun::FindColumns(std::string& error) {
     for (const auto& column : calculation_.Inputs()) {
         const auto found = std::find(layout_.names.begin(), layout_.names.end(), column.name);
         if (found == layout_.names.end() && column.need == ColumnNeed::Always) {
-            return Fail(error, "line 1: there is no column " + std::string(column.name));
+            return Fail(error, "line 1: there is no column " + std::string(column.name) +
+                                   HintFor(column.name));
         }
         if (found != layout_.names.end() &&
             std::find(found + 1, layout_.names.end(), column.name) != layout_.names.end()) {
@@ -150,6 +153,18 @@ bool RowRun::FindColumns(std::string& error) {
                                      : static_cast<std::size_t>(found - layout_.names.begin()));
     }
     return true;
+}
+
+// What the writer of the header may have meant.
+std::string RowRun::HintFor(std::string_view column) const {
+    if (layout_.names.size() == 1 &&
+        layout_.names.front().find_first_of(";\t") != std::string::npos) {
+        return ": commas part the cells";
+    }
+    for (const auto& name : layout_.names) {
+        if (EqualIgnoringCase(name, column)) return ", but " + name;
+    }
+    return {};
 }
 
 // An object whose members share a name would lose one of them.

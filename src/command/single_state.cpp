@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "command/table_cells.h"
 #include "kernel/humid_air_state.h"
@@ -60,8 +61,8 @@ void AddRow(std::size_t place, std::optional<double> value, StateSheet& sheet) {
     sheet.rows.push_back({kRealAirResultNames[place], words, unit, value, may_lack});
 }
 
-StateSheet SheetOf(const StateQuestion& point, const RealAirResults& results) {
-    StateSheet sheet{point, {}};
+StateSheet SheetOf(const StateQuestion& point, const RealAirResults& results, std::string& remark) {
+    StateSheet sheet{point, {}, std::exchange(remark, {})};
     sheet.rows.reserve(results.size());
     for (std::size_t i = 0; i < results.size(); ++i) AddRow(i, results[i], sheet);
     return sheet;
@@ -91,7 +92,13 @@ std::optional<StateSheet> ExactSheet(StateSolver& solver, StateQuestion question
                                      std::string& reason) {
     RealAirResults results;
     if (!FindExactAir(solver, question, results, reason)) return std::nullopt;
-    return SheetOf(question, results);
+    const bool beyond = !results.Of(RealAirResult::Enhancement);
+    if (beyond && reason.empty()) {
+        reason =
+            "beyond -60..100 degC, 0.5..2 bar and 10 kg/kg real air is continued by the ideal "
+            "mixture";
+    }
+    return SheetOf(question, results, reason);
 }
 
 std::optional<StateSheet> RealSheet(const GivenFigures& given, double p_bar, std::string& reason) {
@@ -99,7 +106,7 @@ std::optional<StateSheet> RealSheet(const GivenFigures& given, double p_bar, std
     if (!FindRealAir(given, p_bar, results, reason)) return std::nullopt;
     const double t = results.Of(RealAirResult::Temperature).value_or(0);
     const double rh = results.Of(RealAirResult::RelativeHumidity).value_or(0);
-    return SheetOf({t, rh, p_bar}, results);
+    return SheetOf({t, rh, p_bar}, results, reason);
 }
 
 std::string SheetAsTable(const StateSheet& sheet) {

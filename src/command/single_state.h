@@ -20,6 +20,7 @@ struct StateSheet {
     };
     StateQuestion point;
     std::vector<Row> rows;
+    std::string remark{};  // what is to be said of it
 };
 
 // Empty, with the reason, where there is no state.

@@ -46,20 +46,21 @@ std::vector<double> NumbersOf(const std::string& option, const std::string& text
 // Two of the figures, or none for a table.
 void TakeState(const TypedOptions& typed, CommandLine& line) {
     StateOptions state;
-    std::size_t count = 0, of_real_air = 0;
+    std::size_t count = 0;
     for (std::size_t i = 0; i < kPairFigures; ++i) {
         const std::string& text = typed.figures[i];
         if (text.empty()) continue;
         const std::string option = OptionOf(kPairFigureNames[i].name);
         if (i > 1 && line.air == AirChoice::Suite) Refuse(option + " needs --air real");
-        if (i > 1) ++of_real_air;
         state.given[i] = NumberOf(option, text);
         ++count;
     }
     if (count == 0 && typed.p.empty()) return;
     if (count != 2) {
-        Refuse(of_real_air == 0 && line.air != AirChoice::Real ? "one state needs both --t and --rh"
-                                                               : "one state needs two figures");
+        if (count == 0) Refuse("--p belongs to one state, and a table has a column p");
+        Refuse(line.air == AirChoice::Suite
+                   ? "one state needs both --t and --rh"
+                   : "one state needs two figures, such as --t and --rh or --t and --t-wet");
     }
     if (!typed.p.empty()) state.p = NumberOf("--p", typed.p);
     line.state = state;

@@ -67,14 +67,15 @@ std::optional<StateSheet> SheetFor(Air air, const StateOptions& asked, const Cal
     return ExactSheet(solver, question, error);
 }
 
-bool ShowOneState(const CommandLine& line, const ByteSink& output, std::string& error) {
+bool ShowOneState(const CommandLine& line, const RowStreams& streams, std::string& error) {
     CalculationData data(line.data);
     const auto& given = line.state->given;
     const Air air = AirFor(line.air, !(given[0] && given[1]), data);
     if (air != Air::Real && !data.ReadTables(error)) return false;
     const auto sheet = SheetFor(air, *line.state, data, error);
     if (!sheet) return false;
-    if (output(line.json ? SheetAsJson(*sheet) : SheetAsTable(*sheet))) return true;
+    if (!sheet->remark.empty()) streams.reports("note: " + sheet->remark + '\n');
+    if (streams.output(line.json ? SheetAsJson(*sheet) : SheetAsTable(*sheet))) return true;
     error = "the output cannot be written";
     return false;
 }
@@ -91,7 +92,7 @@ RowFormat FormatOf(const CommandLine& line) { return line.json ? RowFormat::Json
 }  // namespace
 
 bool RunState(const CommandLine& line, const RowStreams& streams, std::string& error) {
-    if (line.state) return ShowOneState(line, streams.output, error);
+    if (line.state) return ShowOneState(line, streams, error);
     CalculationData data(line.data);
     RowStreams table = streams;
     const bool asked = line.air != AirChoice::Convention;

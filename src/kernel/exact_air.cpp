@@ -216,8 +216,10 @@ std::optional<double> ExactAir::BracketedDewPoint(double vapour_pressure) const 
 std::optional<double> ExactAir::DewPoint(const ExactAirState& state) const {
     if (state.IsFog()) return state.t;
     if (!(state.vapour_pressure > 0)) return std::nullopt;
-    if (const auto real = RealDewPoint(state.vapour_pressure, p_bar_)) return real;
-    return BracketedDewPoint(state.vapour_pressure);
+    auto found = RealDewPoint(state.vapour_pressure, p_bar_);
+    if (!found) found = BracketedDewPoint(state.vapour_pressure);
+    if (!found) return std::nullopt;
+    return WithinAir(*found, state.t, state.fraction);
 }
 
 // Between the dew point and the temperature, both ends of which it lies within.
@@ -242,8 +244,10 @@ std::optional<double> ExactAir::BracketedWetBulb(const ExactAirState& state) con
 
 std::optional<double> ExactAir::WetBulb(const ExactAirState& state) const {
     if (state.IsFog()) return state.t;
-    if (const auto real = RealWetBulb(state.t, state.x, state.enthalpy, p_bar_)) return real->t;
-    return BracketedWetBulb(state);
+    const auto real = RealWetBulb(state.t, state.x, state.enthalpy, p_bar_);
+    const auto found = real ? std::optional(real->t) : BracketedWetBulb(state);
+    if (!found) return std::nullopt;
+    return WithinAir(*found, state.t, state.fraction);
 }
 
 }  // namespace zandrell

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 #include "kernel/real_air.h"
@@ -21,6 +22,13 @@ double FrostOrDewPoint(double low, double high, double close, const Function& ex
     if (over_ice <= 0) return RootOfFalling(low, kIceUpTo, close, excess);
     if (over_ice <= kRounding) return kIceUpTo;
     return RootOfFalling(kLiquidFrom, high, close, excess);
+}
+
+// A dew point or wet bulb as found for air of t in degC and relF: saturated air has its own
+// temperature to the last digit, and no air a higher one than its own.
+inline double WithinAir(double found, double t, double relF) {
+    constexpr double kRounding = 1e-6;  // K
+    return relF >= 1 && std::abs(found - t) < kRounding ? t : std::min(found, t);
 }
 
 }  // namespace zandrell

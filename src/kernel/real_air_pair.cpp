@@ -5,15 +5,15 @@
 #include <limits>
 #include <utility>
 
+#include "base/unit_factors.h"
+#include "kernel/frost_point.h"
 #include "kernel/real_air_wet_bulb.h"
 #include "kernel/root.h"
 
 namespace zandrell {
 namespace {
 
-constexpr double kPascalPerBar = 100000;
 constexpr double kLowestDewPoint = -100;  // degC
-constexpr double kCloseEnough = 1e-12;    // of what is bracketed
 constexpr double kRounding = 1e-9;        // by which an end may be missed, relative to 1 + its size
 
 bool TellsVapour(AirFigure figure) {
@@ -32,6 +32,10 @@ double VapourPressureOf(GivenFigure given, double p_bar) {
             return given.value;
     }
 }
+
+// Of what is bracketed, in the unit of the figure: as fine as the figure has digits. In the cold
+// humidity moves the density by little.
+double CloseEnough(AirFigure figure) { return figure == AirFigure::Density ? 4e-15 : 1e-12; }
 
 // Relative humidity of a vapour pressure at t: above 1 in the fog.
 double FractionOf(double vapour_pressure, double t, double p_bar) {
@@ -78,10 +82,15 @@ class PairSearch {
         // The kept figure comes first in the order of how plainly it leaves a line.
         const bool keep_first = Rank(first.figure) <= Rank(second.figure);
         const GivenFigure kept = keep_first ? first : second, other = keep_first ? second : first;
-        if (kept.figure == AirFigure::WetBulb && other.figure == AirFigure::Enthalpy) {
-            return FromWetBulbAndEnthalpy(kept.value, other.value);
+        if (kept.figure == AirFigure::RelativeHumidity && kept.value == 0) {
+            if (other.figure == AirFigure::DewPoint) return {PairEnd::DryAir};
+            if (TellsVapour(other.figure) && other.value == 0) return {PairEnd::NotIndependent};
         }
-        return Along(kept, other, first, second);
+        const bool by_balance =
+            kept.figure == AirFigure::WetBulb && other.figure == AirFigure::Enthalpy;
+        PairAnswer answer =
+            by_balance ? FromWetBulbAndEnthalpy(kept.value, other.value) : Along(kept, other);
+        return answer.end == PairEnd::Contradicting ? Outside(first, second) : answer;
     }
 
   private:
@@ -121,7 +130,7 @@ class PairSearch {
         if (given.value >= least && given.value <= most && std::isfinite(given.value)) {
             return std::nullopt;
         }
-        return PairAnswer{PairEnd::FirstOutside, {}, least, most};
+        return PairAnswer{PairEnd::FirstOutside, {}, {}, least, most};
     }
 
     // The states that keep a figure, by temperature (by humidity where it is the temperature that
@@ -162,8 +171,8 @@ class PairSearch {
     // From the temperature at which saturated air has the figure to that of dry air.
     Way WayFromSaturationToDryAir(GivenFigure kept) const {
         Way way{kRealAirLowest, kRealAirHighest, true};
-        const auto saturated = Along({AirFigure::RelativeHumidity, 1}, kept, {}, {});
-        const auto dry = Along({AirFigure::RelativeHumidity, 0}, kept, {}, {});
+        const auto saturated = Along({AirFigure::RelativeHumidity, 1}, kept);
+        const auto dry = Along({AirFigure::RelativeHumidity, 0}, kept);
         if (saturated.point) way.low = saturated.point->t;
         if (dry.point) way.high = dry.point->t;
         way.known = saturated.point.has_value();
@@ -182,8 +191,17 @@ class PairSearch {
                 return RealAirPoint{
                     at, std::min(FractionOf(VapourPressureOf(kept, p_bar_), at, p_bar_), 1.0)};
             default:
-                return Along({AirFigure::Temperature, at}, kept, {}, {}).point;
+                return PointAt(at, kept);
         }
+    }
+
+    // Where ice has just melted saturated air has a little less of every figure than the search
+    // has passed already.
+    std::optional<RealAirPoint> PointAt(double t, GivenFigure kept) const {
+        constexpr double kMelted = 0.01;  // K
+        const auto point = Along({AirFigure::Temperature, t}, kept).point;
+        if (point || !(t > kIceUpTo && t < kIceUpTo + kMelted)) return point;
+        return RealAirPoint{t, 1};
     }
 
     // What a point has more than is asked for, in a figure that rises along every way.
@@ -206,10 +224,26 @@ class PairSearch {
         }
     }
 
-    PairAnswer Along(GivenFigure kept, GivenFigure other, GivenFigure first,
-                     GivenFigure second) const {
+    // By how much a figure may miss what Above compares.
+    double SlackOf(GivenFigure given) const {
+        const bool vapour = TellsVapour(given.figure);
+        return kRounding * (1 + std::abs(vapour ? VapourPressureOf(given, p_bar_) : given.value));
+    }
+
+    // Along a relative humidity the figures drop once, where ice melts.
+    PairAnswer Along(GivenFigure kept, GivenFigure other) const {
         const Way way = WayOf(kept);
         if (!way.known) return {PairEnd::OutsideModel};
+        const bool melts = kept.figure == AirFigure::RelativeHumidity && way.high > kLiquidFrom;
+        if (!melts || kept.value == 0) return On(way, kept, other);
+        PairAnswer iced = On({way.low, kIceUpTo, true}, kept, other);
+        PairAnswer wet = On({kLiquidFrom, way.high, true}, kept, other);
+        if (!iced.point) return wet;
+        if (wet.point && wet.point->t > kLiquidFrom) iced.warmer = wet.point;
+        return iced;
+    }
+
+    PairAnswer On(const Way& way, GivenFigure kept, GivenFigure other) const {
         bool known = true;
         const auto missing = [&](double at) {
             const auto point = PointOn(kept, at);
@@ -217,53 +251,44 @@ class PairSearch {
             known = known && above;
             return -above.value_or(0);
         };
-        const double slack = kRounding * (1 + std::abs(other.value));
+        const double slack = SlackOf(other);
         const double at_low = missing(way.low), at_high = missing(way.high);
         if (!known) return {PairEnd::OutsideModel};
-        if (at_low < -slack || at_high > slack) return Outside(kept, other, way, first, second);
+        if (at_low < -slack || at_high > slack) return {PairEnd::Contradicting};
+        const double close = CloseEnough(other.figure);
         const double at = at_low <= 0    ? way.low
                           : at_high >= 0 ? way.high
-                                         : RootOfFalling(way.low, way.high, kCloseEnough, missing);
+                                         : RootOfFalling(way.low, way.high, close, missing);
         const auto point = PointOn(kept, at);
         if (!known || !point) return {PairEnd::OutsideModel};
+        const auto strayed = Above(kept, *point);
+        if (!strayed || std::abs(*strayed) > SlackOf(kept)) return {PairEnd::OutsideModel};
         return Found(*point);
     }
 
     // Between which values the second figure would lie with the first as it is.
-    PairAnswer Outside(GivenFigure kept, GivenFigure other, const Way& way, GivenFigure first,
-                       GivenFigure second) const {
-        PairAnswer answer{PairEnd::Contradicting};
-        if (kept.figure == first.figure) {
-            const auto low = PointOn(kept, way.low), high = PointOn(kept, way.high);
-            if (!low || !high) return {PairEnd::OutsideModel};
-            const auto one = FigureOf(other.figure, *low, p_bar_);
-            const auto two = FigureOf(other.figure, *high, p_bar_);
-            answer.least = std::min(one.value_or(kLowestDewPoint), two.value_or(kLowestDewPoint));
-            answer.most = std::max(one.value_or(kLowestDewPoint), two.value_or(kLowestDewPoint));
-            return answer;
-        }
-        const Way other_way = WayOf(first);
-        if (!other_way.known) return {PairEnd::OutsideModel};
-        return Outside(first, second, other_way, first, second);
+    PairAnswer Outside(GivenFigure first, GivenFigure second) const {
+        const Way way = WayOf(first);
+        const auto low = way.known ? PointOn(first, way.low) : std::nullopt;
+        const auto high = way.known ? PointOn(first, way.high) : std::nullopt;
+        if (!low || !high) return {PairEnd::OutsideModel};
+        const double one = FigureOf(second.figure, *low, p_bar_).value_or(kLowestDewPoint);
+        const double two = FigureOf(second.figure, *high, p_bar_).value_or(kLowestDewPoint);
+        const double least = std::min(one, two), most = std::max(one, two);
+        if (second.value >= least && second.value <= most) return {PairEnd::OutsideModel};
+        return {PairEnd::Contradicting, {}, {}, least, most};
     }
 
     // x follows from the balance of the bulb, and the temperature from it.
     PairAnswer FromWetBulbAndEnthalpy(double t_wet, double enthalpy) const {
-        constexpr double kNextToNothing = 1;  // kJ/kg
-        const double water = CondensedEnthalpy(t_wet, p_bar_);
-        if (std::abs(water) < kNextToNothing) return {PairEnd::NotIndependent};
         const auto saturated = EvaluateRealAir(1, t_wet, p_bar_);
         if (!saturated) return {PairEnd::OutsideModel};
+        const double water = CondensedEnthalpy(t_wet, p_bar_);  // never 0: it is under pressure
         const double x = saturated->x + 1000 * (enthalpy - saturated->enthalpy) / water;
-        const double dry = saturated->enthalpy - saturated->x / 1000 * water;
-        if (!(x >= -kRounding && x <= saturated->x * (1 + kRounding))) {
-            return {PairEnd::Contradicting,
-                    {},
-                    std::min(dry, saturated->enthalpy),
-                    std::max(dry, saturated->enthalpy)};
-        }
-        return Along({AirFigure::HumidityRatio, std::max(x, 0.0)}, {AirFigure::Enthalpy, enthalpy},
-                     {}, {});
+        const double slack = 1000 * kRounding * (1 + std::abs(enthalpy)) / std::abs(water);
+        if (!(x >= -slack && x <= saturated->x + slack)) return {PairEnd::Contradicting};
+        return Along({AirFigure::HumidityRatio, std::clamp(x, 0.0, saturated->x)},
+                     {AirFigure::Enthalpy, enthalpy});
     }
 
     double p_bar_;
@@ -283,12 +308,15 @@ std::optional<double> FigureOf(AirFigure figure, const RealAirPoint& point, doub
             return state->x;
         case AirFigure::Enthalpy:
             return state->enthalpy;
-        case AirFigure::DewPoint:
-            return RealDewPoint(state->vapour_pressure, p_bar);
+        case AirFigure::DewPoint: {
+            const auto dew_point = RealDewPoint(state->vapour_pressure, p_bar);
+            if (!dew_point) return std::nullopt;
+            return WithinAir(*dew_point, point.t, point.relF);
+        }
         case AirFigure::WetBulb: {
             const auto bulb = RealWetBulb(point.t, state->x, state->enthalpy, p_bar);
             if (!bulb) return std::nullopt;
-            return bulb->t;
+            return WithinAir(bulb->t, point.t, point.relF);
         }
         case AirFigure::VapourPressure:
             return state->vapour_pressure;

@@ -32,8 +32,9 @@ struct RealAirPoint {
 
 enum class PairEnd {
     Found,
-    NotIndependent,  // the two tell the same: x, dew point and vapour pressure do, and enthalpy
-                     // and wet bulb where the water that evaporates brings next to nothing
+    NotIndependent,  // the two tell the same: x, dew point and vapour pressure do, and that air is
+                     // dry
+    DryAir,          // a dew point of air without water
     FirstOutside,    // the first figure lies outside the model, whatever the second is
     SecondOutside,   // the second, whatever the first is
     Contradicting,   // with the first as it is the second lies between `least` and `most`
@@ -43,6 +44,9 @@ enum class PairEnd {
 struct PairAnswer {
     PairEnd end = PairEnd::OutsideModel;
     std::optional<RealAirPoint> point{};
+    // A second state with both figures, above 0.01 degC: as ice melts saturation drops a little, so
+    // that a relative humidity meets some figures on both sides.
+    std::optional<RealAirPoint> warmer{};
     double least = 0, most = 0;  // of the figure that lies outside
 };
 

@@ -103,7 +103,7 @@ TEST(RealAirTable, WithoutAChoiceOtherFiguresThanTAndRhAreOfRealAir) {
     }
     const CommandLine line = StateLine(AirChoice::Convention);
     EXPECT_FALSE(RunTable(line, "").done);
-    EXPECT_EQ(RunTable(line, "t,RH\n").error, "line 1: there is no column rh");
+    EXPECT_EQ(RunTable(line, "t,RH\n").error, "line 1: there is no column rh, but RH");
     EXPECT_TRUE(RunTable(line, "t,x").done) << "a header alone is a table without rows";
 }
 
@@ -122,6 +122,9 @@ TEST(RealAirTable, WithoutAChoiceTAndRhHaveTheAirOfTheSettings) {
     EXPECT_EQ(exact[2], real[2]);
     EXPECT_NE(exact[2], Lines(suite.output)[2]);
     EXPECT_EQ(LastNumbers(exact[3], kResults)[kHumidity], 100) << "what was used in its place";
+    line.air = AirChoice::Convention;
+    EXPECT_EQ(RunTable(line, table).reports,
+              "line 4: rh = 130 is outside 0..100 %, 100 is taken\n");
 
     const TestFolder folder;  // with settings of the suite
     folder.CopyWholeSet();
@@ -140,7 +143,7 @@ TEST(RealAirTable, TheAirOfTheSettingsGoesOnBeyondTheModel) {
     const TableRun run = RunTable(StateLine(AirChoice::Convention),
                                   "t,rh,p\n120,10,1.01325\n99.999999,5,1\n100.000001,5,1\n-55,50,1"
                                   "\n20,50,3\n20,50,0.3\n-55,50,3\n-61,50,1\n801,1,1\n20,50,9\n"
-                                  "120,60,1.01325\n20,0,3\n20,,1\n");
+                                  "120,60,1.01325\n20,0,3\n20,,1\n20,-5,1\n20,50,0\n");
     ASSERT_TRUE(run.done) << run.error;
     // Of 198.67 kPa, the pressure of steam at 120 degC, 101.325 are 51 %.
     const std::vector<std::string> reasons{
@@ -149,10 +152,12 @@ TEST(RealAirTable, TheAirOfTheSettingsGoesOnBeyondTheModel) {
         "line 10: t = 801 is outside -60..800 degC",
         "line 11: p = 9 is outside 0..8.5 bar",
         "line 12: rh = 60 is outside 0..51.002842 %, with this t",
-        "line 14: rh is empty"};
+        "line 14: rh is empty",
+        "line 15: rh = -5 is outside 0..100 %",
+        "line 16: p = 0 is not above 0 bar"};
     EXPECT_EQ(Lines(run.reports), reasons);
     const auto lines = Lines(run.output);
-    ASSERT_EQ(lines.size(), 14U);
+    ASSERT_EQ(lines.size(), 16U);
     // Steam tables: 198.67 kPa at 120 degC. x = 621.945 * 19867 / (101325 - 19867); the density by
     // the gas law, 81458 / (287.04 * 393.15) + 19867 / (461.5 * 393.15).
     const auto hot = LastNumbers(lines[1], kResults);
@@ -185,7 +190,9 @@ TEST(RealAirTable, SaysLineByLineWhatIsWrong) {
     const TableRun run = RunTable(
         RealLine(),
         "t,rh,x,h,t_dew,t_wet,p\n25,,,,,26,1.01325\n25,,,,30,,\n25,,-1,,,,\n25,1,2,,,,\n25,,,"
-        ",,,\n,,5,,3,,\n25,50,,,,,3\n120,50,,,,,\n0.3,,,,,0,1.01325\n20,0,,,,,\n25,,,,,x,\n");
+        ",,,\n,,5,,3,,\n25,50,,,,,3\n120,50,,,,,\n0.3,,,,,0,1.01325\n20,0,,,,,\n25,,,,,x,\n,0,,,5,,"
+        "\n,0,0,,,,\n,100,3.7939,,,,1.013\n"
+        "25,100,,,,,\n");
     ASSERT_TRUE(run.done) << run.error;
     const std::vector<std::string> reasons{
         "line 2: t_wet = 26 is outside 8.243169..25 degC, with this t",
@@ -196,10 +203,17 @@ TEST(RealAirTable, SaysLineByLineWhatIsWrong) {
         "line 7: x and t_dew do not determine a state",
         "line 8: p = 3 is outside 0.5..2 bar",
         "line 9: t = 120 is outside -60..100 degC",
-        "line 12: t_wet is no number: \"x\""};
+        "line 12: t_wet is no number: \"x\"",
+        "line 13: dry air has no dew point",
+        "line 14: rh and x do not determine a state",
+        "line 15: air of 0.009312 degC and of 0.01053 degC has both figures; the first is taken"};
     EXPECT_EQ(Lines(run.reports), reasons);
     const auto lines = Lines(run.output);
-    ASSERT_EQ(lines.size(), 12U);
+    ASSERT_EQ(lines.size(), 16U);
+    EXPECT_NEAR(LastNumbers(lines[14], kResults)[kT], 0.009312, 1e-6);
+    const auto saturated = LastNumbers(lines[15], kResults);
+    EXPECT_EQ(saturated[kDewPoint], 25);
+    EXPECT_EQ(saturated[kWetBulb], 25);
     EXPECT_TRUE(lines[1].ends_with(std::string(kResults, ','))) << lines[1];
     const auto both = LastNumbers(lines[9], kResults);
     EXPECT_EQ(both[kWetBulb], 0) << "iced";
@@ -224,6 +238,14 @@ TEST(RealAirTable, OneStateForPeopleAndAsJson) {
     const TableRun wrong = RunTable(line, "");
     EXPECT_FALSE(wrong.done);
     EXPECT_EQ(wrong.error, "rh = 150 is outside 0..100 %");
+
+    line = StateLine(AirChoice::Convention);
+    line.state = StateOptions{{200, 1}, 1};
+    EXPECT_TRUE(RunTable(line, "").reports.starts_with("note: beyond -60..100 degC, 0.5..2 bar"));
+    line.state = StateOptions{{20, 130}, 1};
+    EXPECT_EQ(RunTable(line, "").reports, "note: rh = 130 is outside 0..100 %, 100 is taken\n");
+    line.state = StateOptions{{20, 50}, 1};
+    EXPECT_EQ(RunTable(line, "").reports, "");
 }
 
 }  // namespace

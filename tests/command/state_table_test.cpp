@@ -206,8 +206,9 @@ TEST(StateTable, RefusesATableWithoutItsColumns) {
     };
     for (const auto& c : std::vector<Case>{
              {"", false, "the input is empty: its first line must name the columns"},
-             {"t;rh;p\n1;2;3\n", false, "line 1: there is no column t"},
-             {"t,RH\n", false, "line 1: there is no column rh"},
+             {"t;rh;p\n1;2;3\n", false, "line 1: there is no column t: commas part the cells"},
+             {"t,RH\n", false, "line 1: there is no column rh, but RH"},
+             {"t,p\n", false, "line 1: there is no column rh"},
              {"t,rh,t\n", false, "line 1: there are two columns t"},
              {"t,\"rh\n", false, "line 1: no header line that names the columns"},
              {std::string(2U << 20U, 't'), false, "line 1: no header line that names the columns"},

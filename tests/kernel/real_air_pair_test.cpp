@@ -55,31 +55,55 @@ TEST(RealWetBulb, CondensedWaterByTheTables) {
     EXPECT_NEAR(CondensedEnthalpy(0.01, 1.01325), -333.34, 0.2);
 }
 
+bool TellsVapourAlone(AirFigure figure) {
+    return figure == HumidityRatio || figure == DewPoint || figure == VapourPressure;
+}
+
+// Dry and saturated air, and air where ice melts, are among the states.
 TEST(RealAirPair, EveryPairLeadsBackToItsFigures) {
     std::mt19937 random(15);
     const auto between = [&](double low, double high) {
         return std::uniform_real_distribution<double>(low, high)(random);
     };
-    int closed = 0;
+    int closed = 0, twice = 0;
     for (int i = 0; i < 20000; ++i) {
-        const RealAirPoint point{between(-50, 90), between(0.01, 1)};
-        const double p = between(0.6, 1.9);
         const AirFigure one = kFigures[i % 8], two = kFigures[i / 8 % 8];
+        RealAirPoint point{between(-50, 90), between(0.01, 1)};
+        if (i % 5 == 0) point.t = between(-0.1, 0.6);
+        if (i % 15 == 0) point.t = between(0.005, 0.015);
+        if (i % 7 < 2) point.relF = i % 7;
+        const double p = between(0.6, 1.9);
         const auto first = FigureOf(one, point, p), second = FigureOf(two, point, p);
-        if (!first || !second) continue;
+        if (!first || !second || one == two) continue;
+        if (TellsVapourAlone(one) && TellsVapourAlone(two)) continue;
         const auto answer = RealAirFromPair({one, *first}, {two, *second}, p);
-        if (answer.end == PairEnd::NotIndependent) continue;
-        ASSERT_EQ(answer.end, PairEnd::Found)
-            << i % 8 << " " << i / 8 % 8 << " " << point.t << " " << point.relF << " " << p;
+        const std::string where = std::to_string(i % 8) + " " + std::to_string(i / 8 % 8) + " " +
+                                  std::to_string(point.t) + " " + std::to_string(point.relF) + " " +
+                                  std::to_string(p);
+        const bool humidity = one == RelativeHumidity || two == RelativeHumidity;
+        if (point.relF == 0 && humidity && (TellsVapourAlone(one) || TellsVapourAlone(two))) {
+            EXPECT_EQ(answer.end, PairEnd::NotIndependent) << where;
+            continue;
+        }
+        ASSERT_EQ(answer.end, PairEnd::Found) << where;
         ++closed;
-        for (const auto& [figure, value] : {std::pair{one, *first}, {two, *second}}) {
-            const auto again = FigureOf(figure, *answer.point, p);
-            ASSERT_TRUE(again);
-            ASSERT_NEAR(*again, value, 1e-8 * std::max(1.0, std::abs(value)))
-                << i % 8 << " " << i / 8 % 8 << " " << point.t << " " << point.relF << " " << p;
+        if (answer.warmer) ++twice;
+        const auto away = [&](const RealAirPoint& found) {
+            return std::abs(found.t - point.t) + std::abs(found.relF - point.relF);
+        };
+        EXPECT_LT(std::min(away(*answer.point), away(answer.warmer.value_or(*answer.point))), 1e-6)
+            << where;
+        for (const auto& found : {answer.point, answer.warmer}) {
+            if (!found) continue;
+            for (const auto& [figure, value] : {std::pair{one, *first}, {two, *second}}) {
+                const auto again = FigureOf(figure, *found, p);
+                ASSERT_TRUE(again) << where;
+                EXPECT_NEAR(*again, value, 1e-8 * std::max(1.0, std::abs(value))) << where;
+            }
         }
     }
-    EXPECT_GT(closed, 14000);
+    EXPECT_GT(closed, 13000);
+    EXPECT_GT(twice, 10);
 }
 
 // Saturated air of 25 degC holds 20.17 g/kg. Dry air of 25 degC cools at a wet bulb to where it
@@ -104,6 +128,9 @@ TEST(RealAirPair, SaysWhatContradictsItself) {
         {{Temperature, kNan}, {Enthalpy, 50}, PairEnd::FirstOutside, -60, 100},
         {{Temperature, 20}, {Enthalpy, kNan}, PairEnd::SecondOutside, -1e300, 1e300},
         {{Enthalpy, 50}, {Density, 3}, PairEnd::Contradicting, 1.0, 1.3},
+        {{RelativeHumidity, 0}, {DewPoint, 5}, PairEnd::DryAir, 0, 0},
+        {{RelativeHumidity, 0}, {HumidityRatio, 0}, PairEnd::NotIndependent, 0, 0},
+        {{VapourPressure, 0}, {RelativeHumidity, 0}, PairEnd::NotIndependent, 0, 0},
     };
     for (const auto& row : rows) {
         const auto answer = RealAirFromPair(row.first, row.second, 1.01325);
@@ -114,6 +141,41 @@ TEST(RealAirPair, SaysWhatContradictsItself) {
         EXPECT_NEAR(answer.most, row.most, 0.6) << row.first.value << " " << row.second.value;
     }
     EXPECT_EQ(RealAirFromPair({Temperature, 20}, {Enthalpy, 40}, 3).end, PairEnd::OutsideModel);
+    // By the tables of saturated air (15 degC: 42.113 kJ/kg, 10.69 g/kg; 16 degC: 44.963, 11.41)
+    // 43 kJ/kg saturates 15.31 degC, and less the water of a bulb, 4.19 kJ/(kg K), 15.57 degC.
+    const auto bulb = RealAirFromPair({Enthalpy, 43}, {WetBulb, 20}, 1.01325);
+    EXPECT_EQ(bulb.end, PairEnd::Contradicting);
+    EXPECT_NEAR(bulb.least, 15.31, 0.02);
+    EXPECT_NEAR(bulb.most, 15.57, 0.02);
+}
+
+// To the last digit, so that what a screen cuts shows it and a pair takes it.
+TEST(RealAirPair, SaturatedAirIsItsOwnDewPointAndWetBulb) {
+    for (const double t : {-40.0, -10.0, 0.0, 0.01, 1.0, 7.0, 20.0, 32.0, 38.0, 60.0}) {
+        for (const double p : {0.7, 1.013, 1.9}) {
+            for (const AirFigure figure : {DewPoint, WetBulb}) {
+                EXPECT_EQ(FigureOf(figure, {t, 1}, p), t) << p;
+                EXPECT_LE(*FigureOf(figure, {t, 1 - 1e-14}, p), t) << p;
+                const auto answer = RealAirFromPair({Temperature, t}, {figure, t}, p);
+                ASSERT_TRUE(answer.point) << t << " " << p;
+                EXPECT_NEAR(answer.point->relF, 1, 1e-9);
+            }
+        }
+    }
+}
+
+// Water dissolves air and ice does not: as ice melts saturated air loses some 0.02 % of its vapour,
+// and a little above 0.01 degC it holds once more what it held at 0.0095.
+TEST(RealAirPair, TellsBothStatesWhereIceMelts) {
+    const double x = *FigureOf(HumidityRatio, {0.0095, 1}, 1.01325);
+    const auto answer = RealAirFromPair({RelativeHumidity, 1}, {HumidityRatio, x}, 1.01325);
+    ASSERT_TRUE(answer.point && answer.warmer);
+    EXPECT_NEAR(answer.point->t, 0.0095, 1e-9);
+    EXPECT_GT(answer.warmer->t, 0.01);
+    EXPECT_LT(answer.warmer->t, 0.0126);
+    EXPECT_NEAR(*FigureOf(HumidityRatio, *answer.warmer, 1.01325), x, 1e-9);
+    EXPECT_FALSE(RealAirFromPair({RelativeHumidity, 1}, {HumidityRatio, 3.7}, 1.01325).warmer);
+    EXPECT_FALSE(RealAirFromPair({RelativeHumidity, 0}, {Enthalpy, 0.01006}, 1.01325).warmer);
 }
 
 }  // namespace
