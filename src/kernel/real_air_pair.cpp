@@ -235,7 +235,7 @@ class PairSearch {
         const Way way = WayOf(kept);
         if (!way.known) return {PairEnd::OutsideModel};
         const bool melts = kept.figure == AirFigure::RelativeHumidity && way.high > kLiquidFrom;
-        if (!melts || kept.value == 0) return On(way, kept, other);
+        if (!melts) return On(way, kept, other);
         PairAnswer iced = On({way.low, kIceUpTo, true}, kept, other);
         PairAnswer wet = On({kLiquidFrom, way.high, true}, kept, other);
         if (!iced.point) return wet;
