@@ -87,7 +87,7 @@ void ReadOutPanel::TakeWords(const Captions& captions) {
     for (Row& row : rows) {
         row.words = words_of(row.sign, row, row.caption);
         row.ice_words = words_of(row.ice_sign, row, row.ice_caption);
-        CallIce(*row.figure, false);
+        CallIce(*row.figure, row.of_ice);
     }
 }
 
@@ -101,6 +101,7 @@ void ReadOutPanel::ShowRowsOf(Convention convention) {
 void ReadOutPanel::CallIce(const Label& figure, bool ice) {
     for (Row& row : rows) {
         if (row.figure != &figure) continue;
+        row.of_ice = ice;
         const Row::Words& words = ice ? row.ice_words : row.words;
         row.word.text = words.text;
         row.word.tool_tip = words.tool_tip;

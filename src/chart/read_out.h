@@ -42,6 +42,7 @@ struct ReadOutPanel {
             std::string text, tool_tip;
         };
         Words words{}, ice_words{};
+        bool of_ice = false;  // what the figure in force is
     };
     std::array<Row, 11> rows{{
         {&Temp, Label("TempLabel"), "t", UnitDegC, Caption::Temperature},

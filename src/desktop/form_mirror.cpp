@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QStringList>
+#include <QToolTip>
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -29,6 +30,15 @@ QStringList ItemsOf(const QComboBox& box) {
     QStringList items;
     for (int i = 0; i < box.count(); ++i) items << box.itemText(i);
     return items;
+}
+
+// A hand on the keys does not hover: it sees below the field why the text is not used.
+void ShowRefusal(const QLineEdit& field, const Control& control) {
+    const bool refused = !control.hint.empty() && !control.pending && !control.stale;
+    if (!refused) return;
+    constexpr int kBelowPointer = 16;  // by which the toolkit moves a tip down
+    const QPoint below(0, field.height() - kBelowPointer + 3);
+    QToolTip::showText(field.mapToGlobal(below), Utf8(control.hint));
 }
 
 }  // namespace
@@ -99,10 +109,13 @@ void FormMirror::Bind(QLineEdit* field, const TextField& control) {
     AddColours(field, control);
     const std::string_view name = control.name;
     QObject::connect(field, &QLineEdit::textEdited, field, [this, name](const QString& text) {
+        QToolTip::hideText();
         Perform([&] { window_.UserSetText(name, text.toStdString()); });
     });
-    QObject::connect(field, &QLineEdit::returnPressed, field,
-                     [this, name] { Perform([&] { window_.UserReturn(name); }); });
+    QObject::connect(field, &QLineEdit::returnPressed, field, [this, name, field, &control] {
+        Perform([&] { window_.UserReturn(name); });
+        ShowRefusal(*field, control);
+    });
     // Writing an equal text would move the cursor.
     writers_.push_back([field, &control] {
         const QString text = Utf8(control.text);

@@ -59,7 +59,7 @@ QToolTip { background: @ink; color: @field; border: none; padding: 0.333em 0.467
 
 QLineEdit { border: 1px solid @border; border-radius: 0.267em; padding: 0.133em 0.4em;
             background: transparent; }
-QLineEdit:disabled { border-color: @disabled-edge; }
+QLineEdit:disabled { border-color: transparent; color: @ink; }
 QLineEdit:hover { border-color: @accent; }
 QLineEdit:focus { border: 0.133em solid @accent; padding: 1px 0.333em; }
 QLineEdit[pending="true"] { border-left: 0.333em solid @accent; padding-left: 0.133em; }
@@ -228,7 +228,9 @@ void FigureField::paintEvent(QPaintEvent* event) {
     const QColor own = palette().color(QPalette::Base);
     const QColor designed =
         QApplication::palette().color(palette().currentColorGroup(), QPalette::Base);
-    painter.setBrush(own.alpha() == 0 ? designed : own);
+    // What cannot be typed is a figure like others.
+    const QColor usual = isEnabled() ? designed : ColourOf(LookColour::Cell);
+    painter.setBrush(own.alpha() == 0 || own == designed ? usual : own);
     const double radius = Scaled(*this, 4);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.end();

@@ -72,6 +72,7 @@ std::optional<Refusal> AgainstHumidity(const std::string& text) {
     if (auto refusal = AgainstNumber(text)) return refusal;
     const double percent = ParsedNumber(text);
     if (percent > 0 && percent <= 100) return std::nullopt;
+    if (percent == 0) return Refusal{Caption::AboveZero};
     return Refusal{Caption::OutsideLimits, "0", "100 %"};
 }
 

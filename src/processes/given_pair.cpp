@@ -12,14 +12,33 @@ namespace {
 
 using enum AirFigure;
 
+// All but enthalpy and wet bulb, which rise so nearly together that their decimals on the screen
+// tell no state.
 constexpr FigurePair kPairs[] = {
-    {Temperature, RelativeHumidity}, {Temperature, HumidityRatio},
-    {Temperature, Enthalpy},         {Temperature, DewPoint},
-    {Temperature, WetBulb},          {Temperature, VapourPressure},
-    {Temperature, Density},          {RelativeHumidity, HumidityRatio},
-    {RelativeHumidity, Enthalpy},    {RelativeHumidity, DewPoint},
-    {RelativeHumidity, WetBulb},     {HumidityRatio, Enthalpy},
-    {HumidityRatio, WetBulb},        {DewPoint, WetBulb},
+    {Temperature, RelativeHumidity},
+    {Temperature, HumidityRatio},
+    {Temperature, Enthalpy},
+    {Temperature, DewPoint},
+    {Temperature, WetBulb},
+    {Temperature, VapourPressure},
+    {Temperature, Density},
+    {RelativeHumidity, HumidityRatio},
+    {RelativeHumidity, Enthalpy},
+    {RelativeHumidity, DewPoint},
+    {RelativeHumidity, WetBulb},
+    {RelativeHumidity, VapourPressure},
+    {RelativeHumidity, Density},
+    {HumidityRatio, Enthalpy},
+    {HumidityRatio, WetBulb},
+    {HumidityRatio, Density},
+    {Enthalpy, DewPoint},
+    {Enthalpy, VapourPressure},
+    {Enthalpy, Density},
+    {DewPoint, WetBulb},
+    {DewPoint, Density},
+    {WetBulb, VapourPressure},
+    {WetBulb, Density},
+    {VapourPressure, Density},
 };
 
 constexpr double kPercent = 100, kPascalPerHectopascal = 100;
@@ -110,6 +129,7 @@ class PairOnChart {
         : first_(first), second_(second), settings_(settings), p_bar_(p_bar) {}
 
     PairOutcome Outcome() const {
+        if (!RealAirKnowsPressure(p_bar_)) return NoSuchPressure();
         if (const auto range = RangeOfFirst(); range && !range->Holds(first_.value)) {
             return {{}, OutsideOf(first_.figure, *range)};
         }
@@ -121,7 +141,7 @@ class PairOnChart {
         const auto answer = RealAirFromPair(first_, second_, p_bar_);
         if (!answer.point) return NoSuchState();
         const double percent = std::min(RoundedUp(kPercent * answer.point->relF), kPercent);
-        if (percent <= 0) return {{}, {}, OutsideOf(second_.figure, *range)};
+        if (percent <= 0) return NoDryAir(*range);
         const double t =
             std::clamp(RoundedUp(answer.point->t), settings_.ChartTMin, settings_.ChartTMax);
         return {StateTexts{NumberText(t), NumberText(percent)}};
@@ -132,6 +152,23 @@ class PairOnChart {
 
     static PairOutcome NoSuchState() {
         return {{}, Refusal{Caption::NoSuchState}, Refusal{Caption::NoSuchState}};
+    }
+
+    static PairOutcome NoSuchPressure() {
+        const Refusal refusal{Caption::OutsideLimits, TrimmedNumberText(kRealAirLowestBar),
+                              TrimmedNumberText(kRealAirHighestBar).append(" ").append(UnitBar)};
+        return {{}, refusal, refusal};
+    }
+
+    // The panel knows no dry air: at fault is the figure that tells that it is.
+    PairOutcome NoDryAir(const Range& of_second) const {
+        const auto none = [](GivenFigure given) {
+            const bool vapour = given.figure == HumidityRatio || given.figure == VapourPressure;
+            return vapour && given.value <= 0;
+        };
+        if (none(first_)) return {{}, Refusal{Caption::AboveZero}};
+        if (none(second_)) return {{}, {}, Refusal{Caption::AboveZero}};
+        return {{}, {}, OutsideOf(second_.figure, of_second)};
     }
 
     // Of the whole chart; empty for the two figures whose own fields have their limits.
@@ -151,7 +188,8 @@ class PairOnChart {
             return Ends{{coldest, fraction}, {warmest, fraction}};
         auto cold = RealAirFromPair(first_, {Temperature, coldest}, p_bar_).point;
         if (!cold) cold = RealAirFromPair(first_, {RelativeHumidity, 1}, p_bar_).point;
-        const auto warm = RealAirFromPair(first_, {Temperature, warmest}, p_bar_).point;
+        auto warm = RealAirFromPair(first_, {Temperature, warmest}, p_bar_).point;
+        if (!warm) warm = RealAirFromPair(first_, {RelativeHumidity, 0}, p_bar_).point;
         if (!cold || !warm) return std::nullopt;
         return Ends{*cold, *warm};
     }

@@ -61,6 +61,7 @@ void StateEntry::ShowControls() {
          std::initializer_list<Control*>{&first_word, &first, &second_word, &second}) {
         control->visible = control->enabled = choice.visible && GivesPair();
     }
+    temperature_.enabled = humidity_.enabled = !first.visible;  // figures that follow
     ShowWord(first_word, Pair().first);
     ShowWord(second_word, Pair().second);
 }

@@ -1,7 +1,9 @@
 // The menu of the pairs by a user's click and keys, and what is then on the screen.
 #include <QMenu>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include "desktop/window_session.h"
 
@@ -54,12 +56,21 @@ TEST_F(GiveAsShown, TheMenuShowsTheFieldsOfItsPair) {
     EXPECT_EQ(button->menu()->actions().at(4)->isChecked(), true);
     EXPECT_EQ(button->menu()->actions().at(0)->isChecked(), false);
 
+    auto* temperature = Find<QLineEdit>("Temp1");
+    EXPECT_FALSE(temperature->isEnabled());
+    const QImage picture = temperature->grab().toImage();
+    const QColor ground = picture.pixelColor(picture.width() / 3, picture.height() / 2);
+    EXPECT_EQ(ground, ColourOf(LookColour::Cell)) << "as a figure that follows";
+    EXPECT_TRUE(Find<QLineEdit>("Temp2")->isEnabled());
+
     Type(*bulb, "30");
     EXPECT_TRUE(bulb->property("pending").toBool());
     Key(*bulb, Qt::Key_Return);
     EXPECT_EQ(bulb->toolTip(), QStringLiteral("not used: only 8.8 to 26 °C is possible"));
+    EXPECT_EQ(QToolTip::text(), bulb->toolTip()) << "seen without hovering";
     EXPECT_EQ(bulb->palette().color(QPalette::Base), ColourOf(LookColour::SoftRed));
     Type(*bulb, "15");
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 5000)) << "of another text";
     Key(*bulb, Qt::Key_Return);
     EXPECT_EQ(bulb->toolTip(), QString());
     // x is (2466.1 * 10.69 - 1.006 * 11 * 1000) / 2486.6 = 6.15 g/kg, of 21.45 saturated: 29.4 %.

@@ -96,6 +96,8 @@ TEST_F(PointerShown, FrostAndIceAreCalledByTheirNamesUnderExactAlone) {
         EXPECT_TRUE(row("CondensedWaterLabel")->text().startsWith(QLatin1String(c.condensed)))
             << c.t;
     }
+    window_->Mirror().Perform([&] { form_.Activate(); });
+    EXPECT_TRUE(row("DewPointLabel")->text().startsWith(QLatin1String("tf"))) << "as its figure";
     form_.chart.convention_override = Convention::Suite;
     read(5, 20);
     EXPECT_FALSE(row("DewPointLabel")->isVisible());
