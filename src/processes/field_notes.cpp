@@ -39,7 +39,9 @@ void FieldNotes::MarkUsed(TextField& field) const {
 void FieldNotes::MarkRefused(TextField& field, const Refusal& refusal) const {
     field.pending = false;
     const std::string reason = FilledIn(captions_[refusal.reason], {refusal.least, refusal.most});
-    field.hint = FilledIn(captions_[Caption::NotUsed], {reason});
+    field.hint = refusal.reason == Caption::CountsAs
+                     ? reason
+                     : FilledIn(captions_[Caption::NotUsed], {reason});
 }
 
 void FieldNotes::MarkPending(TextField& field) const {
@@ -52,6 +54,10 @@ void FieldNotes::MarkFigures(std::initializer_list<Control*> figures, bool stale
         figure->stale = stale;
         figure->hint = stale ? captions_[Caption::OfEarlierInputs] : std::string();
     }
+}
+
+Refusal CountsAs(std::string_view percent) {
+    return {Caption::CountsAs, std::string(percent).append(" %")};
 }
 
 std::optional<Refusal> AgainstNumber(const std::string& text) {

@@ -32,11 +32,12 @@ class TakenTexts {
     bool known_ = false;
 };
 
-// Why a value is not used: a message and what is filled in.
+// Why a value is not used, or what is used in its place: a message and what is filled in.
 struct Refusal {
     Caption reason;
     std::string least{}, most{};
 };
+Refusal CountsAs(std::string_view percent);
 
 // Marks fields and figures: what is not used and why, what is typed and not yet confirmed, what
 // belongs to inputs that have changed since.

@@ -126,6 +126,9 @@ class PlantPanel {
     PlantDrawing Drawing() const;
     std::string Basis() const;
     std::optional<Refusal> RefusalOf(const TextField& field) const;
+    std::optional<Refusal> HumidityNote(const TextField& field) const;
+    std::optional<Refusal> AgainstAir(const TextField& temperature,
+                                      const TextField& humidity) const;
     void KeepWay(const PlantRun& run, const AirPoint& heated);
 
     // The states of the last run, for the table of states.

@@ -15,9 +15,13 @@ std::string PointPanel::Basis(Calculation mode) const {
 void PointPanel::NoteFields() {
     const FieldNotes notes(context_.captions);
     const std::string basis = Basis(context_.Rechenmodus);
-    notes.MarkFigures({&absF1, &enth1, &absF2, &enth2}, !states_of_.Hold(basis));
-    notes.MarkFigures({&Kleist, &KLatent, &Ksensibel, &KondW, &TempM, &relFM, &absFM},
-                      !outcome_of_.Hold(basis));
+    const bool first_typed = entry1.IsTyped(), second_typed = entry2.IsTyped();
+    const bool other_states = !states_of_.Hold(basis);
+    notes.MarkFigures({&absF1, &enth1}, other_states || first_typed);
+    notes.MarkFigures({&absF2, &enth2}, other_states || second_typed);
+    const bool other_outcome = !outcome_of_.Hold(basis) || first_typed || second_typed;
+    notes.MarkFigures({&Kleist, &TempM, &relFM, &absFM}, other_outcome);
+    notes.MarkFigures({&KLatent, &Ksensibel, &KondW}, other_outcome || !taken_.Holds(Kleist));
     for (TextField* field : {&Temp1, &relF1, &Temp2, &relF2, &LuftM1, &LuftM2, &Kleist}) {
         if (!taken_.Holds(*field)) {
             notes.MarkPending(*field);
@@ -44,6 +48,8 @@ std::optional<Refusal> PointPanel::RefusalOf(const TextField& field) const {
                                   : AgainstHumidity(field.text);
     if (refusal) return refusal;
     const bool first = &field == &Temp1 || &field == &relF1;
+    // The temperature alone is at fault.
+    if (AgainstTemperature((first ? Temp1 : Temp2).text, context_.settings)) return std::nullopt;
     return HasState(first ? relF1 : relF2, first ? Temp1 : Temp2)
                ? std::nullopt
                : std::optional(Refusal{Caption::NoSuchState});

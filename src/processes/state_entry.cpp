@@ -101,6 +101,10 @@ void StateEntry::FollowState() {
     taken_.Take();
 }
 
+bool StateEntry::IsTyped() const {
+    return first.visible && !(taken_.Holds(first) && taken_.Holds(second));
+}
+
 void StateEntry::NoteFields(const FieldNotes& notes) {
     const bool of_another_state = followed_.state != State();
     notes.MarkFigures({&first, &second}, of_another_state);

@@ -44,6 +44,8 @@ class StateEntry {
     void FollowState();
 
     void NoteFields(const FieldNotes& notes);
+    // Whether a figure is typed and not yet confirmed.
+    bool IsTyped() const;
 
   private:
     bool GivesPair() const { return choice.index > 0; }

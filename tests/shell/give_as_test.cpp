@@ -174,6 +174,15 @@ TEST(GiveAs, IsShownWhereAStateIsTyped) {
     }
 }
 
+TEST(GiveAs, WhatIsTypedMakesTheFiguresOfItsStateOlder) {
+    ScriptSession session;
+    const Json dump =
+        session.RunOnce(InPanel("select GiveAs1 4\nset Given1B 15\ndump absF1 absF2 KLatent\n"));
+    EXPECT_TRUE(dump.at("absF1").value("stale", false));
+    EXPECT_FALSE(dump.at("absF2").value("stale", false));
+    EXPECT_TRUE(dump.at("KLatent").value("stale", false));
+}
+
 // To the whole degree, which the search does not miss by a rounding.
 TEST(GiveAs, TakesSaturatedAir) {
     for (const char* t : {"32", "7", "40", "-10", "0", "1", "38", "-20"}) {

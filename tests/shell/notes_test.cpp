@@ -54,7 +54,15 @@ TEST(FieldHints, SayWhyAValueIsNotUsed) {
         {std::string(kPlant) + "set vhaussen -1\nreturn vhaussen\n", "vhaussen",
          "not used: only values above 0 are possible"},
         {std::string(kPlant) + "set phiKanal 130\nreturn phiKanal\n", "phiKanal",
-         "not used: only 0 to 100 % is possible"},
+         "counts as 100 %"},
+        {std::string(kPlant) + "set PhiAussen -5\nreturn PhiAussen\n", "PhiAussen",
+         "counts as 1 %"},
+        {std::string(kPlant) + "set Taus -400\nreturn Taus\n", "Taus",
+         "not used: only -50 to 800 °C is possible"},
+        // Steam of 300 degC and 40 % has more than the pressure of the air (IAPWS-IF97: 85.9 bar).
+        {"click optButt\ncheck qvopt.ExactBox on\nclick qvopt.Command3D1\n" + std::string(kPlant) +
+             "set Taus 300\nreturn Taus\n",
+         "Taus", "not used: humid air has no state with these values"},
     };
     for (const auto& c : cases) {
         ScriptSession session;
@@ -92,6 +100,13 @@ TEST(FigureMarks, FiguresOfOtherInputsAreStale) {
         }
         EXPECT_EQ(Says(dumps[c.dump], "Temp1", "pending"), c.pending) << c.what;
     }
+    const auto typed = session.Run(std::string(kStates) +
+                                   "click BearButt\nset Kleist 10\ndump\nreturn Temp1\n"
+                                   "set Temp2 -400\nreturn Temp2\ndump\n");
+    EXPECT_TRUE(Says(typed[0], "KLatent", "stale")) << "of another capacity than is typed";
+    EXPECT_FALSE(Says(typed[0], "absF1", "stale"));
+    EXPECT_NE(Hint(typed[1], "Temp2"), "");
+    EXPECT_EQ(Hint(typed[1], "relF2"), "") << "the temperature alone is at fault";
     EXPECT_EQ(Hint(dumps[1], "absF1"), "belongs to earlier inputs");
     EXPECT_EQ(Hint(dumps[1], "Temp1"), "not taken yet, confirm with the Return key");
 }
