@@ -133,6 +133,7 @@ class PlantPanel {
         MixingSection mixing;
         AirPoint supply, before_fan, heated;
         std::optional<AirPoint> coil;  // empty without cooling
+        double Anzeigefaktor = 1000;
     };
 
     ProcessContext context_;
