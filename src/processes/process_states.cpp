@@ -35,6 +35,14 @@ std::string GainText(double gain, double factor) {
     return TrimmedNumberText(std::copysign(Cut(std::abs(gain), factor), gain));
 }
 
+ProcessState& Add(ProcessStates& states, const std::string& name, const AirPoint& air,
+                  double dry_air) {
+    ProcessState& state = states.emplace_back();
+    state = {name, air.t, air.x, air.h};
+    state.dry_air = Positive(dry_air);
+    return state;
+}
+
 }  // namespace
 
 std::string FigureAlone(const std::string& text) {
@@ -88,10 +96,7 @@ ProcessStates PlantPanel::States() const {
     const double total = way_.mixing.mL, share = 1 / (1 + ParsedNumber(aussenAnt.text));
     ProcessStates states;
     const auto add = [&states](const std::string& name, const AirPoint& air, double dry_air) {
-        ProcessState& state = states.emplace_back();
-        state = {name, air.t, air.x, air.h};
-        state.dry_air = Positive(dry_air);
-        return &state;
+        return &Add(states, name, air, dry_air);
     };
     // The suite has no figures of fans and condensate, and balances in which they do not fit.
     const auto heat = [&](const AirPoint& from, const AirPoint& to) {

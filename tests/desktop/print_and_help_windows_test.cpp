@@ -151,10 +151,14 @@ TEST_F(PrintAndHelpWindows, TheTableOfStatesShowsThePlant) {
     }
     EXPECT_EQ(shown(0, 1), "12") << "the coldest comes first";
     // The main window stays in use, and the table follows it in the order asked for.
+    int told = 0;  // that what is painted is old
+    QObject::connect(cells, &QAbstractItemModel::dataChanged, table, [&told] { ++told; });
+    QObject::connect(cells, &QAbstractItemModel::modelReset, table, [&told] { ++told; });
     auto* coil = Find<QLineEdit>("tKA");
     Type(*coil, "11");
     Key(*coil, Qt::Key_Return);
     EXPECT_EQ(shown(0, 1), "11");
+    EXPECT_GT(told, 0);
     Key(*table, Qt::Key_Escape);
     EXPECT_FALSE(table->isVisible());
     EXPECT_TRUE(form_.state_table.closed);
