@@ -82,7 +82,7 @@ constexpr const char* kExamples =
     "  zandrell-calc state < measured.csv > states.csv\n"
     "  zandrell-calc invert rh-from-x --json < table.csv\n"
     "  zandrell-calc chart -o chart.svg --kind carrier --size 1920x1080\n"
-    "  zandrell-calc print -o sheet.pdf --form plant.txt --paper A3 --landscape\n"
+    "  zandrell-calc print -o sheet.pdf --form plant.txt --paper A3 --landscape --states\n"
     "  zandrell-calc catalogue 600 --units --json\n"
     "  zandrell-calc capacity 600 LeistFaktor=0.92\n"
     "  zandrell-calc capacity 650 --duties rooms.csv";
@@ -212,6 +212,7 @@ void AddPrint(CLI::App& app, TypedOptions& typed, CommandLine& line) {
     verb->add_option("--paper", line.print.paper, "A4, A3 or A2; without it as in the settings")
         ->check(CLI::IsMember({"A4", "A3", "A2"}));
     verb->add_flag("--landscape", line.print.landscape, "without it as in the settings");
+    verb->add_flag("--states", line.print.states, "the table of states as a second page");
     verb->add_option("--style", line.print.header_style, "of the page header: 0 framed, 1 short")
         ->check(CLI::IsMember({0, 1}));
     AddConvention(*verb, typed);

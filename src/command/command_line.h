@@ -40,6 +40,7 @@ struct PrintRequest {
     std::string script;               // as of a ChartRequest
     std::string paper;                // A4, A3 or A2; empty as in the settings
     bool landscape = false;           // else as in the settings
+    bool states = false;              // a second page with the table of states
     std::optional<int> header_style;  // 0 or 1; empty as in the settings
 };
 

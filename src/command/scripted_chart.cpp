@@ -57,6 +57,7 @@ bool ScriptedChart::Zoom(const ZoomFrame& zoom, std::string& error) {
 Sheet ScriptedChart::ComposeSheet(const PrintRequest& request) {
     if (!request.paper.empty()) form_.shared.PaperSize = request.paper;
     if (request.landscape) form_.shared.PaperOrientation = 2;
+    if (request.states) form_.shared.prints_states = true;
     if (request.header_style) form_.shared.HeaderStyle = *request.header_style;
     form_.printing.setup.LoadLogo();
     return form_.printing.ComposeSheet();

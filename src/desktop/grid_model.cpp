@@ -73,7 +73,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         case Qt::ToolTipRole:
             return ShownText(grid_.Text(row, column));
         case Qt::TextAlignmentRole: {
-            const bool figure = IsFigure(ShownText(grid_.Text(row, column)));
+            const bool figure = column != grid_.name_column.value_or(-1) &&
+                                IsFigure(ShownText(grid_.Text(row, column)));
             return QVariant((figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
         }
         case Qt::BackgroundRole:
@@ -100,7 +101,10 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     switch (role) {
         case Qt::DisplayRole:
             return Breakable(head) + SortMarkOf(section);
-        case Qt::ToolTipRole:
+        case Qt::ToolTipRole: {
+            const QString tip = ShownText(grid_.head_tip);
+            return head + SortMarkOf(section) + (tip.isEmpty() ? tip : QLatin1Char('\n') + tip);
+        }
         case Qt::AccessibleTextRole:
             return head + SortMarkOf(section);
         default:

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -28,6 +29,16 @@ constexpr double kHeadFont = 0.92;   // of the font of the rows
 class SignalDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    // The cell whose column the keys act on is framed: the chosen row has one ground.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+        const bool signal = index.data(GridModel::kSignalRole).toBool();
+        painter->setPen(option.palette.color(signal ? QPalette::Text : QPalette::HighlightedText));
+        painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+    }
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
@@ -226,9 +237,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     const bool arrow = key == Qt::Key_Up || key == Qt::Key_Down;
     const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    if (arrow && modifiers != Qt::NoModifier) return MoveCurrent(key == Qt::Key_Up ? -1 : 1);
+    const ActKind act = key == Qt::Key_Up ? ActKind::RowsUp : ActKind::RowsDown;
+    const bool scrolls = modifiers == Qt::NoModifier && mirror_.Window().acts.Has(grid_.name, act);
+    if (arrow && !scrolls) return MoveCurrent(key == Qt::Key_Up ? -1 : 1);
     if (arrow) {
-        const ActKind act = key == Qt::Key_Up ? ActKind::RowsUp : ActKind::RowsDown;
         mirror_.Perform([&] { mirror_.Window().UserGridAct(grid_.name, act); });
         return;
     }
@@ -240,6 +252,12 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     if (key == Qt::Key_I && modifiers == Qt::NoModifier) {
         TakeCurrent();
         mirror_.Perform([&] { mirror_.Window().UserGridAct(grid_.name, ActKind::Tell); });
+        return;
+    }
+    // A head is out of reach of the keys.
+    if (key == Qt::Key_S && modifiers == Qt::NoModifier) {
+        TakeCurrent();
+        mirror_.Perform([&] { mirror_.Window().UserSort(grid_.name, grid_.column); });
         return;
     }
     if (key == Qt::Key_Escape) {

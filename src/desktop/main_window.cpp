@@ -46,6 +46,7 @@ bool StartSelectionProgram(const std::vector<std::string>& arguments) {
 
 MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
     : form_(form),
+      user_(user),
       pictures_(files),
       printing_(user, form.captions),
       mirror_(form, pictures_),
@@ -53,6 +54,7 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
     form.printing.SetDevice(&printing_);
     form.help.viewer = &viewer_;
     form.start_selection = StartSelectionProgram;
+    form.state_table.show_beside = [this] { user_.ShowBeside(form_.state_table); };
     mirror_.skinned = !form.controls.FunktButtPn.picture.empty();
     auto* centre = new QWidget(this);
     auto* layout = new QHBoxLayout(centre);
@@ -175,6 +177,7 @@ void MainWindow::Refresh() {
     if (point_view_) point_view_->Place();
     if (plant_view_) plant_view_->Place();
     FollowPanels();
+    user_.FollowBeside();
     FollowTerms();
     if (form_.ended) close();
 }
@@ -192,6 +195,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (!form_.ended) {
         form_.ende_qv();
         mirror_.Mirror();
+        user_.FollowBeside();
     }
     event->setAccepted(form_.ended);
 }

@@ -73,6 +73,7 @@ class MainWindow : public QMainWindow {
     void TellSize();
 
     MainForm& form_;
+    QtUser& user_;
     Pictures pictures_;
     QtPrinting printing_;
     QtViewer viewer_;

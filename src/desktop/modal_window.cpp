@@ -20,6 +20,7 @@ ModalWindow::ModalWindow(ModalForm& form, Pictures& pictures, QWidget* parent)
 
 void ModalWindow::Refresh() {
     mirror_.Mirror();
+    if (windowTitle() != ShownText(form_.title)) setWindowTitle(ShownText(form_.title));
     if (form_.closed && isVisible()) {
         done(QDialog::Accepted);
     } else {
@@ -31,6 +32,14 @@ void ModalWindow::Run() {
     setWindowTitle(ShownText(form_.title));
     mirror_.Mirror();
     if (!form_.closed) exec();
+}
+
+void ModalWindow::StandBeside() {
+    Refresh();
+    if (form_.closed) return;
+    show();
+    raise();
+    activateWindow();
 }
 
 void ModalWindow::keyPressEvent(QKeyEvent* event) {

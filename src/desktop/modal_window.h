@@ -16,6 +16,8 @@ class ModalWindow : public QDialog {
 
     // Blocks until the form is closed.
     void Run();
+    // Comes back at once; the window stands in front of its parent until the form is closed.
+    void StandBeside();
 
     std::function<void()> on_help;  // the key F1
 

@@ -86,14 +86,28 @@ void QtUser::ShowModal(ModalForm& window) {
         HelpWindow dialog(*help, *opener_.pictures, parent);
         return Run(dialog, window);
     }
-    if (auto* table = dynamic_cast<StateTableForm*>(&window)) {
-        StateTableWindow dialog(*table, *opener_.pictures, parent);
-        return Run(dialog, window);
-    }
     Refuse(window);
 }
 
-void QtUser::Run(ModalWindow& dialog, ModalForm& window) const {
+void QtUser::ShowBeside(StateTableForm& table) {
+    if (!opener_.window) return Refuse(table);
+    if (!beside_ || !beside_->isVisible()) {
+        delete beside_;
+        beside_ = new StateTableWindow(table, *opener_.pictures, opener_.window);
+        OfferHelp(*beside_, table);
+        QObject::connect(beside_, &QDialog::finished, beside_, [this] {
+            if (on_window) on_window(nullptr);
+        });
+        if (on_window) on_window(&table);
+    }
+    beside_->StandBeside();
+}
+
+void QtUser::FollowBeside() const {
+    if (beside_ && beside_->isVisible()) beside_->Refresh();
+}
+
+void QtUser::OfferHelp(ModalWindow& dialog, const ModalForm& window) const {
     // Help on the help would only open it again.
     if (opener_.form == nullptr) {
         if (&window != opener_.help) dialog.on_help = opener_.open_help;
@@ -102,6 +116,10 @@ void QtUser::Run(ModalWindow& dialog, ModalForm& window) const {
             form->OpenHelp(TopicInHand(*form, name));
         };
     }
+}
+
+void QtUser::Run(ModalWindow& dialog, ModalForm& window) const {
+    OfferHelp(dialog, window);
     if (on_window) on_window(&window);
     dialog.Run();
     if (on_window) on_window(nullptr);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QPrinter>
 #include <QWidget>
 #include <functional>
@@ -36,6 +37,10 @@ class QtUser : public UserInterface {
     void ShowMessage(const Message& message) override;
     // A form without a window of its own here counts as cancelled: nobody could close it.
     void ShowModal(ModalForm& window) override;
+    // The table of states stands beside the main window, which stays in use.
+    void ShowBeside(StateTableForm& table);
+    // Brings it up to date, or closes it with its form.
+    void FollowBeside() const;
     void WaitMilliseconds(int milliseconds) override;
     bool Confirm(const Message& question) override;
     void CopyChart() override;
@@ -53,9 +58,11 @@ class QtUser : public UserInterface {
   private:
     void Refresh() const;
     void Run(ModalWindow& dialog, ModalForm& window) const;
+    void OfferHelp(ModalWindow& dialog, const ModalForm& window) const;
     static void Refuse(ModalForm& window);
 
     Opener opener_;
+    QPointer<ModalWindow> beside_;  // its parent owns it
     std::unique_ptr<QPrinter> printer_;
 };
 

@@ -17,7 +17,9 @@ void Grid::SetRows(int count, int height) {
     Row empty;
     empty.cells.resize(widths_.size());
     empty.height = height;
+    const auto kept = rows_.size();
     rows_.resize(wanted, empty);
+    for (auto made = kept; made < wanted; ++made) rows_[made].made_place = static_cast<int>(made);
     if (row >= RowCount()) row = std::max(RowCount() - 1, 0);
     if (top_row_ >= RowCount()) top_row_ = 1;
     ++revision_;
@@ -98,6 +100,11 @@ void Grid::Reorder(const std::vector<int>& rows) {
         ordered.push_back(std::move(rows_[static_cast<std::size_t>(place)]));
     rows_ = std::move(ordered);
     ++revision_;
+}
+
+int Grid::MadePlace(int of_row) const {
+    const bool there = of_row >= 0 && of_row < RowCount();
+    return there ? rows_[static_cast<std::size_t>(of_row)].made_place : 0;
 }
 
 Grid* AsGrid(Control* control) {

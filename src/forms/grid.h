@@ -26,6 +26,11 @@ class Grid : public Control {
     };
     std::optional<SortMark> sort_mark;
 
+    // What a head says of sorting, behind its own words; empty: nothing.
+    std::string head_tip;
+    // Its cells are names, also where a name is a figure; empty: none.
+    std::optional<int> name_column;
+
     int RowCount() const { return static_cast<int>(rows_.size()); }
     int ColumnCount() const { return static_cast<int>(widths_.size()); }
     // New rows are empty and have `height`; rows that stay keep what they hold.
@@ -52,6 +57,8 @@ class Grid : public Control {
     bool IsEmptyRow(int row_number) const;
     // Puts the rows behind the head into the order of `rows`, their present numbers.
     void Reorder(const std::vector<int>& rows);
+    // Where the row stood when it was made, whatever has been put into order since.
+    int MadePlace(int of_row) const;
 
     // Grows with every change of rows, columns, texts or colours.
     long Revision() const { return revision_; }
@@ -64,6 +71,7 @@ class Grid : public Control {
     struct Row {
         std::vector<Cell> cells;
         int height = 0;
+        int made_place = 0;
     };
 
     const Cell* Find(int cell_row, int cell_column) const;

@@ -38,6 +38,16 @@ bool ComesBefore(const SortKey& left, const SortKey& right, bool descending) {
     return descending ? right.text < left.text : left.text < right.text;
 }
 
+void SortByColumn(const Grid& grid, const GridOrder& order, std::vector<int>& rows) {
+    std::vector<SortKey> keys;
+    keys.reserve(static_cast<std::size_t>(grid.RowCount()));
+    for (int row = 0; row < grid.RowCount(); ++row) keys.push_back(KeyOf(grid, row, order.column));
+    std::stable_sort(rows.begin(), rows.end(), [&](int left, int right) {
+        return ComesBefore(keys[static_cast<std::size_t>(left)],
+                           keys[static_cast<std::size_t>(right)], order.descending);
+    });
+}
+
 std::string CsvCell(const std::string& text) {
     std::string cell = Trimmed(text);
     if (cell.find_first_of(",\"\r\n") == std::string::npos) return cell;
@@ -51,25 +61,25 @@ std::string CsvCell(const std::string& text) {
 }  // namespace
 
 void GridOrder::Ask(int asked_column) {
-    descending = column == asked_column && !descending;
-    column = asked_column;
+    const bool in_force = column == asked_column;
+    column = in_force && descending ? -1 : asked_column;
+    descending = in_force && !descending;
 }
 
 void SortRows(Grid& grid, const GridOrder& order) {
     const bool sorts = order.column >= 0 && order.column < grid.ColumnCount();
     grid.sort_mark.reset();
-    if (!sorts) return;
-    grid.sort_mark = {order.column, order.descending};
+    if (sorts) grid.sort_mark = {order.column, order.descending};
     if (grid.RowCount() < 2) return;
-    std::vector<SortKey> keys;
-    keys.reserve(static_cast<std::size_t>(grid.RowCount()));
-    for (int row = 0; row < grid.RowCount(); ++row) keys.push_back(KeyOf(grid, row, order.column));
     std::vector<int> rows(static_cast<std::size_t>(grid.RowCount() - 1));
     std::iota(rows.begin(), rows.end(), 1);
-    std::stable_sort(rows.begin(), rows.end(), [&](int left, int right) {
-        return ComesBefore(keys[static_cast<std::size_t>(left)],
-                           keys[static_cast<std::size_t>(right)], order.descending);
-    });
+    if (sorts) {
+        SortByColumn(grid, order, rows);
+    } else {
+        const auto made = [&grid](int row) { return grid.MadePlace(row); };
+        if (std::ranges::is_sorted(rows, {}, made)) return;
+        std::ranges::sort(rows, {}, made);
+    }
     const auto chosen = std::find(rows.begin(), rows.end(), grid.row);
     if (chosen != rows.end()) grid.row = static_cast<int>(chosen - rows.begin()) + 1;
     grid.Reorder(rows);

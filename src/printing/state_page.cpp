@@ -11,6 +11,9 @@ constexpr double kWordShare = 0.3;   // of the width, for the words of the figur
 constexpr double kLeastColumns = 4;  // fewer states do not make wider columns
 constexpr double kTitleHeight = 30;
 constexpr int kFontSize = 8, kTitleSize = 10, kRuleWidth = 3;
+// From so many states on the names are smaller and plain: upright A4 has no room for them else.
+constexpr std::size_t kManyStates = 7;
+constexpr int kNarrowNameSize = 7;
 
 // In two lines where it has two words, so that no column is set in a size of its own.
 void PrintName(Sheet& sheet, double x, double y, double right, const std::string& name) {
@@ -36,9 +39,14 @@ void PrintStates(const StateList& list, const std::string& title, Sheet& sheet) 
         return kLeft + words + static_cast<double>(state) * width;
     };
     double y = kTop + kTitleHeight;
+    const bool narrow = list.rows.size() >= kManyStates;
+    if (narrow) sheet.SetFontSize(kNarrowNameSize);
+    sheet.SetBold(!narrow);
     for (std::size_t state = 0; state < list.rows.size(); ++state) {
         PrintName(sheet, column(state), y, column(state + 1) - kGap, list.rows[state][0]);
     }
+    sheet.SetFontSize(kFontSize);
+    sheet.SetBold(true);
     y += kLine;
     sheet.Text(kLeft, y, list.heads[0], kLeft + words - kGap, TextFit::Shrink);
     y += kLine;

@@ -136,6 +136,7 @@ class PlantPanel {
         MixingSection mixing;
         AirPoint supply, before_fan, heated;
         std::optional<AirPoint> coil;  // empty without cooling
+        double Anzeigefaktor = 1000;
     };
 
     ProcessContext context_;

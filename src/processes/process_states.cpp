@@ -1,6 +1,9 @@
 #include "processes/process_states.h"
 
+#include <cmath>
+
 #include "base/number_text.h"
+#include "base/unit_factors.h"
 #include "base/unit_texts.h"
 #include "processes/plant_panel.h"
 #include "processes/point_panel.h"
@@ -8,8 +11,36 @@
 namespace zandrell {
 namespace {
 
+constexpr double kGramsPerKg = 1000;
+constexpr double kWaterFactor = 100;  // of the water that a cooler is shown with
+constexpr double kNoWater = 1e-6;     // g/kg, what a search for a state leaves
+
 std::optional<double> Positive(double figure) {
     return figure > 0 ? std::optional(figure) : std::nullopt;
+}
+
+// With the sign of `change`, whichever the panel shows it with.
+std::string SignedBy(double change, const std::string& figure) {
+    if (figure.empty() || ParsedNumber(figure) == 0) return figure;
+    return TrimmedNumberText(std::copysign(ParsedNumber(figure), change));
+}
+
+// What an apparatus is shown to take from the air.
+std::string TakenFromAir(const std::string& figure) {
+    return figure.empty() ? "" : TrimmedNumberText(-ParsedNumber(figure));
+}
+
+// A gain below 0 is cut as the loss that it is.
+std::string GainText(double gain, double factor) {
+    return TrimmedNumberText(std::copysign(Cut(std::abs(gain), factor), gain));
+}
+
+ProcessState& Add(ProcessStates& states, const std::string& name, const AirPoint& air,
+                  double dry_air) {
+    ProcessState& state = states.emplace_back();
+    state = {name, air.t, air.x, air.h};
+    state.dry_air = Positive(dry_air);
+    return state;
 }
 
 }  // namespace
@@ -49,8 +80,11 @@ ProcessStates PointPanel::States() const {
             mixture.t = ParsedNumber(TempM.text);  // cut a rounding below its last digit
         mixture.dry_air = Positive(dry_air + second);
     } else {
-        states[1].capacity = FigureAlone(Kleist.text);
-        states[1].water = FigureAlone(KondW.text);
+        // The water humidifier is shown with what its water takes up.
+        const double x_gain = ZustandX2 - ZustandX1, h_gain = enthalpy2_ - enthalpy1_;
+        const bool latent = mode == Calculation::WaterHumidifier;
+        states[1].capacity = SignedBy(latent ? x_gain : h_gain, FigureAlone(Kleist.text));
+        states[1].water = SignedBy(x_gain, FigureAlone(KondW.text));
     }
     return states;
 }
@@ -62,13 +96,15 @@ ProcessStates PlantPanel::States() const {
     const double total = way_.mixing.mL, share = 1 / (1 + ParsedNumber(aussenAnt.text));
     ProcessStates states;
     const auto add = [&states](const std::string& name, const AirPoint& air, double dry_air) {
-        ProcessState& state = states.emplace_back();
-        state = {name, air.t, air.x, air.h};
-        state.dry_air = Positive(dry_air);
-        return &state;
+        return &Add(states, name, air, dry_air);
     };
-    const auto fan = [](const TextField& rise) {
-        return std::string(" + ").append(FigureAlone(rise.text)).append(" ").append(UnitK);
+    // The suite has no figures of fans and condensate, and balances in which they do not fit.
+    const auto heat = [&](const AirPoint& from, const AirPoint& to) {
+        return IsExact() ? GainText(total * (to.h - from.h) / kSecondsPerHour, way_.Anzeigefaktor)
+                         : "";
+    };
+    const auto water = [&](const AirPoint& from, const AirPoint& to) {
+        return IsExact() ? GainText(total * (to.x - from.x) / kGramsPerKg, kWaterFactor) : "";
     };
     ProcessState* extract = add(words[Caption::ExtractAir], way_.mixing.exhaust, total);
     extract->percent = ParsedNumber(PHIAbluft.text);
@@ -76,34 +112,45 @@ ProcessStates PlantPanel::States() const {
     extract->capacity = FigureAlone(RaumLeist.text);
     extract->water = FigureAlone(RaumWasserLeist.text);
     if (way_.mixing.behind_fan.t != way_.mixing.exhaust.t) {
-        add(words[Caption::ExtractAir] + fan(dtVent2), way_.mixing.behind_fan, total);
+        const std::string rise = " + " + FigureAlone(dtVent2.text) + " " + std::string(UnitK);
+        add(words[Caption::ExtractAir] + rise, way_.mixing.behind_fan, total)->capacity =
+            heat(way_.mixing.exhaust, way_.mixing.behind_fan);
+    }
+    if (share < 1) {
+        add(words[Caption::RecirculatedAir], way_.mixing.behind_fan, total * (1 - share));
     }
     add(words[Caption::OutdoorAir], way_.mixing.outside, total * share)->percent =
         ParsedNumber(PhiAussen.text);
     add(words[Caption::Mixing], way_.mixing.mixed, total);
     if (way_.coil) {
-        add(leaving + words[Caption::Cooler], *way_.coil, total)->capacity =
-            FigureAlone(Kuehl.text);
+        ProcessState* cooled = add(leaving + words[Caption::Cooler], *way_.coil, total);
+        cooled->capacity = TakenFromAir(FigureAlone(Kuehl.text));
+        cooled->water = water(way_.mixing.mixed, *way_.coil);
     }
     ProcessState* heated = add(leaving + words[Caption::Heater], way_.heated, total);
     heated->capacity = FigureAlone(Heiz2.text);
     if (!IsExact()) heated->h.reset();  // the suite's way has none there
     const bool warmed = way_.supply.t != way_.before_fan.t;
+    // Where the suite needs no humidifier its way from the coil to the supply air may still lose a
+    // little water: no apparatus stands there.
     const bool humidified =
-        way_.before_fan.x != way_.heated.x || way_.before_fan.t != way_.heated.t;
+        humidifier_shown_ && std::abs(way_.before_fan.x - way_.heated.x) > kNoWater;
     if (humidified || !warmed) {
         ProcessState* humid =
             add(warmed ? leaving + words[Caption::HumidifierSecond] : words[Caption::SupplyAir],
                 way_.before_fan, total);
-        if (humidified && humidifier_shown_) humid->water = FigureAlone(Bef.text);
+        if (humidified) humid->water = FigureAlone(Bef.text);
     }
-    if (warmed) add(words[Caption::SupplyAir], way_.supply, total);
+    if (warmed) {
+        add(words[Caption::SupplyAir], way_.supply, total)->capacity =
+            heat(way_.before_fan, way_.supply);
+    }
     states.back().percent = ParsedNumber(PHIZuluft.text);
     return states;
 }
 
 void PlantPanel::KeepWay(const PlantRun& run, const AirPoint& heated) {
-    way_ = {run.mixing, run.supply, run.fan_inlet.air, heated, {}};
+    way_ = {run.mixing, run.supply, run.fan_inlet.air, heated, {}, run.Anzeigefaktor};
     if (!run.OhneKuehler) way_.coil = run.coil.air;
 }
 

@@ -15,8 +15,9 @@ struct ProcessState {
     std::optional<double> h{}, percent{};
     std::optional<double> flow = {};  // m3/h, where it is given there
     std::optional<double> dry_air{};  // kg/h
-    // What brings the air there from the state before, as the panel shows it, in kW and kg/h;
-    // empty where it shows nothing.
+    // What brings the air there from the state before, in kW and kg/h: positive what the air is
+    // given, negative what is taken from it. With the digits that the panel shows; empty where
+    // neither the panel nor the balance in force has a figure.
     std::string capacity{}, water{};
 };
 

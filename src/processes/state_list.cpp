@@ -40,7 +40,7 @@ std::optional<StateFigures> SuiteFigures(const ProcessState& state, StateSolver&
 std::string CutText(std::optional<double> value, double factor) {
     constexpr double kRounding = 1e-9;
     if (!value || !std::isfinite(*value)) return {};
-    return TrimmedNumberText(Cut(*value + kRounding * std::abs(*value), factor));
+    return TrimmedNumberText(Cut(*value + kRounding * (1 + std::abs(*value)), factor));
 }
 
 // One column: its head, and what it shows of a state.
@@ -53,7 +53,7 @@ std::optional<double> Product(std::optional<double> one, std::optional<double> o
     return one && other ? std::optional(*one * *other) : std::nullopt;
 }
 
-std::vector<Column> StateColumns(const Captions& words, bool exact) {
+std::vector<Column> StateColumns(const Captions& words, bool exact, double pressure_bar) {
     const auto head = [&words](Caption word, std::string_view unit) {
         return words[word] + " /[" + std::string(unit) + "]";
     };
@@ -70,23 +70,27 @@ std::vector<Column> StateColumns(const Captions& words, bool exact) {
         {head(Caption::Density, "kg/m³"),
          [](State, Figures f) { return CutText(f.density, 1000); }}};
     if (exact) {
-        columns.push_back({head(Caption::DewPoint, UnitDegC),
+        columns.push_back({head(Caption::DewOrFrostPoint, UnitDegC),
                            [](State, Figures f) { return CutText(f.dew_point, 10); }});
         columns.push_back({head(Caption::WetBulb, UnitDegC),
                            [](State, Figures f) { return CutText(f.wet_bulb, 10); }});
-        columns.push_back({head(Caption::SpecificVolume, "m³/kg"),
+        columns.push_back({head(Caption::DryAirVolume, "m³/kg"),
                            [](State, Figures f) { return CutText(f.volume, 1000); }});
     }
     columns.push_back({head(Caption::AirFlow, UnitM3h), [](State s, Figures f) {
                            return CutText(s.flow ? s.flow : Product(s.dry_air, f.volume), 1);
                        }});
     if (exact) {
-        columns.push_back({head(Caption::MassFlow, "kg/h"),
+        columns.push_back({head(Caption::DryAirFlow, "kg/h"),
                            [](State s, Figures) { return CutText(s.dry_air, 1); }});
     }
+    const std::string to_air = " " + words[Caption::ToTheAir] + " /[";
+    columns.push_back({words[Caption::Capacity] + to_air + std::string(UnitKW) + "]",
+                       [](State s, Figures) { return s.capacity; }});
     columns.push_back(
-        {head(Caption::Capacity, UnitKW), [](State s, Figures) { return s.capacity; }});
-    columns.push_back({head(Caption::Water, "kg/h"), [](State s, Figures) { return s.water; }});
+        {words[Caption::Water] + to_air + "kg/h]", [](State s, Figures) { return s.water; }});
+    columns.push_back({head(Caption::Pressure, UnitBar),
+                       [text = TrimmedNumberText(pressure_bar)](State, Figures) { return text; }});
     return columns;
 }
 
@@ -97,8 +101,9 @@ StateList ListStates(const ProcessPanels& processes) {
     StateSolver& solver = around.solver;
     const AirState kept = solver;
     const bool exact = around.settings.convention == Convention::Exact;
-    const auto columns = StateColumns(around.captions, exact);
+    const auto columns = StateColumns(around.captions, exact, solver.ChartDruckBar);
     StateList list;
+    list.pressure = TrimmedNumberText(solver.ChartDruckBar) + " " + std::string(UnitBar);
     list.heads.reserve(columns.size());
     for (const Column& column : columns) list.heads.push_back(column.head);
     for (const ProcessState& state : processes.States()) {

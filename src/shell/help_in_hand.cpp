@@ -8,11 +8,12 @@
 namespace zandrell {
 
 HelpTopic TopicInHand(const MainForm& main, std::string_view open) {
-    constexpr std::array<std::pair<std::string_view, HelpTopic>, 4> kWindows = {{
+    constexpr std::array<std::pair<std::string_view, HelpTopic>, 5> kWindows = {{
         {"qvopt", HelpTopic::Settings},
         {"DruckEInstell", HelpTopic::Settings},
         {"ProjLaden", HelpTopic::ProjectData},
         {"VentZeig", HelpTopic::SelectSeries},
+        {"StateTable", HelpTopic::AirTreatment},
     }};
     for (const auto& [window, topic] : kWindows) {
         if (open == window) return topic;

@@ -153,7 +153,9 @@ void MainForm::PointerPress(PointerButton button, CanvasPoint place) {
 void MainForm::PointerMove(CanvasPoint place) {
     if (ended) return;
     pointer_.Move(place);
-    if (pointer_.Marks().CarriesAny()) processes.NoteFields();
+    if (!pointer_.Marks().CarriesAny()) return;
+    processes.NoteFields();
+    FollowStates();
 }
 
 void MainForm::PointerRelease(PointerButton button) {
@@ -206,8 +208,16 @@ void MainForm::ShowPreview() {
 
 void MainForm::ShowStates() {
     if (ended) return;
+    pointer_.WindowOpened();
     state_table.ShowStates(ListStates(processes), processes.point.tool_name.text);
-    shared.ZurueckVomDialog = DialogEcho::Expected;
+    if (state_table.closed) shared.ZurueckVomDialog = DialogEcho::Expected;
+}
+
+// A point panel has the figures of a carried mark only when that is dropped.
+void MainForm::FollowStates() {
+    const bool between = pointer_.Marks().CarriesAny() && IsPointMode(processes.Rechenmodus);
+    if (state_table.closed || between) return;
+    state_table.Follow(ListStates(processes), processes.point.tool_name.text);
 }
 
 void MainForm::OpenHelp(HelpTopic topic) {
@@ -250,6 +260,7 @@ void MainForm::FollowAct(std::string_view control, ActKind kind) {
     controls.PrevState.enabled = projects_.keeper.HasPrevious();
     modified = projects_.store.IsModified();
     ShowRecentProjects(controls, projects_.store.recent.Paths());
+    FollowStates();
 }
 
 // With what was noted last; where nothing was, the selection has its own duty.

@@ -107,6 +107,7 @@ class MainForm : public WindowForm {
 
   private:
     void FollowAct(std::string_view control, ActKind kind);
+    void FollowStates();
     void SetTitle();
     void PaintAgain();
     void CloseWindow();

@@ -67,6 +67,8 @@ class PointerMachine {
     // What the window does.
     void PanelOpened(PointerOwner owner);
     void PanelClosed();
+    // A mark that is carried goes back to where it was.
+    void WindowOpened() { marks_.PutBack(true); }
     void OptionsOpened();
     void Activated();
     // While something takes its time.

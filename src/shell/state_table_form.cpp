@@ -1,5 +1,7 @@
 #include "shell/state_table_form.h"
 
+#include <algorithm>
+
 #include "base/text_helpers.h"
 
 namespace zandrell {
@@ -37,19 +39,47 @@ StateTableForm::StateTableForm(const DataFiles& files, const Captions& captions,
 }
 
 void StateTableForm::ShowStates(const StateList& list, const std::string& process) {
-    title = captions_[Caption::StateTable];
-    if (!process.empty()) title.append(" - ").append(process);
+    if (closed) {
+        order_ = {};
+        shown_ = {};
+        States.SetRows(0, 0);
+        States.column = 0;
+        Message.text.clear();
+    }
     Copy.text = captions_[Caption::CopyTable];
     Save.text = captions_[Caption::ListAsCsv];
-    Message.text = list.rows.empty() ? captions_[Caption::NoProcess] : "";
-    Copy.enabled = Save.enabled = !list.rows.empty();
-    Fill(list);
+    Close.text = "O.K.";
+    States.head_tip = captions_[Caption::SortTip];
+    States.name_column = 0;
     closed = false;
-    user_.ShowModal(*this);
+    Follow(list, process);
+    show_beside ? show_beside() : user_.ShowModal(*this);
+}
+
+void StateTableForm::Follow(const StateList& list, const std::string& process) {
+    const bool computed = !list.rows.empty();
+    const bool waits = !computed && !process.empty() && !shown_.rows.empty();
+    // What is typed and not yet confirmed has no figures: those of before stay and say so.
+    if (waits) Message.text = captions_[Caption::OfEarlierInputs];
+    Copy.enabled = Save.enabled = computed;
+    if (waits) return;
+    title = captions_[Caption::StateTable];
+    if (!process.empty()) title.append(" - ").append(process);
+    if (computed) title.append(" - ").append(list.pressure);
+    if (computed && list == shown_ && Message.text != captions_[Caption::OfEarlierInputs]) return;
+    Message.text = computed ? "" : captions_[Caption::NoProcess];
+    if (list.heads != shown_.heads) order_ = {};
+    shown_ = list;
+    const int top = States.TopRow(), chosen = States.MadePlace(States.row);
+    Fill(list);
+    SortRows(States, order_);
+    for (int row = 1; row < States.RowCount(); ++row) {
+        if (States.MadePlace(row) == std::max(chosen, 1)) States.row = row;
+    }
+    States.SetTopRow(top);
 }
 
 void StateTableForm::Fill(const StateList& list) {
-    order_ = {};
     States.SetRows(0, 0);
     States.SetColumns(static_cast<int>(list.heads.size()));
     States.SetRows(static_cast<int>(list.rows.size()) + 1, kRowTwips);
@@ -64,7 +94,6 @@ void StateTableForm::Fill(const StateList& list) {
     for (int column = 0; column < States.ColumnCount(); ++column) {
         States.SetWidth(column, column == 0 ? kNameTwips : kFigureTwips);
     }
-    States.SetTopRow(1);
 }
 
 void StateTableForm::Sort() {

@@ -13,8 +13,8 @@
 
 namespace zandrell {
 
-// The window with the states of the process in force as they are when it opens. It can be sorted by
-// each column, copied, and saved as comma-separated values.
+// The window with the states of the process in force, which it follows while it is open. It can be
+// sorted by each column, copied, and saved as comma-separated values.
 class StateTableForm : public ModalForm {
   public:
     // All of it outlives the form.
@@ -28,8 +28,15 @@ class StateTableForm : public ModalForm {
     // (empty: cancelled).
     std::function<void(const std::string&)> copy_text;
     std::function<std::string()> ask_file;
+    // Where windows can stand side by side: shows this one and comes back at once. Without it the
+    // opener waits until it is closed.
+    std::function<void()> show_beside;
 
+    // `process` is its name; empty: none is in force.
     void ShowStates(const StateList& list, const std::string& process);
+    // Of an open table: the same process with other figures, or another one. The order that was
+    // asked for and the chosen row stay.
+    void Follow(const StateList& list, const std::string& process);
 
   private:
     void Fill(const StateList& list);
@@ -40,6 +47,7 @@ class StateTableForm : public ModalForm {
     const Captions& captions_;
     UserInterface& user_;
     GridOrder order_;
+    StateList shown_;
 };
 
 }  // namespace zandrell

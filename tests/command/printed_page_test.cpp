@@ -167,6 +167,22 @@ TEST_F(PrintedPage, BothKindsZoomedAndDarkPrintLightWithEmbeddedFonts) {
     }
 }
 
+TEST_F(PrintedPage, TheTableOfStatesIsASecondPage) {
+    for (const auto& [script, options, pages] : {std::tuple{kPlantScript, "", "1"},
+                                                 {kPlantScript, "--states", "2"},
+                                                 {kPlantScript, "--states --landscape", "2"},
+                                                 {"", "--states", "1"}}) {  // no process, no states
+        Print(script, options);
+        const std::string info = Said("pdfinfo '" + Pdf() + "' | tr -d ' '");
+        EXPECT_NE(info.find(std::string("Pages:") + pages), std::string::npos) << options << info;
+        const std::string text = Text();
+        const bool table = *pages == '2';
+        for (const char* word : {"State Table", "Density /[kg/m³]", "Pressure /[bar]"}) {
+            EXPECT_EQ(text.find(word) != std::string::npos, table) << options << word;
+        }
+    }
+}
+
 TEST_F(PrintedPage, ALogoThatCannotBeReadIsLeftOut) {
     for (const bool broken : {false, true}) {
         if (broken) folder_.Write("zdsample.jpg", "\xFF\xD8\xFF and nothing behind it");

@@ -128,6 +128,12 @@ TEST_F(GridViewTest, ShowsTextsWidthsAndHiddenRows) {
     EXPECT_EQ(cell(4, 2, Qt::DisplayRole), QStringLiteral("Ulmak 4"));
     EXPECT_TRUE(cell(4, 2, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
     EXPECT_TRUE(cell(4, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    grid_.name_column = 1;
+    EXPECT_TRUE(cell(4, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) << "a name";
+    grid_.name_column.reset();
+    grid_.head_tip = "S sorts.";
+    EXPECT_EQ(model->headerData(1, Qt::Horizontal, Qt::ToolTipRole),
+              QStringLiteral("Qo\nS sorts."));
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&view_);
     ASSERT_NE(table, nullptr);
     ASSERT_NE(table->tableInterface(), nullptr);
@@ -189,6 +195,8 @@ TEST_F(GridViewTest, KeysAndWheelReachTheForm) {
         {"up", [&] { Press(Qt::Key_Up); }, 1, 5, {}},
         {"with Ctrl the choice moves", [&] { Press(Qt::Key_Down, Qt::ControlModifier); }, 2, 2, {}},
         {"i tells", [&] { Press(Qt::Key_I); }, 2, 2, ActKind::Tell},
+        {"a step to the right", [&] { Press(Qt::Key_Right); }, 2, 2, {}},
+        {"s sorts", [&] { Press(Qt::Key_S); }, 2, 2, ActKind::Sort},
         {"Return", [&] { Press(Qt::Key_Return); }, 2, 2, ActKind::Return},
         {"the last row is seen", [&] { Press(Qt::Key_End, Qt::ControlModifier); }, kRows, -1, {}},
     };
@@ -207,6 +215,7 @@ TEST_F(GridViewTest, KeysAndWheelReachTheForm) {
         EXPECT_EQ(view_.rowAt(0) + 1, grid_.TopRow()) << step.what;
     }
     EXPECT_TRUE(view_.viewport()->rect().contains(view_.CellRect(kRows, 2).center()));
+    EXPECT_EQ(grid_.asked_column, 2) << "the column of the chosen cell";
     grid_.SetHeight(kRows - 1, 0);
     Show();
     Press(Qt::Key_Up, Qt::AltModifier);

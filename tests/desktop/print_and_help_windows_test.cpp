@@ -1,5 +1,6 @@
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPrintPreviewDialog>
@@ -9,6 +10,7 @@
 #include <QTimer>
 
 #include "desktop/modal_window.h"
+#include "desktop/state_table_window.h"
 #include "window_session.h"
 
 namespace zandrell {
@@ -122,28 +124,51 @@ TEST_F(PrintAndHelpWindows, TheTableOfStatesShowsThePlant) {
         form_.UserSetText(field, text);
     }
     window_->Mirror().Click("AnlageButt");
-    Within<ModalWindow>(
-        [this] { window_->Mirror().Click("StateList"); },
-        [this](ModalWindow& table) {
-            EXPECT_EQ(table.windowTitle(), QStringLiteral("State Table - AHU"));
-            auto* grid = In<QTableView>(table, "States");
-            QAbstractItemModel* cells = grid->model();
-            ASSERT_EQ(cells->rowCount(), form_.state_table.States.RowCount() - 1);
-            ASSERT_GT(cells->rowCount(), 4);
-            const auto shown = [cells](int row, int column) {
-                return cells->index(row, column).data().toString().toStdString();
-            };
-            EXPECT_EQ(shown(0, 0), "Extract Air");
-            EXPECT_EQ(shown(0, 1), "26");
-            QHeaderView* heads = grid->horizontalHeader();
-            const QPoint head(heads->sectionViewportPosition(1) + 5, heads->height() / 2);
-            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-                QMouseEvent event(type, head, heads->viewport()->mapToGlobal(head), Qt::LeftButton,
-                                  Qt::LeftButton, Qt::NoModifier);
-                QApplication::sendEvent(heads->viewport(), &event);
-            }
-            EXPECT_EQ(shown(0, 1), "12") << "the coldest comes first";
-        });
+    window_->Mirror().Click("StateList");
+    auto* table = window_->findChild<StateTableWindow*>();
+    ASSERT_NE(table, nullptr);
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_EQ(table->windowTitle(), QStringLiteral("State Table - AHU - 1.013 bar"));
+    EXPECT_EQ(In<QPushButton>(*table, "CloseStates")->text(), QStringLiteral("O.K."));
+    auto* grid = In<QTableView>(*table, "States");
+    QAbstractItemModel* cells = grid->model();
+    ASSERT_EQ(cells->rowCount(), form_.state_table.States.RowCount() - 1);
+    ASSERT_GT(cells->rowCount(), 4);
+    const auto shown = [cells](int row, int column) {
+        return cells->index(row, column).data().toString().toStdString();
+    };
+    EXPECT_EQ(shown(0, 0), "Extract Air");
+    EXPECT_EQ(shown(0, 1), "26");
+    QHeaderView* heads = grid->horizontalHeader();
+    EXPECT_TRUE(cells->headerData(1, Qt::Horizontal, Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("key S")));
+    const QPoint head(heads->sectionViewportPosition(1) + 5, heads->height() / 2);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, head, heads->viewport()->mapToGlobal(head), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(heads->viewport(), &event);
+    }
+    EXPECT_EQ(shown(0, 1), "12") << "the coldest comes first";
+    // The main window stays in use, and the table follows it in the order asked for.
+    int told = 0;  // that what is painted is old
+    QObject::connect(cells, &QAbstractItemModel::dataChanged, table, [&told] { ++told; });
+    QObject::connect(cells, &QAbstractItemModel::modelReset, table, [&told] { ++told; });
+    auto* coil = Find<QLineEdit>("tKA");
+    Type(*coil, "11");
+    Key(*coil, Qt::Key_Return);
+    EXPECT_EQ(shown(0, 1), "11");
+    EXPECT_GT(told, 0);
+    Key(*table, Qt::Key_Escape);
+    EXPECT_FALSE(table->isVisible());
+    EXPECT_TRUE(form_.state_table.closed);
+    EXPECT_TRUE(window_->isVisible());
+    window_->Mirror().Click("StateList");
+    table = window_->findChild<StateTableWindow*>();
+    ASSERT_TRUE(table != nullptr && table->isVisible()) << "it opens again";
+    EXPECT_EQ(table->findChild<QTableView*>()->model()->index(0, 1).data(), QStringLiteral("26"));
+    window_->close();
+    EXPECT_FALSE(table->isVisible()) << "it ends with the main window";
 }
 
 }  // namespace

@@ -51,6 +51,30 @@ TEST(GridOrder, SortsNumbersInFrontOfTextsAndKeepsTheChosenRow) {
     EXPECT_EQ(Column(grid, 2), Texts({"a", "b", "C", ""}));
 }
 
+TEST(GridOrder, AThirdTimeBringsTheFilledOrderBack) {
+    Grid grid = Table({{"", "Q", "Name"}, {"1", "9", "b"}, {"2", "10", "a"}, {"3", "8", "C"}});
+    grid.row = 2;
+    GridOrder order;
+    for (const auto& [asked, expected] : {std::pair{1, Texts{"3", "1", "2"}},
+                                          {2, Texts{"2", "1", "3"}},
+                                          {2, Texts{"3", "1", "2"}},
+                                          {2, Texts{"1", "2", "3"}},
+                                          {2, Texts{"2", "1", "3"}}}) {
+        order.Ask(asked);
+        SortRows(grid, order);
+        EXPECT_EQ(Column(grid, 0), expected);
+        EXPECT_EQ(grid.Text(grid.row, 0), "2") << "the chosen row stays the same one";
+        EXPECT_EQ(grid.sort_mark.has_value(), expected != Texts({"1", "2", "3"}));
+    }
+    // Rows made anew are in the order of their filling, whatever was sorted before.
+    grid.SetRows(1, 240);
+    grid.SetRows(3, 240);
+    grid.SetText(1, 0, "1");
+    grid.SetText(2, 0, "2");
+    SortRows(grid, {});
+    EXPECT_EQ(Column(grid, 0), Texts({"1", "2"}));
+}
+
 TEST(GridOrder, WritesWhatIsVisible) {
     Grid grid = Table(
         {{"", "Q [kW]", "Name"}, {"1", " 1.5", "a, \"b\""}, {"2", " 2", "hidden"}, {"3", "", ""}});
