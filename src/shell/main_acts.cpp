@@ -82,8 +82,15 @@ void BindProjectActs(MainForm& main) {
     for (const TextField* field : {&controls.Proj_T, &controls.Schr_T}) {
         on(*field, ActKind::Change, [&main] { main.Inputs().TakeProjectTexts(); });
     }
-    on(controls.Undo, ActKind::Click, [&main] { main.Undo().Undo(); });
-    on(controls.Redo, ActKind::Click, [&main] { main.Undo().Redo(); });
+    // What was said of the act that is taken back is true no longer.
+    on(controls.Undo, ActKind::Click, [&main] {
+        main.status.Fade();
+        main.Undo().Undo();
+    });
+    on(controls.Redo, ActKind::Click, [&main] {
+        main.status.Fade();
+        main.Undo().Redo();
+    });
 }
 
 void BindPanelActs(MainForm& main) {
