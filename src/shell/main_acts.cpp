@@ -56,10 +56,7 @@ void BindMenuActs(MainForm& main) {
     on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
     on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
     on_menu(controls.StateList, [&main] { main.ShowStates(); });
-    on_menu(controls.kopieren, [&main] {
-        main.User().CopyChart();
-        main.status.Say(main.captions[Caption::Copied]);
-    });
+    on_menu(controls.kopieren, [&main] { main.CopyChart(); });
     on_menu(controls.Hsich, [&main] { main.Projects().QuickSave(); });
     on_menu(controls.Hlad, [&main] { main.Projects().QuickLoad(); });
 }

@@ -64,6 +64,7 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
                  [this](Caption what) { status.Say(captions[what]); }}),
       undo_({*this, files, shared, processes, overlay, pointer_, panels_, inputs_, projects_,
              [this] { Activate(); }}) {
+    printing.may_print = [this] { return MayPrint(); };
     printing.after_printing = [this] { PaintAgain(); };
     printing.setup.choose_logo = [this] { projects_.OpenDialog(shared.DialogMode); };
     controls.ListControls(form);
@@ -189,13 +190,29 @@ void MainForm::Print() {
 // Behind a print-out: the whole chart, also where a part of it was printed.
 void MainForm::PaintAgain() {
     chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, solver.ChartDruckBar);
-    const Calculation mode = processes.Rechenmodus;
-    if (mode == Calculation::Plant) {
-        processes.plant.AnlageBerechnen();
-    } else if (IsPointMode(mode)) {
-        processes.point.ZustandRechnen(mode, MarkPlacing::FromFields);
-    }
+    processes.Calculate();
     SetTitle();
+}
+
+// Under Exact what leaves the window is the process of the fields beside it. Under the suite's
+// convention it is the one that was computed last.
+void MainForm::TakeTyped() {
+    if (chart.settings.convention == Convention::Exact) processes.TakeTyped(acts);
+}
+
+bool MainForm::MayPrint() {
+    TakeTyped();
+    const bool exact = chart.settings.convention == Convention::Exact;
+    if (!exact || !processes.HasStaleMarks()) return true;
+    user_.ShowMessage(
+        {shared.AppTitle, captions[Caption::ProcessOfEarlierInputs], MessageIcon::Stop});
+    return false;
+}
+
+void MainForm::CopyChart() {
+    TakeTyped();
+    user_.CopyChart();
+    status.Say(captions[Caption::Copied]);
 }
 
 void MainForm::ShowPreview() {
