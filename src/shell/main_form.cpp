@@ -169,6 +169,8 @@ void MainForm::PointerRelease(PointerButton button) {
 
 void MainForm::OpenOptions() {
     if (ended) return;
+    // A mark that is carried marks nothing that the fields say.
+    const auto drawn = pointer_.Marks().CarriesAny() ? std::vector<Control*>() : overlay.Shown();
     panels_.HideBoth();
     pointer_.OptionsOpened();
     overlay.AnlageMarkenLoeschen();
@@ -176,8 +178,21 @@ void MainForm::OpenOptions() {
     // The options are the one dialog whose closing redraws, whatever ran before.
     shared.ZurueckVomDialog = DialogEcho::None;
     user_.ShowModal(options);
+    const bool cancelled = shared.OptionenSignal == OptionsSignal::Cancelled;
     Activate();
+    if (!drawn.empty()) BringProcessBack(drawn, cancelled);
     undo_.NoteSettings();
+}
+
+// Under Exact the process in force stays on the chart, as it stays in the table of states. The
+// suite's settings leave the chart empty, but for a plant that they redraw.
+void MainForm::BringProcessBack(const std::vector<Control*>& drawn, bool unchanged) {
+    if (ended || chart.settings.convention == Convention::Suite) return;
+    if (unchanged) {
+        for (Control* control : drawn) control->visible = true;
+    } else if (IsPointMode(processes.Rechenmodus)) {
+        processes.Calculate();
+    }
 }
 
 void MainForm::Print() {
