@@ -1,6 +1,8 @@
 #include "chart/overlay.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace zandrell {
 namespace {
@@ -73,6 +75,18 @@ void Overlay::AnlageMarkenLoeschen() {
     for (Mark* mark : Marks()) mark->visible = false;
     for (ChartLine* line : Lines()) line->visible = false;
     for (ChartLabel* label : Labels()) label->visible = false;
+}
+
+std::vector<Control*> Overlay::Shown() {
+    std::vector<Control*> shown;
+    const auto add = [&shown](const auto& controls) {
+        std::copy_if(controls.begin(), controls.end(), std::back_inserter(shown),
+                     [](const Control* control) { return control->visible; });
+    };
+    add(Marks());
+    add(Lines());
+    add(Labels());
+    return shown;
 }
 
 void Overlay::SetColour(int colour) {

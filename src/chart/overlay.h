@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
 #include "chart/chart_scale.h"
 #include "forms/control.h"
@@ -70,6 +71,8 @@ struct Overlay {
     void ListControls(Form& form);
     // Hides everything.
     void AnlageMarkenLoeschen();
+    // What is not hidden.
+    std::vector<Control*> Shown();
     void SetColour(int colour);
 };
 

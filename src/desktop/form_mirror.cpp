@@ -245,10 +245,15 @@ void FormMirror::BindRows(QListWidget* list, const ListBox& control,
     // A click on the item that is chosen already is a choice too; the arrow keys only move the row.
     // Rows that the form itself has set are no acts.
     QObject::connect(list, &QListWidget::itemClicked, list, select);
-    QObject::connect(list, &QListWidget::currentRowChanged, list, [&control, select](int row) {
-        const bool by_key = QApplication::mouseButtons() == Qt::NoButton;
-        if (by_key && row != control.index) select();
-    });
+    QObject::connect(list, &QListWidget::currentRowChanged, list,
+                     [list, &control, select](int row) {
+                         const bool by_key = QApplication::mouseButtons() == Qt::NoButton;
+                         // The focus that comes to a list makes its first row the current one and
+                         // selects nothing.
+                         const bool by_focus = row >= 0 && !list->item(row)->isSelected();
+                         if (by_focus && list->property("entered_quietly").toBool()) return;
+                         if (by_key && row != control.index) select();
+                     });
     QObject::connect(list, &QListWidget::itemDoubleClicked, list,
                      [this, name] { Perform([&] { window_.UserDoubleClick(name); }); });
     QObject::connect(list, &QListWidget::itemActivated, list, [this, list, name, select] {

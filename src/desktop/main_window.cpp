@@ -68,6 +68,7 @@ MainWindow::MainWindow(MainForm& form, const DataFiles& files, QtUser& user)
     };
     status_ = new StatusView(form.status, chart_,
                              [this] { mirror_.Perform([this] { form_.status.Fade(); }); });
+    status_->covered = chart_->covered;
     layout->addWidget(chart_, 1);
     setCentralWidget(centre);
     keys_.on_escape = [this] { return Escape(); };
@@ -173,9 +174,9 @@ void MainWindow::Refresh() {
     if (windowTitle() != title) setWindowTitle(title);
     if (isWindowModified() != form_.modified) setWindowModified(form_.modified);
     chart_->Sync();
-    status_->Sync();
     if (point_view_) point_view_->Place();
     if (plant_view_) plant_view_->Place();
+    status_->Sync();
     FollowPanels();
     user_.FollowBeside();
     FollowTerms();

@@ -62,11 +62,12 @@ ProjectWindow::ProjectWindow(ProjectDialog& form, Pictures& pictures, QWidget* p
     layout->addWidget(columns, 1);
     layout->addLayout(MakeName());
     // Who opens a file looks for it in the list, who saves one gives it a name.
-    const bool lists = dialog_.ProNam.text.empty() || dialog_.ProNam.text.starts_with('.');
-    if (lists && !dialog_.List1.items.empty()) {
+    const bool nameless = dialog_.ProNam.text.empty() || dialog_.ProNam.text.starts_with('.');
+    if (nameless && !dialog_.GivesName() && !dialog_.List1.items.empty()) {
         files_->setFocus();
     } else {
         name_->setFocus();
+        if (nameless) name_->selectAll();  // typing replaces the bare extension
     }
 }
 
@@ -128,6 +129,8 @@ QWidget* ProjectWindow::MakeFiles() {
     row->addWidget(order);
     layout->addLayout(row);
     files_ = MakeList(group, kFileWidth);
+    // On the way to another field the list must not put a foreign name in place of the typed one.
+    if (dialog_.GivesName()) files_->setProperty("entered_quietly", true);
     mirror_.Bind(files_, dialog_.List1);
     mirror_.Describe(files_, dialog_.Label1);
     layout->addWidget(files_, 1);

@@ -51,8 +51,7 @@ int Run(const Arguments& arguments, QApplication& application) {
     window.on_end = [&](SelectionEnd end) {
         if (end == SelectionEnd::WithResult) {
             desk.window.BT_file_create();
-            const auto unit = opener.Unit();
-            std::cout << (unit ? unit->name : desk.captions[Caption::NoUnitChosen]) << '\n';
+            if (const auto unit = opener.Unit()) std::cout << unit->name << '\n';
         }
         window.close();
         QApplication::quit();

@@ -32,10 +32,10 @@ void StatusView::Sync() {
     const QString text = ShownText(status_.line.text);
     if (this->text() != text) setText(text);
     setVisible(!text.isEmpty());
+    if (isVisible()) Place();  // a panel may have come
     if (shown_count_ == status_.Count()) return;
     shown_count_ = status_.Count();
     setAccessibleName(text);
-    Place();
     raise();
     fading_.start();
     QAccessibleEvent alert(this, QAccessible::Alert);
@@ -44,9 +44,23 @@ void StatusView::Sync() {
 
 void StatusView::Place() {
     adjustSize();
+    if (const QPoint place = FreePlace(); pos() != place) move(place);
+}
+
+// The foot of the chart before its top, the middle before the sides. Where all of them are covered
+// it is the top: the buttons of a panel are at its foot.
+QPoint StatusView::FreePlace() const {
     const int gap = Scaled(*this, kGap);
     const QSize room = parentWidget()->size();
-    move((room.width() - width()) / 2, room.height() - height() - gap);
+    const int foot = room.height() - height() - gap;
+    const int middle = (room.width() - width()) / 2, right = room.width() - width() - gap;
+    const QRegion taken = covered ? covered() : QRegion();
+    for (const int top : {foot, gap}) {
+        for (const int left : {middle, right, gap}) {
+            if (!taken.intersects(QRect({left, top}, size()))) return {left, top};
+        }
+    }
+    return {middle, gap};
 }
 
 bool StatusView::eventFilter(QObject* watched, QEvent* event) {

@@ -22,10 +22,19 @@ constexpr double kWidthUnit = 0.22 * kUnitsPerPoint;  // of a line of width 1
 constexpr double kLeastLine = 0.32 * kUnitsPerPoint;  // thinner ones break up on paper
 constexpr double kRim = 0.9 * kUnitsPerPoint;
 constexpr double kSmallestShrink = 0.5;
+constexpr double kFrameToEdge = 30, kTextTolerance = 8;  // canvas units
+
 // The chart's frame on the page, in canvas units. It ends where the paper's edge would cut it.
-constexpr QRectF kFrame{kCanvasLeft, kCanvasTop, 1980, kCanvasBottom - kCanvasTop};
-// Its scales stand outside the frame, to the left, above and below.
-constexpr QRectF kTextRoom{-75, -20, 2075, 608};
+QRectF FrameOn(const PageScale& page) {
+    const double right = std::min(kCanvasRight, page.right - kFrameToEdge);
+    return {QPointF(kCanvasLeft, kCanvasTop), QPointF(right, kCanvasBottom)};
+}
+
+// Its scales stand outside the frame, to the left, above and below; labels end curves at its right.
+QRectF TextRoomOn(const PageScale& page) {
+    const double right = std::min(kCanvasRight + kTextTolerance, page.right);
+    return {QPointF(page.left, -20), QPointF(right, 588)};
+}
 
 class PagePlaces {
   public:
@@ -69,8 +78,9 @@ ChartView ViewOf(const Sheet& sheet, const QRectF& page, const PagePlaces& place
                         kCanvasBottom - kCanvasTop);
     const auto& operations = sheet.chart.Operations();
     const int points = operations.empty() ? 8 : operations.front().font_size;
-    return ChartView(PaperPlace{page.adjusted(0, 0, -kEdge, 0), places.Rect(canvas), kTextRoom,
-                                kStrokeUnit, kWidthUnit, kLeastLine, FontOf(sheet, points, false)});
+    return ChartView(PaperPlace{page.adjusted(0, 0, -kEdge, 0), places.Rect(canvas),
+                                TextRoomOn(sheet.chart_scale), kStrokeUnit, kWidthUnit, kLeastLine,
+                                FontOf(sheet, points, false)});
 }
 
 PrintedChart PaintChart(QPainter& painter, const Sheet& sheet, const QRectF& page) {
@@ -78,7 +88,7 @@ PrintedChart PaintChart(QPainter& painter, const Sheet& sheet, const QRectF& pag
     const ChartView view = ViewOf(sheet, page, places);
     QtCanvas chart(painter, view);
     painter.save();
-    painter.setClipRect(places.Rect(kFrame));
+    painter.setClipRect(places.Rect(FrameOn(sheet.chart_scale)));
     sheet.chart.ReplayOn(chart);
     chart.FinishStrokes();
     painter.restore();
@@ -164,8 +174,9 @@ void PaintItem(QPainter& painter, const Sheet& sheet, const SheetItem& item, con
 
 std::vector<const SheetItem*> ItemsOf(const Sheet& sheet, Kind kind, bool on_chart) {
     std::vector<const SheetItem*> items;
+    const QRectF frame = FrameOn(sheet.chart_scale);
     for (const SheetItem& item : sheet.Items()) {
-        const bool inside = !on_chart || kind == Kind::Line || kFrame.contains(item.x1, item.y1);
+        const bool inside = !on_chart || kind == Kind::Line || frame.contains(item.x1, item.y1);
         if (item.kind == kind && item.on_chart == on_chart && inside) items.push_back(&item);
     }
     return items;
@@ -221,7 +232,7 @@ void PaintLabels(QPainter& painter, const Sheet& sheet, const PrintedChart& char
 void PaintProcess(QPainter& painter, const Sheet& sheet, const QRectF& page,
                   const PrintedChart& chart) {
     painter.save();
-    painter.setClipRect(chart.places.Rect(kFrame));
+    painter.setClipRect(chart.places.Rect(FrameOn(sheet.chart_scale)));
     for (const Kind kind : {Kind::Line, Kind::Circle}) {
         for (const SheetItem* item : ItemsOf(sheet, kind, true)) {
             PaintItem(painter, sheet, *item, page);

@@ -47,6 +47,24 @@ std::string PowerUnit() { return " /[" + std::string(UnitKW) + "] :"; }
 
 bool HasTwoStates(Calculation mode) { return mode == Calculation::Capacity || IsTool(mode); }
 
+bool IsExact(const PrintOutSource& source) {
+    return source.settings.convention == Convention::Exact;
+}
+
+// Under the suite's convention a page has the loads of whatever ran last.
+bool PrintsLoads(const PrintOutSource& source) {
+    if (!IsExact(source)) return true;
+    const Calculation mode = source.processes.Rechenmodus;
+    return (mode == Calculation::Plant || HasTwoStates(mode)) && !source.processes.HasStaleLoads();
+}
+
+// The suite's plant prints the condensate of whatever ran before; an exact one its coil's, if the
+// air goes over it.
+bool PrintsCondensate(const PrintOutSource& source) {
+    return !IsExact(source) || source.processes.Rechenmodus != Calculation::Plant ||
+           source.processes.plant.AnlageZweig == 0;
+}
+
 void PrintState(Sheet& sheet, const Captions& words, Column column, const std::string& number,
                 const std::array<const Control*, 4>& figures) {
     constexpr std::array<Caption, 4> kWords = {Caption::Temperature, Caption::RelativeHumidity,
@@ -57,11 +75,13 @@ void PrintState(Sheet& sheet, const Captions& words, Column column, const std::s
     }
 }
 
+double RightEdge(const PrintOutSource& source) { return ChartPageOf(source.settings).right - kGap; }
+
 void PrintTwoStates(const PrintOutSource& source, Sheet& sheet) {
     const auto& p = source.processes.point;
     PrintState(sheet, source.captions, {kState1, kState2 - kGap}, "1",
                {&p.Temp1, &p.relF1, &p.absF1, &p.enth1});
-    PrintState(sheet, source.captions, {kState2, kChartPage.right - kGap}, "2",
+    PrintState(sheet, source.captions, {kState2, RightEdge(source)}, "2",
                {&p.Temp2, &p.relF2, &p.absF2, &p.enth2});
 }
 
@@ -88,6 +108,7 @@ void PrintLoads(const PrintOutSource& source, Sheet& sheet, Column column, doubl
                   NumberText(figures.LatentLeist));
     printer.Print(capacity + words[Caption::Sensible] + PowerUnit() +
                   NumberText(figures.SensibelLeist));
+    if (!PrintsCondensate(source)) return;
     printer.Print(words[Caption::Water] + " /[kg/h] :" + NumberText(figures.KondensatWasser));
 }
 
@@ -95,7 +116,7 @@ void PrintPlantLoads(const PrintOutSource& source, Sheet& sheet) {
     const Captions& words = source.captions;
     const ProcessFigures& figures = source.processes.figures;
     const std::string capacity = words[Caption::Capacity] + " ";
-    FigurePrinter printer(sheet, {kPlantRight, kChartPage.right - kGap}, kFirstLine + kLine);
+    FigurePrinter printer(sheet, {kPlantRight, RightEdge(source)}, kFirstLine + kLine);
     printer.Print(capacity + words[Caption::HumidifierSecond] +
                   " /[kg/h] :" + NumberText(figures.BefeuchterLeist));
     printer.Print(capacity + words[Caption::Heater] + " " + PowerUnit() +
@@ -105,6 +126,10 @@ void PrintPlantLoads(const PrintOutSource& source, Sheet& sheet) {
 }
 
 }  // namespace
+
+const PageScale& ChartPageOf(const ChartSettings& settings) {
+    return settings.convention == Convention::Exact ? kExactChartPage : kChartPage;
+}
 
 std::string PageHeading(const PrintOutSource& source, const SharedValues& shared) {
     const std::string kind = source.settings.DiagrammArt == kMollier
@@ -135,8 +160,8 @@ void PrintMarks(const Overlay& overlay, Sheet& sheet) {
 void PrintFigures(const PrintOutSource& source, Sheet& sheet) {
     const bool plant = source.processes.Rechenmodus == Calculation::Plant;
     const bool two_states = HasTwoStates(source.processes.Rechenmodus);
-    const Column left{kLeft,
-                      (plant ? kPlantRight : (two_states ? kState1 : kChartPage.right)) - kGap};
+    const double beside = plant ? kPlantRight : kState1;
+    const Column left{kLeft, plant || two_states ? beside - kGap : RightEdge(source)};
     sheet.SetFontSize(kMarkFontSize);
     if (plant) {
         PrintPlantFlows(source, sheet, left);
@@ -147,8 +172,8 @@ void PrintFigures(const PrintOutSource& source, Sheet& sheet) {
                 source.processes.point.LuftM1.text));
         if (two_states) PrintTwoStates(source, sheet);
     }
-    PrintLoads(source, sheet, left, plant ? kPlantShift : 0);
-    if (plant) PrintPlantLoads(source, sheet);
+    if (PrintsLoads(source)) PrintLoads(source, sheet, left, plant ? kPlantShift : 0);
+    if (plant && PrintsLoads(source)) PrintPlantLoads(source, sheet);
 }
 
 }  // namespace zandrell

@@ -39,6 +39,7 @@ void ChartPrinting::Druck_start() {
 }
 
 void ChartPrinting::Print() {
+    if (!MayPrint()) return;
     const Sheet sheet = ComposeSheet();
     std::string error = "No printer";
     if (device_ != nullptr && device_->Print(sheet, error)) return;
@@ -51,7 +52,7 @@ void ChartPrinting::OpenPrinterDialog() {
 }
 
 void ChartPrinting::ShowPreview() {
-    if (device_ != nullptr) device_->Preview(ComposeSheet());
+    if (device_ != nullptr && MayPrint()) device_->Preview(ComposeSheet());
 }
 
 void ChartPrinting::TakeProjectTexts() {
@@ -73,13 +74,13 @@ Sheet ChartPrinting::ComposeSheet() {
     // Paper is always light, whatever the screen shows.
     sheet.chart.Clear(kWhite, kBlack);
     sheet.chart.SetFontSize(kChartFontSize);
-    sheet.chart_scale = kChartPage;
+    sheet.chart_scale = ChartPageOf(context_.chart.settings);
     context_.chart.printer = &sheet.chart;
     double pressure = 0;
     context_.chart.DiagrammZeichnen(ChartTask::PaintPrinter, 0, 0, pressure);
     context_.chart.printer = nullptr;
 
-    sheet.SetScale(kChartPage);
+    sheet.SetScale(sheet.chart_scale);
     PrintMarks(context_.overlay, sheet);
     PrintFigures(source, sheet);
     if (context_.shared.prints_states) AddStates(sheet);

@@ -29,6 +29,9 @@ class ChartPrinting {
     explicit ChartPrinting(const PrintingContext& context);
 
     PrintSetupForm setup;
+    // Asked before a page is made: brings the process in line with its fields, and refuses with
+    // words of its own where it cannot. Empty: nothing is in the way.
+    std::function<bool()> may_print;
     std::function<void()> after_printing;  // draws the screen and repeats the process
 
     // Where pages go to; null: nowhere, and a print-out says so. It outlives the print-out.
@@ -49,6 +52,7 @@ class ChartPrinting {
     void TakeProjectTexts();
     void AddStates(Sheet& sheet);
     void Print();
+    bool MayPrint() const { return !may_print || may_print(); }
 
     PrintingContext context_;
     PrintDevice* device_ = nullptr;

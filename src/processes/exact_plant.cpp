@@ -113,6 +113,7 @@ std::optional<ExactPlantRun> RunExactly(const ExactAir& air, const PlantInputs& 
     const double kg_per_s = run.mixing.mL / kSecondsPerHour;
     run.cooler_kw = run.OhneKuehler ? 0 : kg_per_s * (mixed.h - inlet.h);
     run.heater_kw = kg_per_s * (run.heated.h - inlet.h);
+    run.condensate_kg_per_h = std::max(0.0, run.mixing.mL * (mixed.x - inlet.x) / kGramsPerKg);
     run.humidifier_kg_per_h = run.mixing.mL * (run.supply.x - inlet.x) / kGramsPerKg;
     if (!airs.AllKnown()) return std::nullopt;
     return run;

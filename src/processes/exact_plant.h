@@ -29,6 +29,7 @@ struct ExactPlantRun : PlantRun {
     AirPoint heated;  // the heater's outlet
     double cooler_kw = 0, heater_kw = 0;
     double humidifier_kg_per_h = 0;
+    double condensate_kg_per_h = 0;  // that the coil takes out of the mixed air; never negative
 };
 
 // Requires: inputs that RaiseExactly has seen, and its humidities.

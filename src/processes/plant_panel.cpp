@@ -234,8 +234,8 @@ bool PlantPanel::HeatOnly(const PlantRun& run) {
     return true;
 }
 
-// Without need of a humidifier its text keeps what it showed last, and the condensate of the point
-// panel is no figure of the plant.
+// Without need of a humidifier its text keeps what it showed last. The suite's plant has no
+// condensate: its page prints that of whatever ran before, and this is meant.
 void PlantPanel::ShowCoolerFigures(const PlantRun& run, const CoolerWay& way) {
     const AirPoint &mixed = run.mixing.mixed, &coil = run.coil.air;
     const double mL = run.mixing.mL, factor = run.Anzeigefaktor;

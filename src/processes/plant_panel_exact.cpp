@@ -66,11 +66,13 @@ void PlantPanel::ShowExactly(const ExactPlantRun& run) {
     if (run.OhneKuehler) {
         Drawing().DrawHeaterWay(run, run.heated);
         ShowNoCooler();
+        context_.figures.KondensatWasser = 0;
         ShowHeater(heater_kw, UnitKW);
         ShowHumidifier(Cut(run.humidifier_kg_per_h, factor), kNarrowWaterUnit);
     } else {
         Drawing().DrawCoolerWay(run, run.heated);
         ShowCooler(Cut(run.cooler_kw, factor));
+        AssignFinite(context_.figures.KondensatWasser, Cut(run.condensate_kg_per_h, factor));
         ShowHeater(heater_kw, kUnitBehindCooler);
         ShowHumidifier(Cut(run.humidifier_kg_per_h, 100), kWaterUnit);
     }

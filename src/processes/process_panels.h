@@ -26,6 +26,18 @@ class ProcessPanels {
     // Marks fields and figures of the open panel; after whatever may have changed them.
     void NoteFields();
 
+    // Brings the process in force in line with its fields: what is typed is confirmed as Return
+    // would, by the handlers of `acts`, and a process that was not computed is. Values that cannot
+    // be used leave what belongs to earlier inputs.
+    void TakeTyped(const ActTable& acts);
+    // Whether loads of the process in force, as noted last, belong to earlier inputs; the same of
+    // what is drawn.
+    bool HasStaleLoads() const;
+    bool HasStaleMarks() const;
+
+    // Computes the process in force from its fields, and draws it.
+    void Calculate();
+
     // Of the calculation in force.
     ProcessStates States() const;
 
@@ -35,6 +47,8 @@ class ProcessPanels {
     const ProcessSurroundings& Around() const { return around_; }
 
   private:
+    void NotePanelInForce();
+
     ProcessSurroundings around_;
 };
 

@@ -51,6 +51,7 @@ void ProjectDesk::QuickLoad() {
 void ProjectDesk::NewProject() {
     SharedValues& shared = context_.shared;
     window_.busy(true);
+    const bool had_inputs = keeper.HoldsInputs();
     if (keeper.Seen().MayRemove(shared.ProjektFeldDatei) && keeper.KeepPresent({})) {
         context_.files.DeleteDataFile(
             shared.ProjektFeldDatei, context_.captions,
@@ -62,6 +63,7 @@ void ProjectDesk::NewProject() {
             shared.ProjectFileName.clear();
             shared.LastProjectFile.clear();
             window_.inputs_replaced();
+            if (had_inputs) window_.say(Caption::FormerInputsCanComeBack);
         }
     }
     window_.busy(false);
@@ -82,10 +84,19 @@ void ProjectDesk::TakeLoadedProject() {
         if (keeper.ArbeitsfelderLaden(kWorkingStateFile)) {
             window_.inputs_replaced();
             store.NoteSaved();
-            window_.say(Caption::Loaded);
+            TellOfLoad();
         }
     }
     shared.DialogMode = 0;
+}
+
+// A project that was taken only in part is not called loaded.
+void ProjectDesk::TellOfLoad() {
+    std::string text = store.load_remark;
+    if (text.empty()) return window_.say(Caption::Loaded);
+    const std::string& restore = context_.captions[Caption::FormerInputsCanComeBack];
+    if (keeper.HasPrevious() && !restore.empty()) text.append("\n").append(restore).append(".");
+    Complain(context_, text);
 }
 
 void ProjectDesk::LoadProject() {

@@ -56,6 +56,7 @@ class ProjectDesk {
     void ShowDialog(int DialogMode);
     bool SaveWorkingState();
     void TakeLoadedProject();
+    void TellOfLoad();
 
     ProjectContext context_;
     Window window_;

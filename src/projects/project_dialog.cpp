@@ -206,6 +206,10 @@ void ProjectDialog::EnterTypedFolder() {
     }
 }
 
+bool ProjectDialog::GivesName() const {
+    return mode_ != nullptr && mode_->action == DialogAction::SaveProject;
+}
+
 // Nothing was chosen yet: there is only the extension, or not even that.
 bool ProjectDialog::NamesNothing(const std::string& name) const {
     return name.empty() || EqualIgnoringCase(name, mode_->extension);
@@ -215,8 +219,7 @@ void ProjectDialog::Accept() {
     if (mode_ == nullptr) return;
     SharedValues& shared = context_.shared;
     const std::string name = Trimmed(ProNam.text);
-    const bool completes = mode_->action == DialogAction::SaveProject;
-    if (!completes && NamesNothing(name)) return Complain(context_, std::string(kNoNameText));
+    if (!GivesName() && NamesNothing(name)) return Complain(context_, std::string(kNoNameText));
     switch (mode_->action) {
         case DialogAction::LoadProject:
             return LoadProject();

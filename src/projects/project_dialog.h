@@ -38,6 +38,8 @@ class ProjectDialog : public ModalForm {
     // Fills the window for the request in `DialogMode`. The process is in `BrowseFolder` from here
     // on, until the window closes.
     void Open();
+    // Whether a file is given its name here, instead of one being looked for in the list.
+    bool GivesName() const;
 
   private:
     void ListControls();

@@ -3,7 +3,6 @@
 #include "base/text_encoding.h"
 #include "projects/dialog_modes.h"
 #include "projects/folder_listing.h"
-#include "projects/project_file.h"
 #include "projects/project_words.h"
 
 namespace zandrell {
@@ -39,6 +38,7 @@ bool ProjectStore::LoadProject(const fs::path& folder, const std::string& name) 
         if (own && !keeper_.KeepPresent(items)) return false;
         if (keeper_.Seen().Write(working_file, items) != WriteResult::Done) return false;
     }
+    load_remark = RemarkOn(project, path);
     SharedValues& shared = context_.shared;
     shared.ProjectTitle = project.header.title;
     shared.ProjectRemark = project.header.remark;
@@ -50,6 +50,14 @@ bool ProjectStore::LoadProject(const fs::path& folder, const std::string& name) 
     folder_in_hand = WithSeparator(path.parent_path().string());
     recent.Add(path);
     return true;
+}
+
+std::string ProjectStore::RemarkOn(const ProjectFile& project, const fs::path& path) const {
+    if (WorkingFileOf(project.header.tag) != kWorkingStateFile) {
+        return OtherModuleText(context_, path.string(), Trimmed(project.header.tag));
+    }
+    const int unreadable = UnreadableItems(project.items);
+    return unreadable == 0 ? "" : IncompleteText(context_, path.string(), unreadable);
 }
 
 fs::path ProjectStore::TargetOf(const fs::path& folder) const {

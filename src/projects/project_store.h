@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "projects/project_context.h"
+#include "projects/project_file.h"
 #include "projects/recent_projects.h"
 #include "projects/working_state_keeper.h"
 
@@ -28,6 +29,9 @@ class ProjectStore {
     // then nothing has changed, and the user has been told.
     bool LoadProject(const std::filesystem::path& folder, const std::string& name);
 
+    // What there is to say of the project that was loaded last beyond that; empty: nothing.
+    std::string load_remark;
+
     // Saves the working-state file of the tag under `ProjectFileName`, to which the name rules are
     // applied. A file of that name in another spelling is that project. Asks before it replaces
     // another project than the one in hand.
@@ -46,6 +50,7 @@ class ProjectStore {
     void NoteDeleted(const std::filesystem::path& path);
 
   private:
+    std::string RemarkOn(const ProjectFile& project, const std::filesystem::path& path) const;
     std::filesystem::path TargetOf(const std::filesystem::path& folder) const;
     std::string Inputs() const;
 

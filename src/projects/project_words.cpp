@@ -1,6 +1,8 @@
 #include "projects/project_words.h"
 
+#include "base/number_text.h"
 #include "base/text_helpers.h"
+#include "projects/working_state.h"
 
 namespace zandrell {
 namespace {
@@ -62,6 +64,21 @@ std::string ProjectVanishedText(const ProjectContext& context, std::string_view 
 std::string WithoutTagText(const ProjectContext& context, std::string_view name) {
     return MessageText(context, Caption::ProjectWithoutTag, "%1 is not a project of this program.",
                        {name});
+}
+
+std::string IncompleteText(const ProjectContext& context, std::string_view name, int unreadable) {
+    return MessageText(
+        context, Caption::ProjectIncomplete,
+        "%1 is incomplete: %2 of %3 inputs are missing or not readable.",
+        {name, TrimmedNumberText(unreadable), TrimmedNumberText(kWorkingStateItems)});
+}
+
+std::string OtherModuleText(const ProjectContext& context, std::string_view name,
+                            std::string_view tag) {
+    return MessageText(
+        context, Caption::ProjectOfAnotherModule,
+        "%1 is a project of another module (%2). The inputs here are those of the last save.",
+        {name, tag});
 }
 
 std::string NameRefusedText(const ProjectContext& context, std::string_view name) {

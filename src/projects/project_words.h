@@ -22,6 +22,9 @@ std::string ReadingFailedText(const ProjectContext& context, std::string_view fi
                               const FileText& unread);
 std::string ProjectVanishedText(const ProjectContext& context, std::string_view name);
 std::string WithoutTagText(const ProjectContext& context, std::string_view name);
+std::string IncompleteText(const ProjectContext& context, std::string_view name, int unreadable);
+std::string OtherModuleText(const ProjectContext& context, std::string_view name,
+                            std::string_view tag);
 std::string NameRefusedText(const ProjectContext& context, std::string_view name);
 
 // Shows a message with the stop icon under the program's name.

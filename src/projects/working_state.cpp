@@ -1,5 +1,6 @@
 #include "projects/working_state.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "base/delimited_text.h"
@@ -35,6 +36,20 @@ bool HoldsWorkingState(std::string_view text, const WorkingStateFields& state) {
     for (std::size_t i = 0; i < loaded.fields.size(); ++i) loaded.fields[i] = &texts[i];
     SetWorkingState(text, loaded);
     return WorkingStateText(loaded) == WorkingStateText(state);
+}
+
+int UnreadableItems(const std::vector<std::string>& items) {
+    constexpr std::size_t kOptions[] = {17, 18};
+    const std::size_t read = std::min<std::size_t>(items.size(), kWorkingStateItems);
+    int unreadable =
+        read == kWorkingStateItems - 1 ? 0 : kWorkingStateItems - static_cast<int>(read);
+    for (std::size_t i = 0; i < read; ++i) {
+        if (i == kOptions[0] || i == kOptions[1]) continue;
+        const bool blank = items[i].find_first_not_of(' ') == std::string::npos;
+        const bool number = items[i].find_first_of("0123456789") != std::string::npos;
+        unreadable += blank || number ? 0 : 1;
+    }
+    return unreadable;
 }
 
 std::string WorkingStateText(const WorkingStateFields& state) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/data_files.h"
 #include "base/file_names.h"
@@ -29,6 +30,12 @@ void SetWorkingState(std::string_view text, const WorkingStateFields& state);
 
 // Whether the controls hold what that text would set them to.
 bool HoldsWorkingState(std::string_view text, const WorkingStateFields& state);
+
+inline constexpr int kWorkingStateItems = 20;
+
+// How many items of a file are missing or hold something else than a number. Blank ones are inputs
+// that nobody has made yet, and older files lack the last one.
+int UnreadableItems(const std::vector<std::string>& items);
 
 // The text of the file, one item a line.
 std::string WorkingStateText(const WorkingStateFields& state);

@@ -20,11 +20,6 @@ bool IsReadable(FileStatus status) {
     return status == FileStatus::Ok || status == FileStatus::Missing;
 }
 
-bool IsEmpty(const WorkingStateFields& fields) {
-    return std::all_of(fields.fields.begin(), fields.fields.end(),
-                       [](const TextField* field) { return field->text.empty(); });
-}
-
 }  // namespace
 
 bool WorkingStateKeeper::Activate() {
@@ -156,7 +151,7 @@ bool WorkingStateKeeper::IsSaved() const {
 
 bool WorkingStateKeeper::KeepPresent(std::string_view incoming) {
     const std::string present = PresentText();
-    if (IsEmpty(fields_) || ItemsOf(incoming) == ItemsOf(present)) return true;
+    if (!HoldsInputs() || ItemsOf(incoming) == ItemsOf(present)) return true;
     return Save(kPreviousStateFile, present);
 }
 
@@ -180,6 +175,11 @@ bool WorkingStateKeeper::RestorePrevious() {
     if (!KeepPresent(file.text)) return false;
     SetWorkingState(file.text, fields_);
     return true;
+}
+
+bool WorkingStateKeeper::HoldsInputs() const {
+    return std::any_of(fields_.fields.begin(), fields_.fields.end(),
+                       [](const TextField* field) { return !field->text.empty(); });
 }
 
 bool WorkingStateKeeper::HasPrevious() const {

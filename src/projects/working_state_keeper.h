@@ -53,6 +53,8 @@ class WorkingStateKeeper {
     // The inputs of before the last load come back, and the present ones take their place.
     bool RestorePrevious();
     bool HasPrevious() const;
+    // Whether there is anything in the fields.
+    bool HoldsInputs() const;
 
     std::string PresentText() const { return WorkingStateText(fields_); }
     SeenFiles& Seen() { return seen_; }

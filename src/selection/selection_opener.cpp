@@ -21,8 +21,9 @@ std::optional<std::string> SelectionOpener::Open() {
         window_.loaded = false;
     }
     kind_ = duty.KatalogArt;
-    // A new duty gives every series another range.
+    // A new duty gives every series another range, and every file another chance.
     selection.Rueckkehr = 0;
+    window_.controls.StatusLab.text.clear();
     selection.inputs.BetriebsFreq = 0;
     context_.shared.MainsFrequency = duty.mains_frequency;
     selection.FreqTitel = "Qo";
@@ -35,8 +36,10 @@ SelectionEnd SelectionOpener::React() {
     if (!window_.closed) return SelectionEnd::None;
     const auto code = static_cast<LeaveCode>(context_.shared.DialogMode);
     if (!window_.loaded) {
-        return code == LeaveCode::WithResult ? SelectionEnd::WithResult
-                                             : SelectionEnd::WithoutResult;
+        if (code != LeaveCode::WithResult) return SelectionEnd::WithoutResult;
+        if (HasUnit()) return SelectionEnd::WithResult;
+        KeepOpen();
+        return SelectionEnd::None;
     }
     switch (code) {
         case LeaveCode::Recalculate:
@@ -61,6 +64,14 @@ SelectionEnd SelectionOpener::React() {
     return SelectionEnd::None;
 }
 
+// Left with a result, and there is none: the window comes back as it stood.
+void SelectionOpener::KeepOpen() {
+    window_.loaded = true;
+    context_.selection.Rueckkehr = 1;
+    window_.controls.StatusLab.text = context_.captions[Caption::NoUnitChosen];
+    Show();
+}
+
 void SelectionOpener::Show() {
     const std::string status = window_.controls.StatusLab.text;
     window_.Open();
@@ -77,6 +88,7 @@ void SelectionOpener::Recalculate() {
 
 void SelectionOpener::TakeUnit() {
     const SelectionShared& selection = context_.selection;
+    window_.controls.StatusLab.text.clear();
     place_ = {{selection.SerieStart, selection.KatalogDatei}, selection.AuswahlZeile};
     ShowUnit();
 }

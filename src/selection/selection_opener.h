@@ -30,7 +30,8 @@ class SelectionOpener {
     // is another one. A message, and nothing is opened or changed, when it cannot be computed.
     std::optional<std::string> Open();
     // Answers the request of a window that has hidden itself, and opens it again unless it was left
-    // for good. `wants_settings` is set by the request for the settings of the opener.
+    // for good; also where it was left with a result and no unit is chosen. `wants_settings` is set
+    // by the request for the settings of the opener.
     SelectionEnd React();
 
     bool wants_settings = false;
@@ -44,6 +45,7 @@ class SelectionOpener {
     void TakeUnit();
     void Step(int by);
     void Recalculate();
+    void KeepOpen();
     void ShowUnit();
     void Show();
 

@@ -56,10 +56,7 @@ void BindMenuActs(MainForm& main) {
     on_menu(controls.Humid_W_Start, opens_tool(Calculation::WaterHumidifier));
     on_menu(controls.Humid_D_Start, opens_tool(Calculation::SteamHumidifier));
     on_menu(controls.StateList, [&main] { main.ShowStates(); });
-    on_menu(controls.kopieren, [&main] {
-        main.User().CopyChart();
-        main.status.Say(main.captions[Caption::Copied]);
-    });
+    on_menu(controls.kopieren, [&main] { main.CopyChart(); });
     on_menu(controls.Hsich, [&main] { main.Projects().QuickSave(); });
     on_menu(controls.Hlad, [&main] { main.Projects().QuickLoad(); });
 }
@@ -82,8 +79,15 @@ void BindProjectActs(MainForm& main) {
     for (const TextField* field : {&controls.Proj_T, &controls.Schr_T}) {
         on(*field, ActKind::Change, [&main] { main.Inputs().TakeProjectTexts(); });
     }
-    on(controls.Undo, ActKind::Click, [&main] { main.Undo().Undo(); });
-    on(controls.Redo, ActKind::Click, [&main] { main.Undo().Redo(); });
+    // What was said of the act that is taken back is true no longer.
+    on(controls.Undo, ActKind::Click, [&main] {
+        main.status.Fade();
+        main.Undo().Undo();
+    });
+    on(controls.Redo, ActKind::Click, [&main] {
+        main.status.Fade();
+        main.Undo().Redo();
+    });
 }
 
 void BindPanelActs(MainForm& main) {

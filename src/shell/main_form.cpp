@@ -64,6 +64,7 @@ MainForm::MainForm(UserInterface& user, DataFiles& files, NamedFolder named)
                  [this](Caption what) { status.Say(captions[what]); }}),
       undo_({*this, files, shared, processes, overlay, pointer_, panels_, inputs_, projects_,
              [this] { Activate(); }}) {
+    printing.may_print = [this] { return MayPrint(); };
     printing.after_printing = [this] { PaintAgain(); };
     printing.setup.choose_logo = [this] { projects_.OpenDialog(shared.DialogMode); };
     controls.ListControls(form);
@@ -170,6 +171,8 @@ void MainForm::PointerRelease(PointerButton button) {
 
 void MainForm::OpenOptions() {
     if (ended) return;
+    // A mark that is carried marks nothing that the fields say.
+    const auto drawn = pointer_.Marks().CarriesAny() ? std::vector<Control*>() : overlay.Shown();
     panels_.HideBoth();
     pointer_.OptionsOpened();
     overlay.AnlageMarkenLoeschen();
@@ -177,8 +180,21 @@ void MainForm::OpenOptions() {
     // The options are the one dialog whose closing redraws, whatever ran before.
     shared.ZurueckVomDialog = DialogEcho::None;
     user_.ShowModal(options);
+    const bool cancelled = shared.OptionenSignal == OptionsSignal::Cancelled;
     Activate();
+    if (!drawn.empty()) BringProcessBack(drawn, cancelled);
     undo_.NoteSettings();
+}
+
+// Under Exact the process in force stays on the chart, as it stays in the table of states. The
+// suite's settings leave the chart empty, but for a plant that they redraw.
+void MainForm::BringProcessBack(const std::vector<Control*>& drawn, bool unchanged) {
+    if (ended || chart.settings.convention == Convention::Suite) return;
+    if (unchanged) {
+        for (Control* control : drawn) control->visible = true;
+    } else if (IsPointMode(processes.Rechenmodus)) {
+        processes.Calculate();
+    }
 }
 
 void MainForm::Print() {
@@ -191,13 +207,29 @@ void MainForm::Print() {
 // Behind a print-out: the whole chart, also where a part of it was printed.
 void MainForm::PaintAgain() {
     chart.DiagrammZeichnen(ChartTask::PaintWhole, 0, 0, solver.ChartDruckBar);
-    const Calculation mode = processes.Rechenmodus;
-    if (mode == Calculation::Plant) {
-        processes.plant.AnlageBerechnen();
-    } else if (IsPointMode(mode)) {
-        processes.point.ZustandRechnen(mode, MarkPlacing::FromFields);
-    }
+    processes.Calculate();
     SetTitle();
+}
+
+// Under Exact what leaves the window is the process of the fields beside it. Under the suite's
+// convention it is the one that was computed last.
+void MainForm::TakeTyped() {
+    if (chart.settings.convention == Convention::Exact) processes.TakeTyped(acts);
+}
+
+bool MainForm::MayPrint() {
+    TakeTyped();
+    const bool exact = chart.settings.convention == Convention::Exact;
+    if (!exact || !processes.HasStaleMarks()) return true;
+    user_.ShowMessage(
+        {shared.AppTitle, captions[Caption::ProcessOfEarlierInputs], MessageIcon::Stop});
+    return false;
+}
+
+void MainForm::CopyChart() {
+    TakeTyped();
+    user_.CopyChart();
+    status.Say(captions[Caption::Copied]);
 }
 
 void MainForm::ShowPreview() {

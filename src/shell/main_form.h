@@ -84,6 +84,8 @@ class MainForm : public WindowForm {
     // The print setup, and the print-out when it is confirmed.
     void Print();
     void ShowPreview();
+    // The picture of the chart goes to the clipboard.
+    void CopyChart();
     // The states of the process in force, in a window of their own.
     void ShowStates();
     // Notes duty and air flow of the process for the selection of a component.
@@ -109,6 +111,9 @@ class MainForm : public WindowForm {
     void FollowAct(std::string_view control, ActKind kind);
     void FollowStates();
     void SetTitle();
+    void TakeTyped();
+    bool MayPrint();
+    void BringProcessBack(const std::vector<Control*>& drawn, bool unchanged);
     void PaintAgain();
     void CloseWindow();
 

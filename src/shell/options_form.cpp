@@ -10,8 +10,6 @@
 namespace zandrell {
 namespace {
 
-constexpr double kLowestHeight = -200, kHighestHeight = 3000;  // m, both exclusive
-
 // The standard atmosphere (ISO 2533) with its surface at 15 degC, rounded as the suite has it.
 constexpr double kSurfacePressure = 1.013;     // bar
 constexpr double kSurfaceTemperature = 288;    // K
@@ -52,6 +50,12 @@ void OptionsForm::ListControls() {
 
 void OptionsForm::BindActs() {
     acts.Add(geoH.name, ActKind::Return, [this] { TakeHeight(); });
+    for (TextField* field : {&absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi}) {
+        acts.Add(field->name, ActKind::Change, [this, field] {
+            field->hint.clear();
+            if (field == &geoH || field == &absD) height_typed_ = field == &geoH;
+        });
+    }
     acts.Add(qvtmaxi.name, ActKind::Return, [this] { FeuchteGrenze(true); });
     acts.Add(Option3d1.name, ActKind::Choose, [this] { Choose(Option3d1, Option3d2); });
     acts.Add(Option3d2.name, ActKind::Choose, [this] { Choose(Option3d2, Option3d1); });
@@ -98,7 +102,8 @@ void OptionsForm::SetCaptions() {
 }
 
 void OptionsForm::Open() {
-    closed = false;
+    closed = height_typed_ = false;
+    for (TextField* field : {&absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi}) field->hint.clear();
     SetCaptions();
     ChartSettings settings;
     ReadChartSettings(files_, settings);
@@ -125,6 +130,7 @@ void OptionsForm::Open() {
 void OptionsForm::TakeHeight() {
     const double height = ParsedNumber(geoH.text);
     if (!(height > kLowestHeight && height < kHighestHeight)) return;
+    height_typed_ = false;
     absD.text = NumberText(Cut(PressureAtHeight(height), 1000));
 }
 
@@ -143,14 +149,15 @@ int OptionsForm::FeuchteGrenze(bool write_field) {
 bool OptionsForm::PassesTests(const ChartSettings& typed) {
     const std::string& temperature = captions_[Caption::Temperature];
     const std::string& humidity = captions_[Caption::HumidityRatio];
-    const auto complain = [this](const std::string& text) {
+    const auto complain = [this](TextField& field, const std::string& text) {
+        if (ExactBox.on) field.hint = text;
         user_.ShowMessage({shared_.AppTitle, text, MessageIcon::Stop});
     };
-    if (typed.ChartTMin < -50) complain(temperature + " minimal  < -50°C !");
-    if (typed.ChartTMin > 0) complain(temperature + " minimal  > 0°C !");
-    if (typed.ChartTMax < 25) complain(temperature + " maximal  < 25°C !");
-    if (typed.ChartTMax > 100) complain(temperature + " maximal  > 100°C !");
-    if (typed.ChartXMin < 0) complain(humidity + " minimal < 0 g/kg !");
+    if (typed.ChartTMin < -50) complain(qvTmind, temperature + " minimal  < -50°C !");
+    if (typed.ChartTMin > 0) complain(qvTmind, temperature + " minimal  > 0°C !");
+    if (typed.ChartTMax < 25) complain(qvtmaxi, temperature + " maximal  < 25°C !");
+    if (typed.ChartTMax > 100) complain(qvtmaxi, temperature + " maximal  > 100°C !");
+    if (typed.ChartXMin < 0) complain(Xmini, humidity + " minimal < 0 g/kg !");
     // Up to 120 degC the values are taken in spite of the message at 100: the limits differ on
     // purpose.
     return typed.ChartTMin >= -50 && typed.ChartTMin <= 0 && typed.ChartTMax >= 25 &&
@@ -158,6 +165,8 @@ bool OptionsForm::PassesTests(const ChartSettings& typed) {
 }
 
 void OptionsForm::Opt_speich() {
+    if (ExactBox.on && !PassesExactTests()) return;
+    if (HeightCounts()) TakeHeight();
     ChartSettings typed;
     typed.pressure_bar = ParsedNumber(absD.text);
     typed.ChartTMin = ParsedNumber(qvTmind.text);

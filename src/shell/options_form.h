@@ -6,6 +6,7 @@
 #include "chart/chart_settings.h"
 #include "forms/user_interface.h"
 #include "forms/window_form.h"
+#include "processes/field_notes.h"
 
 namespace zandrell {
 
@@ -35,6 +36,8 @@ class OptionsForm : public ModalForm {
     void Open();
 
   private:
+    static constexpr double kLowestHeight = -200, kHighestHeight = 3000;  // m, both exclusive
+
     void SetCaptions();
     void ListControls();
     void BindActs();
@@ -42,12 +45,18 @@ class OptionsForm : public ModalForm {
     int FeuchteGrenze(bool write_field);
     void Opt_speich();
     bool PassesTests(const ChartSettings& typed);
+    // What the suite's tests let through and no chart can show is refused under Exact: each such
+    // field is marked, and a message tells all of them.
+    bool PassesExactTests();
+    std::optional<Refusal> ExactRefusalOf(const TextField& field) const;
+    bool HeightCounts() const { return ExactBox.on && height_typed_; }
 
     const DataFiles& files_;
     SharedValues& shared_;
     const Captions& captions_;
     StateSolver& solver_;
     UserInterface& user_;
+    bool height_typed_ = false;  // since the last pressure, and no pressure follows from it yet
 };
 
 }  // namespace zandrell

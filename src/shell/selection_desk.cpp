@@ -58,10 +58,13 @@ Sheet SelectionDesk::ComposeSheet() {
 }
 
 void SelectionDesk::PrintSheet() {
+    const std::string style = shared.DateFormatCode;
     const bool confirmed = setup.ShowPrintSetup() != 0;
     shared.DialogMode = 0;
     shared.print_setup_signal = PrintSetupSignal::None;
     if (!confirmed) return;
+    // The sheet was written before: its date and that of the header are one.
+    if (shared.DateFormatCode != style && !window.BT_file_create()) return;
     std::string error = "No printer";
     if (device_ != nullptr && device_->Print(ComposeSheet(), error)) return;
     user_.ShowMessage({shared.AppTitle, error, MessageIcon::Stop});

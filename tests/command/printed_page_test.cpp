@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <set>
 #include <sstream>
 
 #include "command/sheet_text.h"
@@ -144,6 +145,30 @@ TEST_F(PrintedPage, NothingOverlapsAndNothingIsCutOff) {
                         << c.options << ": " << words[i].text << " | " << words[k].text;
                 }
             }
+        }
+    }
+}
+
+// The suite's page ends before the labels of the last curves.
+TEST_F(PrintedPage, AnExactPageHasTheLabelsAtTheRightEdge) {
+    const struct {
+        const char *settings, *options;
+        double width;  // points
+        bool labelled;
+    } rows[] = {{"1.013,-20,40,0,40,0,0,1,1\n", "", 595, true},
+                {"1.013,-20,40,0,40,0,0,1,1\n", "--landscape", 842, true},
+                {"1.013,-20,40,0,40,0,0,1\n", "", 595, false}};
+    for (const auto& row : rows) {
+        folder_.Write("qv_par.dat", row.settings);
+        Print(kPlantScript, row.options);
+        std::set<std::string> texts;
+        for (const Word& word : Words()) {
+            texts.insert(word.text);
+            EXPECT_LE(word.right, row.width) << word.text;
+        }
+        EXPECT_TRUE(texts.contains("70%"));
+        for (const char* label : {"90%", "100%"}) {
+            EXPECT_EQ(texts.contains(label), row.labelled) << label << row.options;
         }
     }
 }

@@ -5,6 +5,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "canvas/palette.h"
+#include "desktop/look_colours.h"
 #include "desktop/window_session.h"
 
 namespace zandrell {
@@ -97,6 +99,32 @@ TEST_F(OptionsWindowTest, MessageOfAWrongRangeKeepsTheWindowOpen) {
     });
     EXPECT_NE(message.find("minimal  < -50°C !"), std::string::npos);
     EXPECT_DOUBLE_EQ(form_.chart.settings.ChartTMin, -20);
+}
+
+TEST_F(OptionsWindowTest, ARefusedFieldIsRedUntilItIsTypedAnew) {
+    RightClick([](QDialog& dialog) {
+        auto* box = qobject_cast<QAbstractButton*>(Inside(dialog, "ExactBox"));
+        if (!box->isChecked()) box->click();
+        auto* pressure = qobject_cast<QLineEdit*>(Inside(dialog, "absD"));
+        const auto ground = [&] {
+            return QColor(pressure->grab().toImage().pixel(6, pressure->height() / 2));
+        };
+        const QColor plain = ground();
+        Type(*pressure, "50");
+        QTimer::singleShot(0, &dialog, [] {
+            auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(message, nullptr);
+            message->accept();
+        });
+        Click(*Inside(dialog, "Command3D1"));
+        ASSERT_TRUE(dialog.isVisible());
+        EXPECT_EQ(ground(), GroundColour(kLightRed));
+        Type(*pressure, "0.9");
+        EXPECT_EQ(ground(), plain);
+        Click(*Inside(dialog, "Command3D1"));
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_DOUBLE_EQ(form_.chart.settings.pressure_bar, 0.9);
 }
 
 }  // namespace

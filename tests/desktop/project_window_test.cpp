@@ -15,7 +15,9 @@ class ProjectWindowTest : public WindowSession {
   protected:
     ProjectWindowTest() {
         form_.shared.ProjectFolder = folder_.Path().string();
-        folder_.Write("Halle.prj", ProjectText({"<b>Halle</b>", "[*]", "", "QV"}, "1,2,3,4,5"));
+        folder_.Write("Halle.prj", ProjectText({"<b>Halle</b>", "[*]", "", "QV"},
+                                               "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,"
+                                               "#TRUE#,#FALSE#,95"));
     }
 
     // Clicks a menu entry and acts in the window that opens.
@@ -57,6 +59,24 @@ TEST_F(ProjectWindowTest, AProjectIsLoadedByKeysAlone) {
     EXPECT_FALSE(window_->isWindowModified());
     Type(*Find<QLineEdit>("Taus"), "35");
     EXPECT_TRUE(window_->isWindowModified());
+}
+
+// A new project has a name of its own: no project of the folder lends it one, neither when the
+// window opens nor when the focus passes the list.
+TEST_F(ProjectWindowTest, SavingOffersNoForeignName) {
+    Find<QLineEdit>("Proj_T")->clear();
+    form_.shared.ProjectTitle.clear();
+    Open("ProSpeichU", [](QDialog& dialog) {
+        auto& name = Inside<QLineEdit>(dialog, "ProNam");
+        auto& list = Inside<QListWidget>(dialog, "List1");
+        ASSERT_EQ(list.count(), 1);
+        EXPECT_EQ(dialog.focusWidget(), &name);
+        EXPECT_EQ(name.text(), QStringLiteral(".prj"));
+        EXPECT_EQ(name.selectedText(), name.text());
+        list.setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(name.text(), QStringLiteral(".prj"));
+        EXPECT_EQ(Inside<QLabel>(dialog, "PreviewFigures").text(), QString());
+    });
 }
 
 TEST_F(ProjectWindowTest, ReturnInTheFolderPathStaysInTheWindow) {

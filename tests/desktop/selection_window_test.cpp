@@ -107,6 +107,14 @@ TEST_F(SelectionWindowTest, TheTabKeyReachesAllThatTakesInput) {
     }
 }
 
+TEST_F(SelectionWindowTest, SaysThatNoUnitIsChosen) {
+    QTest::mouseClick(Find<QPushButton>("UeberNehm"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(Find<QLabel>("StatusLab")->isVisible());
+    EXPECT_EQ(Find<QLabel>("StatusLab")->text(), QStringLiteral("No unit is chosen"));
+}
+
 TEST_F(SelectionWindowTest, AMakerIsChosenByReturnOrAClick) {
     auto* makers = Find<QListWidget>("HerstellList");
     makers->setFocus();

@@ -63,6 +63,25 @@ TEST_F(SizesTest, NothingIsOutOfReach) {
     }
 }
 
+TEST_F(SizesTest, TheStatusLineStandsBesideAnOpenPanel) {
+    for (const QSize& size : {QSize(1008, 652), QSize(1280, 800)}) {
+        Resize(size.width(), size.height());
+        for (const char* opens : {"AnlageButt", "BearButt"}) {
+            window_->Mirror().Perform([&] { form_.UserClick(opens); });
+            window_->Mirror().Perform([&] { form_.UserClick("PSButt"); });
+            for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
+            const auto* line = Find<QLabel>("StatusLine");
+            const bool plant = std::string(opens) == "AnlageButt";
+            const QWidget* panel = Find<QWidget>(plant ? "Frame1" : "Anlage1PN");
+            ASSERT_TRUE(line->isVisible() && panel->isVisible());
+            EXPECT_FALSE(line->geometry().intersects(panel->geometry().adjusted(10, 10, -10, -10)))
+                << opens << size.width();
+            EXPECT_TRUE(window_->Chart().rect().contains(line->geometry()));
+            window_->Mirror().Perform([&] { form_.UserClick(plant ? "AnlageAbButt" : "abbcom"); });
+        }
+    }
+}
+
 TEST_F(SizesTest, TheScaleFollowsTheWindowBothWays) {
     const auto heights = [this] {
         return std::array{Find<QWidget>("AnlageButt")->fontMetrics().height(),

@@ -18,7 +18,7 @@ Texts FiguresOf(const Sheet& sheet) {
     Texts texts;
     for (const SheetItem& item : sheet.Items()) {
         const bool figure =
-            item.kind == SheetItem::Kind::Text && item.scale == kChartPage && !item.on_chart;
+            item.kind == SheetItem::Kind::Text && item.scale == sheet.chart_scale && !item.on_chart;
         if (!figure) continue;
         EXPECT_EQ(item.fit, TextFit::Shrink) << item.text;
         EXPECT_EQ(item.font_size, 10) << item.text;
@@ -90,6 +90,28 @@ TEST(PrintOut, FiguresOfTheOtherModes) {
         EXPECT_EQ(texts.at({50, 600}), "Flow air /[m³/h]: 1000");
         EXPECT_EQ(texts.at({50, 640}), "Q all /[kW] :" + NumberText(session.figures.GesamtLeist));
     }
+}
+
+// 2000 m3/h each of room and outside air are mixed 1:1 by dry air, of 10.5 and 12.0 g/kg (26 degC,
+// 50 %; 32 degC, 40 %), and leave the coil of 13 degC with 8.9 (95 %): 4000 / 0.861 kg/h of dry air
+// leave 4646 * (11.27 - 8.90) / 1000 = 11.0 kg/h there. At 5 degC outside the air does not go over
+// it.
+TEST(PrintOut, ExactPagesHaveFiguresOfTheirOwnProcessAlone) {
+    PrintingSession session;
+    session.ChooseChart(kMollier, kWhiteGround, Convention::Exact);
+    session.RunPoint(Calculation::Capacity, "30", "50", "15", "80");
+    session.processes.Rechenmodus = Calculation::Mixing;
+    EXPECT_EQ(FiguresOf(session.printing.ComposeSheet()),
+              (Texts{{{50, 600}, "Flow air /[m³/h]: 1000"}}));
+    session.RunPlant();
+    EXPECT_NEAR(session.figures.KondensatWasser, 11.0, 0.1);
+    EXPECT_EQ(FiguresOf(session.printing.ComposeSheet()).at({50, 720}),
+              "water /[kg/h] :" + NumberText(session.figures.KondensatWasser));
+    session.plant.Taus.text = "5";
+    session.plant.AnlageBerechnen();
+    const Texts heated = FiguresOf(session.printing.ComposeSheet());
+    EXPECT_FALSE(heated.contains({50, 720}));
+    EXPECT_TRUE(heated.contains({1000, 620}));
 }
 
 TEST(PrintOut, MarksAreBlackAndOnlyWhatIsSeen) {

@@ -128,8 +128,10 @@ struct PrintingSession {
         for (const auto& [caption, word] : words) captions[caption] = word;
     }
 
-    void ChooseChart(int kind, int ground = kWhiteGround) {
+    void ChooseChart(int kind, int ground = kWhiteGround,
+                     Convention convention = Convention::Suite) {
         ChartSettings settings;
+        settings.convention = convention;
         settings.DiagrammArt = kind;
         settings.Helligkeit = ground;
         EXPECT_EQ(WriteChartSettings(files, settings), FileStatus::Ok);

@@ -305,6 +305,9 @@ TEST(ExactPlant, EnergyAndWaterCloseOverDrawnPlants) {
         EXPECT_NEAR(run->room.total_kw, other.room_kw, kTolerance * other.turnover_kw) << i;
         EXPECT_NEAR(run->heater_kw, other.heater_kw, kTolerance * other.turnover_kw) << i;
         EXPECT_NEAR(run->cooler_kw, other.cooler_kw, kTolerance * other.turnover_kw) << i;
+        EXPECT_NEAR(run->condensate_kg_per_h, std::max(0.0, other.condensate),
+                    kTolerance * std::abs(other.condensate) + 1e-9)
+            << i;
     }
     RecordProperty("worst_energy", std::to_string(worst));
     EXPECT_GT(with_cooler, 500);

@@ -175,5 +175,16 @@ TEST(StatusLine, TellsWhatHasHappenedAndKeepsTheLast) {
         << tip;
 }
 
+// What is taken back is no longer true; the tool tip still tells what was said.
+TEST(StatusLine, EndsWithTheActThatItTellsOf) {
+    ScriptSession session;
+    const auto dumps = session.Run(std::string(kPlant) +
+                                   "click PSButt\nset Taus 10\nreturn Taus\nclick PLbutt\n"
+                                   "click Undo\ndump StatusLine Taus\n");
+    EXPECT_EQ(TextOf(dumps[0], "Taus"), " 10");
+    EXPECT_EQ(TextOf(dumps[0], "StatusLine"), "");
+    EXPECT_TRUE(dumps[0]["StatusLine"]["tool_tip"].get<std::string>().starts_with("Loaded"));
+}
+
 }  // namespace
 }  // namespace zandrell

@@ -158,6 +158,68 @@ TEST(Options, HeightGivesThePressureAndTheTopTemperatureTheHumidity) {
         session.folder.Read("qv_par.dat").starts_with("1.013\r\n-20\r\n40\r\n0\r\n5.3\r\n"));
 }
 
+// A chart of such settings would have no curves: refused under Exact, taken as ever without it.
+TEST(Options, ExactSettingsAreThoseThatAChartCanShow) {
+    const struct {
+        std::string acts, field, message;  // message empty: taken
+    } rows[] = {
+        {"set qvopt.absD abc\n", "absD", "Pressure /[bar]: not used: not a number"},
+        {"set qvopt.absD 0\n", "absD", "Pressure /[bar]: not used: only .1 to 8.5 bar is possible"},
+        {"set qvopt.absD -1\n", "absD",
+         "Pressure /[bar]: not used: only .1 to 8.5 bar is possible"},
+        {"set qvopt.absD 50\n", "absD",
+         "Pressure /[bar]: not used: only .1 to 8.5 bar is possible"},
+        {"set qvopt.absD .8\n", "absD", ""},
+        {"set qvopt.Xmini 30\nset qvopt.Xmaxi 10\n", "Xmaxi",
+         "Humidity Ratio max. : not used: only 31 to 10000 g/kg is possible"},
+        {"set qvopt.Xmaxi 1e300\n", "Xmaxi",
+         "Humidity Ratio max. : not used: only 1 to 10000 g/kg is possible"},
+        {"set qvopt.Xmini 1e300\nset qvopt.Xmaxi 1e300\n", "Xmini",
+         "Humidity Ratio min. : not used: only 0 to 9999 g/kg is possible\n"
+         "Humidity Ratio max. : not used: only 10000 to 10000 g/kg is possible"},
+        {"set qvopt.qvTmind x\n", "qvTmind", "Temperature min. : not used: not a number"},
+        {"set qvopt.qvtmaxi 130\n", "qvtmaxi", "Temperature maximal  > 100°C !"},
+        {"set qvopt.geoH 5000\n", "geoH",
+         "Altitude /[m]: not used: only -199 to 2999 m is possible"},
+        {"set qvopt.geoH 5000\nset qvopt.absD .54\n", "geoH", ""},
+    };
+    for (const bool exact : {true, false}) {
+        for (const auto& row : rows) {
+            ScriptSession session;
+            const auto dumps = session.Run("click optButt\ncheck qvopt.ExactBox " +
+                                           std::string(exact ? "on\n" : "off\n") + row.acts +
+                                           "click qvopt.Command3D1\ndump\n");
+            std::string shown;
+            for (const auto& dialog : dumps[0]["dialogs"]) {
+                if (dialog["icon"] == "stop") shown = dialog["text"];
+            }
+            const bool suites = row.message.find('!') != std::string::npos;
+            const bool refused = !row.message.empty() && (exact || suites);
+            EXPECT_EQ(shown, exact || suites ? row.message : "") << row.acts;
+            ASSERT_EQ(dumps[0].contains("qvopt.absD"), refused) << row.acts << exact;
+            if (!refused) continue;
+            EXPECT_EQ(dumps[0]["qvopt." + row.field].contains("hint"), exact) << row.acts;
+        }
+    }
+}
+
+// 1500 m have 845.6 hPa in the standard atmosphere of 1013.25; of 1.013, cut, .845.
+TEST(Options, AHeightThatWasTypedLastCountsWithoutReturn) {
+    const struct {
+        const char *acts, *file;  // how the file begins
+    } rows[] = {{"check qvopt.ExactBox on\nset qvopt.geoH 1500\n", ".845\r\n"},
+                {"check qvopt.ExactBox on\nset qvopt.geoH 1500\nset qvopt.absD .9\n", ".9\r\n"},
+                {"check qvopt.ExactBox on\nset qvopt.absD x\nset qvopt.geoH 1500\n", ".845\r\n"},
+                {"set qvopt.geoH 1500\n", "1.013\r\n"}};
+    for (const auto& row : rows) {
+        ScriptSession session;
+        session.Run(std::string("click optButt\n") + row.acts + "click qvopt.Command3D1\n");
+        const std::string file = session.folder.Read("qv_par.dat");
+        EXPECT_TRUE(file.starts_with(row.file)) << row.acts << file;
+        EXPECT_NE(file.find("\r\n1500\r\n"), std::string::npos) << file;
+    }
+}
+
 TEST(Options, CancelAndTheEscapeKeyLeaveEverything) {
     for (const char* leave : {"click qvopt.Command3D5", "key qvopt.absD Escape"}) {
         ScriptSession session;
@@ -171,6 +233,35 @@ TEST(Options, CancelAndTheEscapeKeyLeaveEverything) {
         EXPECT_EQ(dump["OptionenSignal"], 0);
         EXPECT_FALSE(Shown(dump, "Anlage1PN"));
         EXPECT_FALSE(Shown(dump, "PP1"));
+    }
+}
+
+// Under Exact chart and table of states go on telling of the same process.
+TEST(Options, TheExactProcessStaysOnTheChart) {
+    const char* const process =
+        "set LuftM1 3000\nset LuftM2 1000\nset Temp1 26\nset relF1 50\nset Temp2 -10\n"
+        "set relF2 90\n";
+    for (const bool exact : {true, false}) {
+        for (const char* leave : {"set qvopt.absD .9\nclick qvopt.Command3D5\n",
+                                  "set qvopt.qvtmaxi 50\nclick qvopt.Command3D1\n"}) {
+            ScriptSession session;
+            if (exact) {
+                session.folder.Write("qv_par.dat",
+                                     "1.013\r\n-20\r\n40\r\n0\r\n40\r\n0\r\n0\r\n1\r\n1\r\n");
+            }
+            const auto dumps = session.Run(std::string(process) +
+                                           "click MischButt\ndump PP1 PP3 ZAeLine tmLab PP4\n"
+                                           "click optButt\n" +
+                                           leave + "dump PP1 PP3 ZAeLine tmLab PP4\n");
+            for (const char* mark : {"PP1", "PP3", "ZAeLine", "tmLab"}) {
+                ASSERT_TRUE(Shown(dumps[0], mark)) << mark;
+                EXPECT_EQ(Shown(dumps[1], mark), exact) << mark << leave;
+            }
+            EXPECT_FALSE(Shown(dumps[1], "PP4"));
+            // A chart that reaches higher has every state lower.
+            const bool moved = dumps[0]["PP1"]["top"] != dumps[1]["PP1"]["top"];
+            EXPECT_EQ(moved, exact && std::string(leave).find("qvtmaxi") != std::string::npos);
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 // Print-out and help as a user meets them on the main form.
 
+#include "base/number_text.h"
 #include "printing/print_device.h"
 #include "script_session.h"
 
@@ -25,6 +26,9 @@ struct KeptPages : PrintDevice {
 
 struct PrintedSession : ScriptSession {
     KeptPages printer;
+    void ChooseExact() {
+        folder.Write("qv_par.dat", "1.013\r\n-20\r\n40\r\n0\r\n40\r\n0\r\n0\r\n1\r\n1\r\n");
+    }
     std::vector<Json> RunPrinting(const std::string& script) {
         std::istringstream input(script);
         std::ostringstream output;
@@ -42,6 +46,22 @@ struct PrintedSession : ScriptSession {
 
 constexpr const char* kCapacity =
     "set LuftM1 3000\nset Temp1 32\nset relF1 40\nset Temp2 16\nset relF2 90\nclick BearButt\n";
+
+constexpr const char* kPlant =
+    "set vhAnlage 10000\nset aussenAnt 3\nset tabLuft 26\nset PHIAbluft 50\nset Taus 32\n"
+    "set PhiAussen 40\nset tKA 12\nset phiKanal 95\nset TZuluft 18\nset PHIZuluft 64\n"
+    "set dtVent1 1\nset dtVent2 0.5\nclick AnlageButt\n";
+
+// With where they stand: the labels on the chart move with the process.
+std::vector<std::string> TextsOf(const Sheet& sheet) {
+    std::vector<std::string> texts;
+    for (const SheetItem& item : sheet.Items()) {
+        if (item.kind != SheetItem::Kind::Text) continue;
+        texts.push_back(item.text);
+        if (item.on_chart) texts.back().append(NumberText(item.x1)).append(NumberText(item.y1));
+    }
+    return texts;
+}
 
 bool Holds(const Sheet& sheet, const std::string& text) {
     const auto& items = sheet.Items();
@@ -116,6 +136,61 @@ TEST(PrintingActs, CancelledRoadsLeaveEverything) {
         EXPECT_TRUE(session.printer.pages.empty()) << road;
         EXPECT_EQ(dumps[1]["PanelZustand"], dumps[0]["PanelZustand"]) << road;
         EXPECT_EQ(dumps[1]["DialogMode"], 0) << road;
+    }
+}
+
+// What was typed last is on the page, as if Return had been pressed in each field; under the
+// suite's convention the page has the process that was computed last.
+TEST(PrintingActs, ExactPagesBelongToTheFieldsAsTheyStand) {
+    const struct {
+        std::string shown, typed, confirmed;
+    } rows[] = {
+        {kCapacity, "set Temp1 30\nset relF2 80\n", "return Temp1\nset relF2 80\nreturn relF2\n"},
+        {kCapacity, "set Kleist 40\n", "return Kleist\n"},
+        {kPlant, "set Taus 20\nset vhinnen 3000\n", "return vhinnen\n"},
+        {kPlant + std::string("click Command3D6\n"), "", ""},
+        {kPlant, "set Taus 20\nclick Command3D6\n",
+         "click AnlageButt\nreturn Taus\nclick Command3D6\n"},
+    };
+    for (const bool exact : {true, false}) {
+        for (const auto& row : rows) {
+            PrintedSession left_typed, confirmed;
+            if (exact) left_typed.ChooseExact(), confirmed.ChooseExact();
+            left_typed.RunPrinting(row.shown + row.typed + "print x.pdf\n");
+            confirmed.RunPrinting(row.shown + row.typed + row.confirmed + "print x.pdf\n");
+            ASSERT_EQ(left_typed.printer.pages.size(), 1U) << row.typed;
+            ASSERT_EQ(confirmed.printer.pages.size(), 1U) << row.typed;
+            const bool same = TextsOf(left_typed.printer.pages[0].second) ==
+                              TextsOf(confirmed.printer.pages[0].second);
+            EXPECT_EQ(same, exact || row.typed.empty()) << row.shown << row.typed;
+        }
+    }
+}
+
+TEST(PrintingActs, ExactPagesAreRefusedWhereTheChartHasAnotherProcess) {
+    const struct {
+        std::string acts;
+        bool printed;
+    } rows[] = {{kCapacity + std::string("set relF1 150\n"), false},
+                {kPlant + std::string("set PhiAussen -1\n"), false},
+                {kCapacity + std::string("set LuftM1 0\n"), true},  // without loads
+                {"click BearButt\n", true}};                        // nothing is drawn
+    for (const auto& row : rows) {
+        PrintedSession session;
+        session.ChooseExact();
+        const auto dumps =
+            session.RunPrinting(row.acts + "print x.pdf\nclick PrintPreview\ndump\n");
+        EXPECT_EQ(session.printer.pages.size(), row.printed ? 1U : 0U) << row.acts;
+        EXPECT_EQ(session.printer.previews, row.printed ? 1 : 0) << row.acts;
+        int words = 0;
+        for (const auto& dialog : dumps[0]["dialogs"]) {
+            words += dialog["text"].get<std::string>().starts_with("The process on the chart");
+        }
+        EXPECT_EQ(words, row.printed ? 0 : 2) << row.acts;
+        if (!row.printed) continue;
+        for (const std::string& text : TextsOf(session.printer.pages[0].second)) {
+            EXPECT_FALSE(text.starts_with("Capacity Total")) << row.acts;
+        }
     }
 }
 

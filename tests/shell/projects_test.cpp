@@ -160,6 +160,53 @@ std::vector<std::string> Texts(const std::vector<Json>& dumps, const char* name)
     return texts;
 }
 
+// What a file lacks is told, by how much and where, and is not called loaded.
+TEST(Projects, AnIncompleteProjectIsNotCalledLoaded) {
+    const std::string whole = StateWith("10");
+    const std::size_t last = whole.rfind('\n', whole.size() - 2) + 1;
+    const struct {
+        std::string state, tag, words;  // words empty: loaded
+    } rows[] = {
+        {whole, "QV", ""},
+        {whole.substr(0, last), "QV", ""},  // an older file
+        {"\"12\"\r\n\"32\"\r\n\"18\"\r\n\"26", "QV", "is incomplete: 16 of 20 inputs"},
+        {"abc\r\n\xff\xfe", "QV", "is incomplete: 20 of 20 inputs"},
+        {"", "QV", "is incomplete: 20 of 20 inputs"},
+        {whole, "XY", "is a project of another module (XY)"},
+    };
+    for (const auto& row : rows) {
+        ScriptSession session;
+        const std::string folder = session.folder.Path().string();
+        session.folder.Write("A.prj", "\"A\",\"R\",\"\",\"" + row.tag + "\"\r\n" + row.state);
+        const auto d = session.Run("set Taus 31\nclick ProLad\nset ProjLaden.Text1 " + folder +
+                                   "\nreturn ProjLaden.Text1\nset ProjLaden.ProNam A.prj\n"
+                                   "click ProjLaden.Command3D1\ndump\n"
+                                   "click PrevState\ndump Taus\n");
+        std::string said;
+        for (const auto& dialog : d[0]["dialogs"]) {
+            if (dialog["icon"] == "stop") said = dialog["text"];
+        }
+        EXPECT_EQ(TextOf(d[0], "StatusLine"), row.words.empty() ? "Loaded" : "") << row.state;
+        EXPECT_EQ(said.empty(), row.words.empty()) << said;
+        EXPECT_NE(said.find(row.words), std::string::npos) << said;
+        const bool told = said.find("A.prj") != std::string::npos &&
+                          said.find("Restore Previous State") != std::string::npos;
+        EXPECT_EQ(told, !row.words.empty()) << said;
+        EXPECT_EQ(TextOf(d[1], "Taus"), "31") << "and the inputs of before come back";
+    }
+}
+
+TEST(Projects, ANewOneSaysHowTheInputsComeBack) {
+    ScriptSession session;
+    const auto d = session.Run(
+        "click NeuPro\ndump StatusLine\nset Taus 31\nclick NeuPro\ndump StatusLine Taus\n"
+        "click PrevState\ndump Taus\n");
+    EXPECT_EQ(TextOf(d[0], "StatusLine"), "") << "nothing was there";
+    EXPECT_TRUE(TextOf(d[1], "StatusLine").starts_with("“Restore Previous State”"));
+    EXPECT_EQ(TextOf(d[1], "Taus"), "");
+    EXPECT_EQ(TextOf(d[2], "Taus"), "31");
+}
+
 TEST(Undo, TakesBackFieldsBarsOptionsAndTools) {
     ScriptSession session;
     const std::string dump = "dump Temp1 Temp2 Option3D4 Rechenmodus Anlage1PN absF1\n";

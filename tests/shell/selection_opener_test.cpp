@@ -135,6 +135,40 @@ TEST_F(OpenerTest, TakesAUnitAndItsNeighbours) {
     EXPECT_EQ(opener.Unit()->name, "AW 21 7 mm");
 }
 
+// Without a unit there is nothing to take over: the window stays as it stood and says so.
+TEST_F(OpenerTest, StaysOpenUntilAUnitIsChosen) {
+    ASSERT_FALSE(opener.Open());
+    desk.window.UserSetText("search", "eskedal");
+    desk.window.UserClick("GoButt");
+    ASSERT_EQ(c.KatalogSpread.RowCount(), 4);
+    desk.window.UserClick("UeberNehm");
+    EXPECT_EQ(opener.React(), SelectionEnd::None);
+    EXPECT_FALSE(desk.window.closed);
+    EXPECT_EQ(c.StatusLab.text, "No unit is chosen");
+    EXPECT_EQ(c.KatalogSpread.RowCount(), 4);
+    OpenUnit(1, 5);
+    EXPECT_EQ(c.StatusLab.text, "");
+    desk.window.UserClick("UeberNehm");
+    EXPECT_EQ(opener.React(), SelectionEnd::WithResult);
+}
+
+// A file that is missing is told of where it is missing, and no longer than it is.
+TEST_F(OpenerTest, MessagesEndWithTheirKindAndWithTheirCause) {
+    const std::string index = folder.Read("I150.DAT");
+    std::filesystem::remove(folder / "I150.DAT");
+    const struct {
+        int kind;
+        bool restored, told;
+    } rows[] = {{150, false, true}, {600, false, false}, {150, false, true}, {150, true, false}};
+    for (const auto& row : rows) {
+        if (row.restored) folder.Write("I150.DAT", index);
+        opener.duty.KatalogArt = row.kind;
+        ASSERT_FALSE(opener.Open());
+        EXPECT_EQ(c.StatusLab.text.find("I150.DAT") != std::string::npos, row.told)
+            << row.kind << c.StatusLab.text;
+    }
+}
+
 TEST_F(OpenerTest, AnswersTheOtherRequests) {
     ASSERT_FALSE(opener.Open());
     const double plain = desk.selection.inputs.MassenStrom;

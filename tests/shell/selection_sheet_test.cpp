@@ -130,6 +130,20 @@ TEST(SelectionSheet, IsWrittenByteByByte) {
     }
 }
 
+// The style that is chosen in the setup holds for the header and for the sheet below it.
+TEST(SelectionSheet, HasTheDateOfItsHeader) {
+    for (const auto& [chosen, date] :
+         {std::pair{"", "03-09-2026"},
+          {"set DruckEInstell.Date_Combo 09.03.2026\n", "09.03.2026"}}) {
+        SelectionSession session;
+        session.folder.Write("I600.DAT", "");
+        session.RunOnce(std::string(kPoint) + "share KatalogArt 600\nopen\nclick druckbutt\n" +
+                        chosen + "click DruckEInstell.Okbutt\ndump PrintOwner\n");
+        const std::string sheet = DecodeText(session.folder.Read("BT_calc.DAT"));
+        EXPECT_NE(sheet.find(std::string("Date : §$&") + date), std::string::npos) << sheet;
+    }
+}
+
 TEST(SelectionSheet, FitsOnItsPage) {
     SelectionSession session;
     const std::string text = SheetOf(session, "share KatalogArt 600\nshare R_Label A+\n");
