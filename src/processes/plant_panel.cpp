@@ -91,11 +91,12 @@ bool PlantPanel::Compute() {
 bool PlantPanel::RunByTheSuite() {
     PlantRun run;
     if (!ReadInputs(run.inputs)) return false;
-    const std::string given = PHIAbluft.text;
-    const double given_phiAb = run.inputs.phiAb;
+    const std::string given = PHIAbluft.text, given_supply = PHIZuluft.text;
+    const double given_phiAb = run.inputs.phiAb, given_phiZu = run.inputs.phiZu;
     if (!CorrectHumidities(run)) return false;
     MoveHumidityBars(run.inputs);
     if (run.inputs.phiAb > given_phiAb && PHIAbluft.text != given) exhaust_raised = true;
+    if (run.inputs.phiZu > given_phiZu && PHIZuluft.text != given_supply) supply_raised = true;
     if (!MixExhaustAndOutside(run)) return false;
     if (!SupplyTheRoom(run)) return false;
     if (!ChooseTheWay(run)) return false;

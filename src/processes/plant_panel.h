@@ -53,8 +53,9 @@ class PlantPanel {
     Button AnlageAbButt{"AnlageAbButt", "abcap.bmp"}, AnlageAbButt_l{"AnlageAbButt_l"},
         Command3D6{"Command3D6", "OKcap.bmp"}, Command3D6_l{"Command3D6_l"}, Picture12{"Picture12"};
 
-    // A run has raised the exhaust humidity; whoever tells the user of it takes it back.
-    bool exhaust_raised = false;
+    // A run has raised the exhaust or the supply humidity; whoever tells the user of it takes it
+    // back.
+    bool exhaust_raised = false, supply_raised = false;
     int AnlageZweig = 0;  // 1: the run before went the way without cooler
 
     void ListControls(Form& form);

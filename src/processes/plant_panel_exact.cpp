@@ -32,12 +32,13 @@ bool PlantPanel::CorrectExactly(PlantInputs& inputs, ExactHumidities& humidities
     if (!found) return false;
     humidities = *found;
     // A raised humidity is shown cut: read again it lies a little lower, and is raised to the same.
-    if (inputs.phiZu != phiZu) ShowNumber(PHIZuluft, Cut(inputs.phiZu, kBarUnitsPerField));
-    if (inputs.phiAb != phiAb) {
-        const std::string given = PHIAbluft.text;
-        ShowNumber(PHIAbluft, Cut(inputs.phiAb, kBarUnitsPerField));
-        exhaust_raised = exhaust_raised || PHIAbluft.text != given;
-    }
+    const auto show_raised = [](TextField& field, double percent, bool& raised) {
+        const std::string given = field.text;
+        ShowNumber(field, Cut(percent, kBarUnitsPerField));
+        raised = raised || field.text != given;
+    };
+    if (inputs.phiZu != phiZu) show_raised(PHIZuluft, inputs.phiZu, supply_raised);
+    if (inputs.phiAb != phiAb) show_raised(PHIAbluft, inputs.phiAb, exhaust_raised);
     Phiaussenscroll.ShowTenths(ReadHumidity(PhiAussen));
     PhiZuscroll.ShowTenths(ParsedNumber(PHIZuluft.text));
     PHIAbscroll.ShowTenths(ParsedNumber(PHIAbluft.text));

@@ -1,5 +1,8 @@
 #include "shell/main_form.h"
 
+#include <tuple>
+#include <utility>
+
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "kernel/state_solver.h"
@@ -282,9 +285,12 @@ void MainForm::FollowAct(std::string_view control, ActKind kind) {
     undo_.Note(control, kind);
     processes.NoteFields();
     ShowOffers(controls, processes, panels_, captions);
-    if (std::exchange(processes.plant.exhaust_raised, false)) {
-        status.Say(FilledIn(captions[Caption::ExtractHumidityRaised],
-                            {Trimmed(processes.plant.PHIAbluft.text)}));
+    PlantPanel& plant = processes.plant;
+    for (const auto& [raised, word, field] :
+         {std::tuple{&plant.supply_raised, Caption::SupplyHumidityRaised, &plant.PHIZuluft},
+          {&plant.exhaust_raised, Caption::ExtractHumidityRaised, &plant.PHIAbluft}}) {
+        if (!std::exchange(*raised, false)) continue;
+        status.Say(FilledIn(captions[word], {Trimmed(field->text)}));
     }
     status.EndAct();
     controls.Undo.enabled = undo_.CanUndo();

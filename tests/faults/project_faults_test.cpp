@@ -44,7 +44,7 @@ class ProjectFaults : public testing::Test {
     const FolderContent before_ = {{"QV_ACT.dat", State("old")},
                                    {"ZANDData.dat", "0,0\r\n"},
                                    {"QV_ACT.bak", State("older")},
-                                   {"projects/Halle.PRJ", ProjectOf("project")}};
+                                   {"projects/Halle.PRJ", ProjectOf("22")}};
     const std::vector<std::string> recent_ = {"qv_recent.dat"};
 };
 

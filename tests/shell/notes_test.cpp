@@ -160,7 +160,7 @@ TEST(StatusLine, TellsWhatHasHappenedAndKeepsTheLast) {
         "dump StatusLine\nset PHIAbluft 20\nreturn PHIAbluft\ndump\nclick PSButt\n"
         "dump StatusLine\nclick PLbutt\ndump StatusLine\nclick kopieren\ndump StatusLine\n"
         "pointer press 900 300\npointer release 900 300\ndump StatusLine\n");
-    EXPECT_EQ(dumps[0]["StatusLine"]["text"], "");
+    EXPECT_EQ(dumps[0]["StatusLine"]["text"], "Supply air humidity raised to 64.1 %");
     const std::string raised = TextOf(dumps[1], "PHIAbluft");
     EXPECT_EQ(
         dumps[1]["StatusLine"]["text"],
@@ -173,6 +173,24 @@ TEST(StatusLine, TellsWhatHasHappenedAndKeepsTheLast) {
     EXPECT_TRUE(tip.ends_with("Copied to the clipboard\nLoaded\nSaved\n" +
                               dumps[1]["StatusLine"]["text"].get<std::string>()))
         << tip;
+}
+
+// The coil of 12 degC and 95 % leaves 8.36 g/kg in the air: at 18 degC 64.3 to 64.5 % by either
+// convention.
+TEST(StatusLine, TellsThatTheSupplyHumidityWasRaised) {
+    for (const bool exact : {false, true}) {
+        for (const char* humidity : {"60", "66"}) {
+            ScriptSession session;
+            session.folder.Write("qv_par.dat",
+                                 std::string("1.013,-20,40,0,40,0,0,1") + (exact ? ",1" : ""));
+            std::string plant = kPlant;
+            plant.replace(plant.find("PHIZuluft 64") + 10, 2, humidity);
+            const auto dump = session.RunOnce(plant + "dump\n");
+            EXPECT_EQ(TextOf(dump, "StatusLine").starts_with("Supply air humidity raised to 64."),
+                      std::string(humidity) == "60")
+                << humidity << exact << TextOf(dump, "StatusLine");
+        }
+    }
 }
 
 // What is taken back is no longer true; the tool tip still tells what was said.
