@@ -243,6 +243,13 @@ class PairSearch {
         return iced;
     }
 
+    // A point holds temperature and humidity themselves.
+    bool Keeps(const RealAirPoint& point, GivenFigure kept) const {
+        if (Rank(kept.figure) <= Rank(AirFigure::RelativeHumidity)) return true;
+        const auto strayed = Above(kept, point);
+        return strayed && std::abs(*strayed) <= SlackOf(kept);
+    }
+
     PairAnswer On(const Way& way, GivenFigure kept, GivenFigure other) const {
         bool known = true;
         const auto missing = [&](double at) {
@@ -261,8 +268,7 @@ class PairSearch {
                                          : RootOfFalling(way.low, way.high, close, missing);
         const auto point = PointOn(kept, at);
         if (!known || !point) return {PairEnd::OutsideModel};
-        const auto strayed = Above(kept, *point);
-        if (!strayed || std::abs(*strayed) > SlackOf(kept)) return {PairEnd::OutsideModel};
+        if (!Keeps(*point, kept)) return {PairEnd::OutsideModel};
         return Found(*point);
     }
 
