@@ -12,8 +12,7 @@ namespace zandrell {
 namespace {
 
 constexpr double kGramsPerKg = 1000;
-constexpr double kWaterFactor = 100;  // of the water that a cooler is shown with
-constexpr double kNoWater = 1e-6;     // g/kg, what a search for a state leaves
+constexpr double kNoWater = 1e-6;  // g/kg, what a search for a state leaves
 
 std::optional<double> Positive(double figure) {
     return figure > 0 ? std::optional(figure) : std::nullopt;
@@ -104,7 +103,7 @@ ProcessStates PlantPanel::States() const {
                          : "";
     };
     const auto water = [&](const AirPoint& from, const AirPoint& to) {
-        return IsExact() ? GainText(total * (to.x - from.x) / kGramsPerKg, kWaterFactor) : "";
+        return IsExact() ? GainText(total * (to.x - from.x) / kGramsPerKg, way_.Anzeigefaktor) : "";
     };
     ProcessState* extract = add(words[Caption::ExtractAir], way_.mixing.exhaust, total);
     extract->percent = ParsedNumber(PHIAbluft.text);

@@ -1,5 +1,6 @@
 #include "shell/options_form.h"
 
+#include <array>
 #include <cmath>
 
 #include "base/file_names.h"
@@ -22,6 +23,10 @@ double PressureAtHeight(double height_m) {
     return kHalfOfLastDecimal +
            kSurfacePressure *
                std::pow(1 - kLapseRate * height_m / kSurfaceTemperature, kPressureExponent);
+}
+
+std::array<TextField*, 6> TypedFields(OptionsForm& form) {
+    return {&form.absD, &form.geoH, &form.qvTmind, &form.qvtmaxi, &form.Xmini, &form.Xmaxi};
 }
 
 }  // namespace
@@ -50,7 +55,7 @@ void OptionsForm::ListControls() {
 
 void OptionsForm::BindActs() {
     acts.Add(geoH.name, ActKind::Return, [this] { TakeHeight(); });
-    for (TextField* field : {&absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi}) {
+    for (TextField* field : TypedFields(*this)) {
         acts.Add(field->name, ActKind::Change, [this, field] {
             field->hint.clear();
             if (field == &geoH || field == &absD) height_typed_ = field == &geoH;
@@ -103,7 +108,7 @@ void OptionsForm::SetCaptions() {
 
 void OptionsForm::Open() {
     closed = height_typed_ = false;
-    for (TextField* field : {&absD, &geoH, &qvTmind, &qvtmaxi, &Xmini, &Xmaxi}) field->hint.clear();
+    for (TextField* field : TypedFields(*this)) field->hint.clear();
     SetCaptions();
     ChartSettings settings;
     ReadChartSettings(files_, settings);

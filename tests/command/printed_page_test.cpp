@@ -6,6 +6,7 @@
 #include <set>
 #include <sstream>
 
+#include "base/number_text.h"
 #include "command/sheet_text.h"
 #include "gtest/gtest.h"
 #include "support/test_folder.h"
@@ -205,6 +206,25 @@ TEST_F(PrintedPage, TheTableOfStatesIsASecondPage) {
         for (const char* word : {"State Table", "Density /[kg/m³]", "Pressure /[bar]"}) {
             EXPECT_EQ(text.find(word) != std::string::npos, table) << options << word;
         }
+    }
+}
+
+// However large the plant is, by which its figures are cut.
+TEST_F(PrintedPage, BothPagesTellTheSameCondensate) {
+    for (const char* flow : {"500", "10000", "40000", "400000"}) {
+        Print(std::string(kPlantScript) + "set vhAnlage " + flow + "\nreturn vhAnlage\n",
+              "--states --convention exact");
+        const std::string text = Text(), word = "Water /[kg/h] :";
+        const auto place = text.find(word);
+        ASSERT_NE(place, std::string::npos) << text;
+        std::string condensate;
+        std::istringstream(text.substr(place + word.size())) >> condensate;
+        EXPECT_GT(ParsedNumber(condensate), 0) << flow;
+        std::istringstream row(text.substr(text.find("Water to Air", place)));
+        std::string cells;
+        std::getline(row, cells);
+        EXPECT_NE((cells + " ").find(" -" + condensate + " "), std::string::npos)
+            << flow << cells << condensate;
     }
 }
 
